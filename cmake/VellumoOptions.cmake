@@ -1,0 +1,21 @@
+# What every target of the project is compiled with; targets link vellumo_options for it.
+add_library(vellumo_options INTERFACE)
+target_compile_features(vellumo_options INTERFACE cxx_std_20)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+if(MSVC)
+    target_compile_options(vellumo_options INTERFACE /W4 /utf-8 /permissive-)
+else()
+    target_compile_options(vellumo_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+endif()
+
+if(VELLUMO_WARNINGS_ARE_ERRORS)
+    set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+endif()
+
+if(VELLUMO_SANITIZE)
+    target_compile_options(vellumo_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(vellumo_options INTERFACE -fsanitize=address,undefined)
+endif()
