@@ -1,0 +1,11 @@
+#include "model/result.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+QString Describe(const Error &error)
+{
+    QString where = error.file;
+    if (error.line > 0)
+        where += u":%1"_s.arg(error.line);
+    return where.isEmpty() ? error.text : where + ": "_L1 + error.text;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+#include <utility>
+#include <variant>
+
+/// What went wrong, ready to show; line counts from 1, 0 = none applies.
+struct Error {
+    QString text;
+    QString file = {};
+    int line = 0;
+};
+
+/// The error as file:line: text, with the parts that apply.
+QString Describe(const Error &error);
+
+/// A T, or the Error that stood in its way.
+template <typename T> class [[nodiscard]] Result
+{
+public:
+    Result(T value) : m_state(std::in_place_index<0>, std::move(value)) {}
+    Result(Error error) : m_state(std::in_place_index<1>, std::move(error)) {}
+
+    explicit operator bool() const { return m_state.index() == 0; }
+    T &operator*() { return std::get<0>(m_state); }
+    const T &operator*() const { return std::get<0>(m_state); }
+    T *operator->() { return &std::get<0>(m_state); }
+    const T *operator->() const { return &std::get<0>(m_state); }
+    const Error &error() const { return std::get<1>(m_state); }
+
+private:
+    std::variant<T, Error> m_state;
+};
+
+/// Done, or the Error that stood in the way.
+using Outcome = Result<std::monostate>;
+inline const Outcome done = Outcome(std::monostate());

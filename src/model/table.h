@@ -1,0 +1,114 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <functional>
+#include <ranges>
+#include <vector>
+
+/// Rows in the order in which they were added, with a cursor and a filter.
+///
+/// While a filter is set the table behaves as if it held only the rows that pass. The cursor stands
+/// on a row, before the first or past the last; an empty table is at its start and at its end.
+template <typename Row> class Table
+{
+public:
+    using Filter = std::function<bool(const Row &)>;
+    /// A place of the cursor; good until a row is deleted.
+    using Position = qsizetype;
+
+    qsizetype Count() const { return std::ranges::distance(Shown()); }
+    bool AtStart() const { return m_cursor < 0 || NextShown(0) == End(); }
+    bool AtEnd() const { return m_cursor >= End() || NextShown(0) == End(); }
+
+    /// The row under the cursor, which must stand on one.
+    Row &Current() { return m_rows[CurrentIndex()]; }
+    const Row &Current() const { return m_rows[CurrentIndex()]; }
+
+    /// The rows that pass the filter, in table order; the cursor stays where it is.
+    auto Shown() const
+    {
+        return m_rows | std::views::filter([this](const Row &row) { return Passes(row); });
+    }
+
+    Position GetPosition() const { return m_cursor; }
+    void SetPosition(Position position)
+    {
+        Q_ASSERT(position >= -1 && position <= End());
+        m_cursor = position;
+    }
+
+    void MoveFirst() { m_cursor = NextShown(0); }
+    void MoveLast() { m_cursor = PreviousShown(End() - 1); }
+    void MoveNext() { m_cursor = NextShown(std::min(m_cursor, End() - 1) + 1); }
+    void MovePrevious() { m_cursor = PreviousShown(std::max<Position>(m_cursor, 0) - 1); }
+
+    /// Appends a row, whether it passes the filter or not, and makes it current.
+    Row &Append(Row row = {})
+    {
+        m_rows.push_back(std::move(row));
+        m_cursor = End() - 1;
+        return m_rows.back();
+    }
+
+    /// Deletes the current row; the one that followed becomes current, or the end is reached.
+    void Delete()
+    {
+        m_rows.erase(m_rows.begin() + static_cast<Position>(CurrentIndex()));
+        m_cursor = NextShown(m_cursor);
+    }
+
+    /// Deletes every row that passes the filter, in one pass over the table.
+    void DeleteShown()
+    {
+        std::erase_if(m_rows, [this](const Row &row) { return Passes(row); });
+        m_cursor = End();
+    }
+
+    /// Deletes every row and drops the filter.
+    void Clear()
+    {
+        ClearFilter();
+        DeleteShown();
+    }
+
+    /// Shows only the rows that pass; the cursor goes to the first of them.
+    void SetFilter(Filter filter)
+    {
+        m_filter = std::move(filter);
+        MoveFirst();
+    }
+
+    /// Shows all rows again; the cursor goes to the first.
+    void ClearFilter() { SetFilter({}); }
+
+private:
+    Position End() const { return static_cast<Position>(m_rows.size()); }
+    bool Passes(const Row &row) const { return !m_filter || m_filter(row); }
+    bool Passes(Position index) const { return Passes(m_rows[static_cast<size_t>(index)]); }
+
+    size_t CurrentIndex() const
+    {
+        Q_ASSERT(m_cursor >= 0 && m_cursor < End());
+        return static_cast<size_t>(m_cursor);
+    }
+
+    Position NextShown(Position index) const
+    {
+        while (index < End() && !Passes(index))
+            ++index;
+        return index;
+    }
+
+    Position PreviousShown(Position index) const
+    {
+        while (index >= 0 && !Passes(index))
+            --index;
+        return index;
+    }
+
+    std::vector<Row> m_rows;
+    Filter m_filter;
+    Position m_cursor = -1;
+};
