@@ -1,0 +1,65 @@
+#include "model/project_file.h"
+
+#include "model/project_reader.h"
+#include "model/project_writer.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Four times the file of 128 questions with 255 items each and all texts of the largest length.
+constexpr qint64 largestFile = 16 * 1024 * 1024;
+
+} // namespace
+
+Outcome LoadProject(Project &project)
+{
+    const QString path = std::exchange(project.path, {});
+    const Result<QByteArray> bytes = ReadWholeFile(path);
+    if (!bytes)
+        return bytes.error();
+    Result<Project> read = ReadProject(*bytes);
+    if (!read)
+        return Error{read.error().text, path, read.error().line};
+    project = std::move(*read);
+    project.path = path;
+    return done;
+}
+
+Outcome SaveProject(Project &project, const QString &path)
+{
+    const Result<QByteArray> bytes = WriteProject(project);
+    if (!bytes)
+        return Error{bytes.error().text, path};
+    const Outcome replaced = ReplaceFile(path, *bytes);
+    if (replaced)
+        project.path = path;
+    return replaced;
+}
+
+Result<QByteArray> ReadWholeFile(const QString &path)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir())
+        return Error{u"Is a folder"_s, path};
+    if (!file.open(QIODevice::ReadOnly))
+        return Error{file.errorString(), path};
+    QByteArray bytes = file.read(largestFile + 1);
+    if (file.error() != QFileDevice::NoError)
+        return Error{file.errorString(), path};
+    if (bytes.size() > largestFile)
+        return Error{u"The file is larger than any project can be"_s, path};
+    return bytes;
+}
+
+Outcome ReplaceFile(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return Error{file.errorString(), path};
+    return done;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "model/project.h"
+#include "model/result.h"
+
+#include <QByteArray>
+
+/// The bytes of a project's file: XML in windows-1252 with CR LF, one element a line, every value
+/// without the blanks at its ends and in a CDATA section. A value that holds "]]>" is written as it
+/// stands, and the file cannot be read again.
+///
+/// Fails at the first character that windows-1252 or XML does not have.
+Result<QByteArray> WriteProject(const Project &project);
