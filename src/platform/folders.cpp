@@ -1,0 +1,23 @@
+#include "platform/folders.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+using namespace Qt::Literals::StringLiterals;
+
+QString ApplicationFolder()
+{
+    return QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
+}
+
+QString ProjectsFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir::toNativeSeparators(documents + "/My Vellumo/"_L1);
+}
+
+bool MakeProjectsFolder()
+{
+    return QDir().mkpath(ProjectsFolder());
+}

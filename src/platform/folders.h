@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// The folder of the running program, without a separator at its end.
+QString ApplicationFolder();
+
+/// "My Vellumo" in the user's documents folder, with a separator at its end; receives the
+/// databases.
+QString ProjectsFolder();
+
+/// Makes the projects folder, and the documents folder above it, where they are missing. False when
+/// that could not be done.
+bool MakeProjectsFolder();

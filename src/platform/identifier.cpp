@@ -1,0 +1,8 @@
+#include "platform/identifier.h"
+
+#include <QUuid>
+
+QString MakeIdentifier()
+{
+    return QUuid::createUuid().toString().toUpper();
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// A new globally unique identifier in registry form with upper-case digits:
+/// {XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}.
+QString MakeIdentifier();

@@ -1,0 +1,50 @@
+#include "platform/files.h"
+
+#include "support/files.h"
+#include "support/ordinary_user.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(Files, WritesAnewAndDeletes)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.txt"_s);
+    EXPECT_FALSE(WriteFile(path, "long content"));
+    EXPECT_FALSE(WriteFile(path, "short"));
+    EXPECT_EQ(BytesOf(path), "short");
+    EXPECT_FALSE(DeleteFile(path));
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_FALSE(DeleteFile(path)) << "what does not exist is no fault";
+}
+
+TEST(Files, TellsDeniedPermissionFromOtherFaults)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.txt"_s);
+    ASSERT_TRUE(WriteBytes(path, "kept"));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOther | QFile::ExeOther |
+                                                         QFile::ReadOwner | QFile::ExeOwner));
+    {
+        const AsOrdinaryUser ordinary;
+        const auto writing = WriteFile(folder.filePath(u"b.txt"_s), "x");
+        ASSERT_TRUE(writing);
+        EXPECT_TRUE(writing->permissionDenied);
+        EXPECT_EQ(writing->description, u"Permission denied"_s);
+        const auto deleting = DeleteFile(path);
+        ASSERT_TRUE(deleting);
+        EXPECT_TRUE(deleting->permissionDenied);
+        EXPECT_EQ(deleting->description, u"Permission denied"_s);
+    }
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+    const auto noFolder = WriteFile(folder.filePath(u"none/a.txt"_s), "x");
+    ASSERT_TRUE(noFolder);
+    EXPECT_FALSE(noFolder->permissionDenied);
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"full/inner"_s));
+    const auto notEmpty = DeleteFile(folder.filePath(u"full"_s));
+    ASSERT_TRUE(notEmpty);
+    EXPECT_FALSE(notEmpty->permissionDenied);
+}

@@ -1,0 +1,31 @@
+#include "platform/folders.h"
+
+#include "support/files.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(Folders, TheProjectsFolderIsMadeWithWhatIsAboveIt)
+{
+    const QTemporaryDir home;
+    qputenv("HOME", QFile::encodeName(home.path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u".config"_s)));
+
+    EXPECT_EQ(ProjectsFolder(), home.path() + u"/Documents/My Vellumo/"_s);
+    EXPECT_TRUE(MakeProjectsFolder());
+    EXPECT_TRUE(QDir(ProjectsFolder()).exists());
+    ASSERT_TRUE(WriteBytes(ProjectsFolder() + u"a.prc"_s, "kept"));
+    EXPECT_TRUE(MakeProjectsFolder()) << "one that exists is left alone";
+    EXPECT_EQ(NamesIn(ProjectsFolder()), QStringList{u"a.prc"_s});
+}
+
+TEST(Folders, SaysWhenTheProjectsFolderCannotBeMade)
+{
+    const QTemporaryDir home;
+    qputenv("HOME", QFile::encodeName(home.path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u".config"_s)));
+    ASSERT_TRUE(WriteBytes(home.filePath(u"Documents"_s), "a file in the way"));
+    EXPECT_FALSE(MakeProjectsFolder());
+}
