@@ -1,0 +1,34 @@
+// Stands in for an external tool. Its arguments are orders: "print TEXT" and "complain TEXT" write
+// to standard output and standard error, "write FILE TEXT" makes a file in the current folder,
+// "fail STATUS" ends it, "crash" kills it. All arguments are first written to arguments.txt.
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <vector>
+
+int main(int argc, char *argv[])
+{
+    const std::vector<std::string> orders(argv + 1, argv + argc);
+    std::ofstream record("arguments.txt", std::ios::binary);
+    for (const std::string &order : orders)
+        record << order << '\n';
+    record.close();
+
+    for (size_t i = 0; i < orders.size(); ++i) {
+        if (orders[i] == "print")
+            std::cout << orders[++i] << std::endl;
+        else if (orders[i] == "complain")
+            std::cerr << orders[++i] << std::endl;
+        else if (orders[i] == "fail")
+            return std::atoi(orders[++i].c_str());
+        else if (orders[i] == "crash")
+            std::raise(SIGKILL);
+        else if (orders[i] == "write") {
+            std::ofstream(orders[i + 1], std::ios::binary) << orders[i + 2];
+            i += 2;
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,84 @@
+#include "palmgen/tool_runner.h"
+
+#include "support/files.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class ToolRunner : public testing::Test
+{
+protected:
+    ToolRun Run(const QStringList &arguments) const
+    {
+        return RunAndWait({.name = u"fake_tool"_s,
+                           .arguments = arguments,
+                           .workingFolder = m_folder.path(),
+                           .commandLine = u"the command line"_s},
+                          {QStringLiteral(FAKE_TOOL_FOLDER)});
+    }
+
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(ToolRunner, WaitsForTheToolAndRunsItInItsFolder)
+{
+    const ToolRun run = Run({u"print"_s, u"working"_s, u"write"_s, u"made.txt"_s, u"content"_s});
+    EXPECT_TRUE(run.started);
+    EXPECT_TRUE(run.succeeded);
+    EXPECT_EQ(run.messages, u""_s) << "standard output is not for us";
+    EXPECT_EQ(run.commandLine, u"the command line"_s);
+    EXPECT_EQ(BytesOf(m_folder.filePath(u"made.txt"_s)), "content");
+}
+
+TEST_F(ToolRunner, KeepsTheToolsOwnWordsAndStatus)
+{
+    const ToolRun failed = Run({u"complain"_s, u"no good"_s, u"fail"_s, u"3"_s});
+    EXPECT_TRUE(failed.started);
+    EXPECT_FALSE(failed.succeeded);
+    EXPECT_EQ(failed.messages, u"no good\n"_s);
+
+    const ToolRun crashed = Run({u"crash"_s});
+    EXPECT_TRUE(crashed.started);
+    EXPECT_FALSE(crashed.succeeded);
+}
+
+TEST_F(ToolRunner, NoArgumentEverPassesThroughAShell)
+{
+    const QStringList odd = {u"a;touch x"_s, u"$(id)"_s,  u"`id`"_s, u"a b"_s, u"\"quoted\""_s,
+                             u"'single'"_s,  u"> file"_s, u"*"_s,    u""_s,    u"caf\u00E9"_s};
+    EXPECT_TRUE(Run(odd).succeeded);
+    EXPECT_EQ(BytesOf(m_folder.filePath(u"arguments.txt"_s)), odd.join(u'\n').toUtf8() + "\n");
+    EXPECT_EQ(NamesIn(m_folder.path()), QStringList{u"arguments.txt"_s});
+}
+
+TEST_F(ToolRunner, SaysWhyAToolDidNotStart)
+{
+    const ToolRun missing = RunAndWait({.name = u"no-such-tool-anywhere"_s,
+                                        .arguments = {},
+                                        .workingFolder = m_folder.path(),
+                                        .commandLine = u"no-such-tool-anywhere"_s},
+                                       {m_folder.path()});
+    EXPECT_FALSE(missing.started);
+    EXPECT_FALSE(missing.succeeded);
+    EXPECT_TRUE(missing.whyNotStarted.contains(u"No such file or directory"))
+        << missing.whyNotStarted.toStdString();
+}
+
+TEST_F(ToolRunner, LooksInTheFoldersBeforePath)
+{
+    const QString ours = m_folder.filePath(u"true"_s);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(FAKE_TOOL_FOLDER "/fake_tool"), ours));
+    const ToolCall call = {.name = u"true"_s,
+                           .arguments = {u"fail"_s, u"1"_s},
+                           .workingFolder = m_folder.path(),
+                           .commandLine = u"true"_s};
+    EXPECT_FALSE(RunAndWait(call, {m_folder.path()}).succeeded);
+    EXPECT_TRUE(RunAndWait(call, {u"/nowhere"_s}).succeeded) << "that of PATH";
+    EXPECT_TRUE(RunAndWait(call, {}).succeeded);
+}
