@@ -260,11 +260,12 @@ TEST(ObjectReader, LetsTheLastAttributeCount)
 
 TEST(ObjectReader, ReadsTextsAndNumbers)
 {
-    const FormObject list = Objects("LIST \"a\" + \"b\" \"c\" \"\" ID 4 AT (1 2 3 4)").Next();
+    Objects objects("LIST \"a\" + \"b\" \"c\" \"\" ID 4 AT (1 2 3 4) POPUPLIST ID 2 3");
+    const FormObject list = objects.Next();
     EXPECT_EQ(list.texts, (std::vector<std::string_view>{"ab", "c", ""}));
     EXPECT_EQ(list.number, 4);
 
-    const FormObject popup = Objects("POPUPLIST ID 2 3").Next();
+    const FormObject popup = objects.Next();
     EXPECT_EQ(popup.number, 2);
     EXPECT_EQ(popup.listNumber, 3);
 }

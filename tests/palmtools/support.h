@@ -20,6 +20,11 @@ inline std::string Repeated(std::string_view text, std::size_t times)
     return repeated;
 }
 
+inline std::string Quoted(std::string_view text)
+{
+    return std::string("\"").append(text).append("\"");
+}
+
 /// Bytes from pairs of hexadecimal digits; blanks between them have no meaning.
 inline std::string FromHex(std::string_view digits)
 {

@@ -1,0 +1,72 @@
+#include "palmtools/resources.h"
+
+#include "palmtools/diagnostics.h"
+
+#include <utility>
+
+namespace palmtools {
+namespace {
+
+constexpr std::uint64_t largestSafeResource = 65000;
+constexpr std::size_t mostResources = 65535;
+
+/// What the resource is called in a message.
+std::string NameOf(FourBytes type, std::uint16_t number)
+{
+    return "resource '" + ShownType(type) + "' " + std::to_string(number);
+}
+
+std::string NameAsRepeated(FourBytes type, std::uint16_t number)
+{
+    if (type == FourBytesOf("tFRM"))
+        return "form " + std::to_string(number);
+    if (type == FourBytesOf("tSTL"))
+        return "string table " + std::to_string(number);
+    return NameOf(type, number);
+}
+
+} // namespace
+
+FourBytes FourBytesOf(std::string_view text)
+{
+    Bytes bytes;
+    AppendField(bytes, text, 4);
+    return BigEndian32At(bytes, 0);
+}
+
+std::string ShownType(FourBytes type)
+{
+    Bytes bytes;
+    AppendBigEndian32(bytes, type);
+    bytes.resize(bytes.find_last_not_of('\0') + 1);
+    return Shown(bytes);
+}
+
+void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t number,
+                         std::uint64_t size)
+{
+    const std::uint64_t key = std::uint64_t{type} << 16 | number;
+    if (!m_known.insert(key).second)
+        words.Fail(NameAsRepeated(type, number) + " is there twice");
+    if (m_known.size() > mostResources)
+        words.Fail("the script has more than 65535 resources");
+
+    const std::string bytes = " has " + std::to_string(size) + " bytes";
+    if (size > largestResource)
+        words.Fail(NameOf(type, number) + bytes + ", more than 65535");
+    if (size > largestSafeResource)
+        words.Warn(NameOf(type, number) + bytes);
+}
+
+void ResourceList::Add(ScriptReader &words, Resource resource)
+{
+    Admit(words, resource.type, resource.number, resource.bytes.size());
+    Keep(std::move(resource));
+}
+
+void ResourceList::Keep(Resource resource)
+{
+    m_resources.push_back(std::move(resource));
+}
+
+} // namespace palmtools

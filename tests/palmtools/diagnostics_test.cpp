@@ -1,0 +1,31 @@
+#include "palmtools/diagnostics.h"
+
+#include <gtest/gtest.h>
+
+namespace palmtools {
+namespace {
+
+TEST(Diagnostics, AreShownInEitherStyle)
+{
+    const Diagnostic error = {Severity::error, 12, "the script is empty"};
+    const Diagnostic warning = {Severity::warning, 3, "comment inside a comment"};
+    EXPECT_EQ(MessageOf(error, "a/b.rcp", MessageStyle::gnu),
+              "a/b.rcp:12: error: the script is empty\n");
+    EXPECT_EQ(MessageOf(warning, "b.rcp", MessageStyle::gnu),
+              "b.rcp:3: warning: comment inside a comment\n");
+    EXPECT_EQ(MessageOf(error, "a/b.rcp", MessageStyle::microsoft),
+              "a/b.rcp(12): error : the script is empty\n");
+    EXPECT_EQ(MessageOf(warning, "b.rcp", MessageStyle::microsoft),
+              "b.rcp(3): warning : comment inside a comment\n");
+}
+
+TEST(Diagnostics, ShowControlCharactersByTheirCodes)
+{
+    EXPECT_EQ(Shown("a b~"), "a b~");
+    EXPECT_EQ(Shown("\n\x1F\x7F"), "\\x0A\\x1F\\x7F");
+    EXPECT_EQ(Shown("\x80\xFF"), "\x80\xFF");
+    EXPECT_EQ(Shown(""), "");
+}
+
+} // namespace
+} // namespace palmtools
