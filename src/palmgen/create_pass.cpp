@@ -19,19 +19,34 @@ bool IsPlainFileName(const QString &name)
            QFileInfo(name).fileName() == name;
 }
 
-CreateReport Fail(const CreateSurroundings &surroundings, const Error &error, CreateReport report)
+/// What the user is told: the platform's words only where permission was denied.
+QString FailureMessage(const CreateReport &report)
 {
-    surroundings.tellFailure(creationError);
-    report.outcome = error;
-    return report;
+    if (report.fileFault && report.fileFault->permissionDenied)
+        return report.fileFault->description + "\r\n"_L1 + creationError;
+    return creationError;
 }
 
-CreateReport Fail(const CreateSurroundings &surroundings, const FileFault &fault,
-                  CreateReport report)
+CreateReport WriteAndBuild(const Project &project, const QString &name,
+                           const CreateSurroundings &surroundings)
 {
-    surroundings.tellFailure(fault.permissionDenied ? fault.description + "\r\n"_L1 + creationError
-                                                    : creationError);
-    report.outcome = Error{fault.description};
+    CreateReport report;
+    if (!IsPlainFileName(name)) {
+        report.projectFault = Error{u"The form name '%1' is no file name"_s.arg(name)};
+        return report;
+    }
+    const BuildPlace &place = surroundings.place;
+    const Script script = GenerateScript(project, IdentifierDigits(surroundings.makeIdentifier()));
+    report.fileFault =
+        WriteFile(place.applicationFolder + QDir::separator() + name + ".rcp"_L1, script.bytes);
+    if (!script.outcome)
+        report.projectFault = script.outcome.error();
+    if (!report.IsComplete())
+        return report;
+
+    BuildReport built = Build(name, place);
+    report.runs = std::move(built.runs);
+    report.fileFault = std::move(built.fault);
     return report;
 }
 
@@ -39,28 +54,18 @@ CreateReport Fail(const CreateSurroundings &surroundings, const FileFault &fault
 
 CreateReport CreateVellsheet(const Project &project, const CreateSurroundings &surroundings)
 {
-    const BuildPlace &place = surroundings.place;
     const QString name = TrimBlanks(project.FormName).toString();
-    if (!IsPlainFileName(name))
-        return Fail(surroundings, Error{u"The form name '%1' is no file name"_s.arg(name)}, {});
-
-    const Script script = GenerateScript(project, IdentifierDigits(surroundings.makeIdentifier()));
-    const QString path = place.applicationFolder + QDir::separator() + name + ".rcp"_L1;
-    if (const auto fault = WriteFile(path, script.bytes))
-        return Fail(surroundings, *fault, {});
-    if (!script.outcome)
-        return Fail(surroundings, script.outcome.error(), {});
-
-    const BuildReport built = Build(name, place);
-    const CreateReport report = {.runs = built.runs};
-    if (built.fault)
-        return Fail(surroundings, *built.fault, report);
-
-    const QString database = place.projectsFolder + name;
+    const CreateReport report = WriteAndBuild(project, name, surroundings);
+    if (!report.IsComplete()) {
+        surroundings.tellFailure(FailureMessage(report));
+        return report;
+    }
+    const QString folder = surroundings.place.projectsFolder;
     surroundings.tellSuccess(
-        database + ".Prc has been created. You may now install it onto your Palm handheld "
-                   "(using the Palm Install Tool) to use with Vellumo Viewer."_L1);
-    surroundings.open(database + ".prc"_L1);
-    surroundings.open(place.projectsFolder);
+        folder + name +
+        ".Prc has been created. You may now install it onto your Palm handheld "
+        "(using the Palm Install Tool) to use with Vellumo Viewer."_L1);
+    surroundings.open(folder + name + ".prc"_L1);
+    surroundings.open(folder);
     return report;
 }

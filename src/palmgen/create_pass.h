@@ -17,8 +17,11 @@ struct CreateSurroundings {
 
 /// How a Create pass ended, for those who look closer than its messages.
 struct CreateReport {
-    QList<ToolRun> runs; ///< empty when the script could not be written
-    Outcome outcome = done;
+    QList<ToolRun> runs;                ///< empty when the script could not be written
+    std::optional<Error> projectFault;  ///< what in the project stood in the way
+    std::optional<FileFault> fileFault; ///< or which file did
+
+    bool IsComplete() const { return !projectFault && !fileFault; }
 };
 
 /// Writes a project's script into the application folder, builds its database from it and tells the

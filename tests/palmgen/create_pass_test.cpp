@@ -66,7 +66,7 @@ const QString failed = u"bad Error in Vellsheet Creation!"_s;
 
 TEST_F(CreatePass, WritesTheScriptBuildsAndTells)
 {
-    EXPECT_TRUE(Create().outcome);
+    EXPECT_TRUE(Create().IsComplete());
     EXPECT_EQ(events,
               (QStringList{u"run pilrc"_s, u"run build-prc"_s,
                            u"good %1Survey.Prc has been created. You may now install it onto your "
@@ -82,7 +82,7 @@ TEST_F(CreatePass, WritesTheScriptBuildsAndTells)
 TEST_F(CreatePass, WorksWithoutAnIdentifier)
 {
     surroundings.makeIdentifier = [] { return QString(); };
-    EXPECT_TRUE(Create().outcome);
+    EXPECT_TRUE(Create().IsComplete());
     EXPECT_TRUE(script.contains("\"\" 0x00\r\n"));
 }
 
@@ -90,7 +90,7 @@ TEST_F(CreatePass, ReportsSuccessWhateverTheToolsSaid)
 {
     toolsSucceed = false;
     const CreateReport report = Create();
-    EXPECT_TRUE(report.outcome);
+    EXPECT_TRUE(report.IsComplete());
     ASSERT_EQ(report.runs.size(), 2);
     EXPECT_FALSE(report.runs[0].succeeded);
     EXPECT_TRUE(events[2].startsWith(u"good "));
@@ -100,8 +100,8 @@ TEST_F(CreatePass, AFailedScriptStaysAndNothingIsBuilt)
 {
     project.source.Questions().Current().Type = u"Checkboxes"_s;
     const CreateReport report = Create();
-    ASSERT_FALSE(report.outcome);
-    EXPECT_EQ(report.outcome.error().text, u"Question 1 is a list without items"_s);
+    ASSERT_TRUE(report.projectFault);
+    EXPECT_EQ(report.projectFault->text, u"Question 1 is a list without items"_s);
     EXPECT_EQ(events, QStringList{failed});
     EXPECT_TRUE(BytesOf(place.applicationFolder + u"/Survey.rcp"_s).startsWith("hex\"flds\""));
 }
@@ -112,7 +112,7 @@ TEST_F(CreatePass, SaysWhenPermissionIsDenied)
                           QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
     {
         const AsOrdinaryUser ordinary;
-        EXPECT_FALSE(Create().outcome);
+        EXPECT_FALSE(Create().IsComplete());
     }
     QFile::setPermissions(place.applicationFolder, QFile::Permissions(0x7755));
     EXPECT_EQ(events, QStringList{u"bad Permission denied\r\nError in Vellsheet Creation!"_s});
@@ -121,14 +121,14 @@ TEST_F(CreatePass, SaysWhenPermissionIsDenied)
 TEST_F(CreatePass, SaysNoMoreOfOtherFailures)
 {
     QDir(place.applicationFolder).mkdir(u"Survey.rcp"_s);
-    EXPECT_FALSE(Create().outcome);
+    EXPECT_FALSE(Create().IsComplete());
     EXPECT_EQ(events, QStringList{failed});
 }
 
 TEST_F(CreatePass, ADatabaseThatCannotBeDeletedEndsThePass)
 {
     QDir(place.projectsFolder).mkpath(u"Survey.prc/inner"_s);
-    EXPECT_FALSE(Create().outcome);
+    EXPECT_FALSE(Create().IsComplete());
     EXPECT_EQ(events, QStringList{failed});
 }
 
@@ -138,7 +138,7 @@ TEST_F(CreatePass, TakesNoNameThatLeadsElsewhere)
         SCOPED_TRACE(name.toStdString());
         events.clear();
         project.FormName = name;
-        EXPECT_FALSE(Create().outcome);
+        EXPECT_FALSE(Create().IsComplete());
         EXPECT_EQ(events, QStringList{failed});
     }
     EXPECT_EQ(NamesIn(m_folder.path()), (QStringList{u"app"_s, u"projects"_s}));

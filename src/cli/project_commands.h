@@ -1,0 +1,10 @@
+#pragma once
+
+#include "cli/command_line.h"
+#include "cli/console.h"
+
+/// Writes the resource script of a project to the output file or to standard output.
+Exit WriteScript(const CommandLine &line, const Console &console);
+
+/// Reads a project and saves it as the designer would: to the output file, or in its place.
+Exit RewriteProject(const CommandLine &line, const Console &console);

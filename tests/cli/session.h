@@ -1,0 +1,38 @@
+#pragma once
+
+#include "cli/vellumo.h"
+#include "support/files.h"
+#include "support/print.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+/// The headless command run in a folder of its own, with what it printed.
+class Session : public testing::Test
+{
+protected:
+    QString InFolder(const QString &name) const { return m_folder.filePath(name); }
+
+    int Run(const QStringList &words)
+    {
+        out.str({});
+        err.str({});
+        return RunVellumo(words, {out, err});
+    }
+
+    QString Out() const { return QString::fromStdString(out.str()); }
+    QString Err() const { return QString::fromStdString(err.str()); }
+
+    QTemporaryDir m_folder;
+    std::ostringstream out, err;
+
+private:
+    // The application folder is that of the running test, where no tool lies: PATH decides.
+    char m_name[8] = "vellumo";
+    char *m_arguments[2] = {m_name, nullptr};
+    int m_count = 1;
+    QCoreApplication m_application{m_count, m_arguments};
+};

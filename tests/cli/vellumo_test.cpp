@@ -1,0 +1,120 @@
+#include "session.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using Vellumo = Session;
+
+const QString identifier = u"0123456789ABCDEF0123456789ABCDEF"_s;
+const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
+
+} // namespace
+
+TEST_F(Vellumo, SaysHowToUseIt)
+{
+    EXPECT_EQ(Run({u"--help"_s}), 0);
+    for (const QString &command : {u"create"_s, u"script"_s, u"rewrite"_s}) {
+        EXPECT_TRUE(Out().contains(u"vellumo "_s + command)) << command.toStdString();
+        EXPECT_EQ(Run({command, u"--help"_s}), 0);
+    }
+    EXPECT_EQ(Err(), u""_s);
+    EXPECT_EQ(Run({u"--version"_s}), 0);
+    EXPECT_TRUE(Out().startsWith(u"vellumo 1."));
+}
+
+TEST_F(Vellumo, RefusesWrongUseOnStandardError)
+{
+    for (const QStringList &words :
+         {QStringList{}, QStringList{u"make"_s}, QStringList{u"create"_s},
+          QStringList{u"script"_s, u"a"_s, u"b"_s}, QStringList{u"rewrite"_s, u"--guid"_s, u"x"_s},
+          QStringList{u"create"_s, u"--colour"_s},
+          QStringList{u"script"_s, u"--"_s, u"--help"_s, u"--version"_s}}) {
+        SCOPED_TRACE(words.join(u' ').toStdString());
+        EXPECT_EQ(Run(words), 2);
+        EXPECT_EQ(Out(), u""_s);
+        EXPECT_TRUE(Err().endsWith(u"Try 'vellumo --help'.\n"));
+    }
+}
+
+TEST_F(Vellumo, WritesAScriptToStandardOutputOrAFile)
+{
+    const QByteArray expected = BytesOf(DataFile(u"projects/SiteVisit.rcp"_s));
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"--guid"_s, identifier.toLower()}), 0);
+    EXPECT_EQ(QByteArray::fromStdString(out.str()), expected);
+
+    const QString file = InFolder(u"a.rcp"_s);
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, file, u"--guid"_s, identifier}), 0);
+    EXPECT_EQ(Out(), u""_s);
+    EXPECT_EQ(BytesOf(file), expected);
+}
+
+TEST_F(Vellumo, MakesANewIdentifierUnlessOneIsGiven)
+{
+    Run({u"script"_s, siteVisit});
+    const QString first = Out();
+    Run({u"script"_s, siteVisit});
+    EXPECT_NE(first, Out());
+}
+
+TEST_F(Vellumo, SaysWhyAScriptCannotBeWritten)
+{
+    const QString noItems = DataFile(u"projects/edge-noitems.vmp"_s);
+    EXPECT_EQ(Run({u"script"_s, noItems}), 1);
+    EXPECT_EQ(Out(), u""_s) << "half a script is none";
+    EXPECT_EQ(Err(), noItems + u": Question 3 is a list without items\n"_s);
+
+    EXPECT_EQ(Run({u"script"_s, InFolder(u"none.vmp"_s)}), 3);
+    EXPECT_EQ(Err(), InFolder(u"none.vmp"_s) + u": No such file or directory\n"_s);
+
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, InFolder(u"none/a.rcp"_s)}), 5);
+    EXPECT_TRUE(Err().startsWith(InFolder(u"none/a.rcp"_s) + u": "_s));
+}
+
+TEST_F(Vellumo, NamesTheLineOfAProjectThatIsDamaged)
+{
+    const QString path = InFolder(u"damaged.vmp"_s);
+    WriteBytes(path, BytesOf(siteVisit).replace("<MaxId><![CDATA[11]]></MaxId>\r\n", ""));
+    EXPECT_EQ(Run({u"script"_s, path}), 3);
+    EXPECT_TRUE(Err().startsWith(path + u':')) << Err().toStdString();
+    EXPECT_TRUE(Err().endsWith(u": the element MaxId is missing\n"));
+}
+
+TEST_F(Vellumo, AStreamThatTakesNothingIsAnError)
+{
+    out.setstate(std::ios::badbit);
+    std::ostringstream err2;
+    EXPECT_EQ(RunVellumo({u"script"_s, siteVisit}, {out, err2}), 5);
+    EXPECT_EQ(err2.str(), "vellumo: Standard output cannot be written.\n");
+}
+
+TEST_F(Vellumo, RewritesAProjectInItsPlaceOrElsewhere)
+{
+    const QByteArray today = BytesOf(siteVisit);
+    const QByteArray earlier =
+        QByteArray(today).replace("Brindlecot Data Collect", "Harlo Data Collect");
+    const QString path = InFolder(u"a.vmp"_s), copy = InFolder(u"b.vmp"_s);
+    ASSERT_TRUE(WriteBytes(path, earlier));
+
+    EXPECT_EQ(Run({u"rewrite"_s, path, u"-o"_s, copy}), 0);
+    EXPECT_EQ(BytesOf(copy), today);
+    EXPECT_EQ(BytesOf(path), earlier);
+    EXPECT_EQ(Run({u"rewrite"_s, path}), 0);
+    EXPECT_EQ(BytesOf(path), today);
+    EXPECT_EQ(Out() + Err(), u""_s);
+}
+
+TEST_F(Vellumo, RewritingLeavesAFileThatItCannotReadOrWrite)
+{
+    const QString path = InFolder(u"a.vmp"_s);
+    ASSERT_TRUE(WriteBytes(path, "no project"));
+    EXPECT_EQ(Run({u"rewrite"_s, path}), 3);
+    EXPECT_EQ(BytesOf(path), "no project");
+
+    const QByteArray foreign =
+        BytesOf(siteVisit).replace("windows-1252", "UTF-8").replace("Inspector", "\xCE\xA9");
+    ASSERT_TRUE(WriteBytes(path, foreign));
+    EXPECT_EQ(Run({u"rewrite"_s, path}), 5);
+    EXPECT_TRUE(Err().contains(u"The title of question 1 has the character"));
+    EXPECT_EQ(BytesOf(path), foreign);
+}
