@@ -1,0 +1,39 @@
+#pragma once
+
+#include "model/project.h"
+
+#include <array>
+#include <vector>
+
+/// What one rule objects to.
+struct ReviewEntry {
+    int step;                ///< the step of the designer that can mend it, 1 to 3
+    QLatin1StringView code;  ///< of the rule, for machines; never changes
+    QLatin1StringView field; ///< what was judged, by its name to a user
+    QString message;
+};
+
+/// The entry as the error list shows it: "Step1", two tabs and the message.
+QString ListText(const ReviewEntry &entry);
+
+/// What is wrong with a project.
+struct ReviewResult {
+    std::array<bool, 3> stepFailed = {}; ///< of steps 1, 2 and 3
+    std::vector<ReviewEntry> entries;    ///< at most one a rule, in the order of the rules
+
+    bool Passed() const;
+};
+
+/// Applies every form rule to the project, whose form information is left without the blanks at
+/// its ends; nothing else of the project changes.
+ReviewResult ReviewProject(Project &project);
+
+/// Where a double-click on an entry of the error list leads.
+struct EntryTarget {
+    int step = 0;              ///< 1 to 3, 0 = nowhere
+    QLatin1StringView textBox; ///< objectName of the box that gets the focus; empty = it stays
+};
+
+/// The target of the entry that the list shows as this text, which may have blanks around it.
+/// An entry on the description leads to the name.
+EntryTarget TargetOfEntry(QStringView listText);
