@@ -41,10 +41,7 @@ void ReadStringTable(Arguments &arguments, ResourceList &resources)
 {
     ScriptReader &words = arguments.words();
     const std::uint16_t number = arguments.Id();
-    std::string_view prefix;
-    if (words.NextIs(WordKind::text))
-        prefix = arguments.Text();
-
+    const std::string_view prefix = arguments.Text();
     std::int64_t count = 0;
     Bytes entries;
     while (words.NextIs(WordKind::text)) {

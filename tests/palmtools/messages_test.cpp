@@ -76,6 +76,8 @@ TEST(Messages, AboutForms)
         {"the file ends inside", form + "TITLE \"a\"\n\n",
          "4 error form object expected, not 'end of file'\n"},
         {"no text", form + "TITLE 5", "3 error text expected, not '5'\n"},
+        {"a table without its prefix", "STRINGTABLE ID 7\nVERSION \"1\"",
+         "2 error text expected, not 'VERSION'\n"},
         {"no number", form + "FIELD ID AT (1 2 3 4)", "3 error number expected, not 'AT'\n"},
         {"a parenthesis missing", form + "FIELD ID 2 AT (1 2 3 4\nEND",
          "4 error ) expected, not 'END'\n"},

@@ -49,7 +49,6 @@ TEST(Statements, StringTable)
         {"a prefix", "STRINGTABLE 1 \"ab\" \"c\"", "tSTL", 1, FromHex("616200 0001 6300")},
         {"an empty entry", "STRINGTABLE 1 \"\" \"\"", "tSTL", 1, FromHex("00 0001 00")},
         {"no entry", "STRINGTABLE 1 \"ab\"", "tSTL", 1, FromHex("616200 0000")},
-        {"not even a prefix", "STRINGTABLE 1", "tSTL", 1, FromHex("00 0000")},
     });
 }
 
@@ -120,7 +119,7 @@ TEST(Statements, LetObjectsReferToTheirForm)
 TEST(Statements, StandInTheirOrder)
 {
     const Compilation compilation = CompileScript("VERSION \"1\" HEX \"b\" 2 HEX \"b\" 1 // end\n"
-                                                  "STRINGTABLE 5 /* none */ HEX \"a\" 3 1");
+                                                  "STRINGTABLE 5 \"\" /* none */ HEX \"a\" 3 1");
     std::string order;
     for (const Resource &resource : compilation.resources)
         order += ShownType(resource.type) + std::to_string(resource.number) + " ";
