@@ -11,8 +11,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Four times the file of 128 questions with 255 items each and all texts of the largest length.
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+/// Writes on after a part, so that what stopped it shows as the file's error.
+bool WriteAll(QSaveFile &file, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const qint64 written = file.write(bytes.data(), bytes.size());
+        if (written <= 0)
+            return false;
+        bytes = bytes.sliced(written);
+    }
+    return true;
+}
 
 } // namespace
 
@@ -59,7 +68,9 @@ Result<QByteArray> ReadWholeFile(const QString &path)
 Outcome ReplaceFile(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // Unbuffered, since commit() would not notice that its last flush failed, as on a full disk.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteAll(file, bytes) ||
+        !file.commit())
         return Error{file.errorString(), path};
     return done;
 }

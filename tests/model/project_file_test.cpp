@@ -1,6 +1,7 @@
 #include "model/project_file.h"
 
 #include "support/files.h"
+#include "support/full_disk.h"
 #include "support/ordinary_user.h"
 #include "support/print.h"
 
@@ -118,4 +119,19 @@ TEST_F(ProjectFile, AFolderThatVanishedIsSaid)
     Project project;
     EXPECT_FALSE(SaveProject(project, InFolder(u"gone/x.vmp"_s)));
     EXPECT_EQ(project.path, u""_s);
+}
+
+TEST_F(ProjectFile, AFullDiskIsNoticedWhateverTheSize)
+{
+    const QString path = InFolder(u"kept.vmp"_s);
+    ASSERT_TRUE(WriteBytes(path, "what stood there"));
+    for (const int size : {1001, 3000, 16384, 100000}) {
+        SCOPED_TRACE(size);
+        const FullDisk full(1000);
+        const Outcome outcome = ReplaceFile(path, QByteArray(size, 'x'));
+        ASSERT_FALSE(outcome);
+        EXPECT_EQ(outcome.error().text, u"File too large"_s);
+    }
+    EXPECT_EQ(BytesOf(path), "what stood there");
+    EXPECT_EQ(NamesIn(m_folder.path()), QStringList{u"kept.vmp"_s});
 }
