@@ -4,7 +4,11 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace {
+
+constexpr qsizetype mostMessages = 64 * 1024; // in bytes
 
 QString FindTool(const QString &name, const QStringList &folders)
 {
@@ -16,15 +20,24 @@ QString FindTool(const QString &name, const QStringList &folders)
     return found.isEmpty() ? name : found;
 }
 
+void KeepMessages(QProcess &process, QByteArray &messages)
+{
+    const QByteArray more = process.readAllStandardError();
+    messages.append(more.first(std::min(more.size(), mostMessages - messages.size())));
+}
+
 } // namespace
 
-ToolRun RunAndWait(const ToolCall &call, const QStringList &folders)
+ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
 {
     QProcess process;
     process.setWorkingDirectory(call.workingFolder);
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(FindTool(call.name, folders), call.arguments);
+    QByteArray messages;
+    QObject::connect(&process, &QProcess::readyReadStandardError,
+                     [&] { KeepMessages(process, messages); });
+    process.start(FindTool(call.name, limits.folders), call.arguments);
 
     ToolRun run;
     run.commandLine = call.commandLine;
@@ -34,8 +47,13 @@ ToolRun RunAndWait(const ToolCall &call, const QStringList &folders)
         return run;
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    process.waitForFinished(-1);
-    run.succeeded = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    run.messages = QString::fromLocal8Bit(process.readAllStandardError());
+    if (!process.waitForFinished(limits.timeoutSeconds > 0 ? limits.timeoutSeconds * 1000 : -1)) {
+        run.timedOut = process.state() != QProcess::NotRunning;
+        process.kill();
+        process.waitForFinished(-1);
+    }
+    run.succeeded = !run.timedOut && process.exitStatus() == QProcess::NormalExit &&
+                    process.exitCode() == 0;
+    run.messages = QString::fromLocal8Bit(messages);
     return run;
 }

@@ -15,12 +15,19 @@ struct ToolCall {
 struct ToolRun {
     QString commandLine;
     bool started = false;
+    bool timedOut = false; ///< it was ended because its time was over
     QString whyNotStarted;  ///< the platform's description, where it did not start
     bool succeeded = false; ///< ended by itself with exit status 0
     QString messages;       ///< what it wrote on standard error
 };
 
-/// Starts a tool and waits until it has ended, without a time-out. Pending window events other than
-/// keys and clicks are processed once after the start. The tool is looked for in the folders first,
-/// then along PATH.
-ToolRun RunAndWait(const ToolCall &call, const QStringList &folders);
+/// Where tools are looked for, before PATH, and how long each may take.
+struct ToolLimits {
+    QStringList folders;
+    int timeoutSeconds = 0; ///< 0 = without end
+};
+
+/// Starts a tool and waits until it has ended; one whose time is over is ended. Pending window
+/// events other than keys and clicks are processed once after the start. Of what the tool writes on
+/// standard error the first 64 KiB are kept.
+ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits);

@@ -1,11 +1,14 @@
 // Stands in for an external tool. Its arguments are orders: "print TEXT" and "complain TEXT" write
 // to standard output and standard error, "write FILE TEXT" makes a file in the current folder,
-// "fail STATUS" ends it, "crash" kills it. All arguments are first written to arguments.txt.
+// "flood" writes 10 MB to standard error, "fail STATUS" ends it, "crash" kills it, "hang" keeps it
+// from ending. All arguments are first written to arguments.txt.
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <thread>
 #include <vector>
 
 int main(int argc, char *argv[])
@@ -25,6 +28,10 @@ int main(int argc, char *argv[])
             return std::atoi(orders[++i].c_str());
         else if (orders[i] == "crash")
             std::raise(SIGKILL);
+        else if (orders[i] == "flood")
+            std::cerr << std::string(10'000'000, 'x');
+        else if (orders[i] == "hang")
+            std::this_thread::sleep_for(std::chrono::hours(1));
         else if (orders[i] == "write") {
             std::ofstream(orders[i + 1], std::ios::binary) << orders[i + 2];
             i += 2;

@@ -12,13 +12,13 @@ namespace {
 class ToolRunner : public testing::Test
 {
 protected:
-    ToolRun Run(const QStringList &arguments) const
+    ToolRun Run(const QStringList &arguments, int timeoutSeconds = 0) const
     {
         return RunAndWait({.name = u"fake_tool"_s,
                            .arguments = arguments,
                            .workingFolder = m_folder.path(),
                            .commandLine = u"the command line"_s},
-                          {QStringLiteral(FAKE_TOOL_FOLDER)});
+                          {.folders = {QStringLiteral(FAKE_TOOL_FOLDER)}, .timeoutSeconds = timeoutSeconds});
     }
 
     QTemporaryDir m_folder;
@@ -63,7 +63,7 @@ TEST_F(ToolRunner, SaysWhyAToolDidNotStart)
                                         .arguments = {},
                                         .workingFolder = m_folder.path(),
                                         .commandLine = u"no-such-tool-anywhere"_s},
-                                       {m_folder.path()});
+                                       {.folders = {m_folder.path()}});
     EXPECT_FALSE(missing.started);
     EXPECT_FALSE(missing.succeeded);
     EXPECT_TRUE(missing.whyNotStarted.contains(u"No such file or directory"))
@@ -78,7 +78,28 @@ TEST_F(ToolRunner, LooksInTheFoldersBeforePath)
                            .arguments = {u"fail"_s, u"1"_s},
                            .workingFolder = m_folder.path(),
                            .commandLine = u"true"_s};
-    EXPECT_FALSE(RunAndWait(call, {m_folder.path()}).succeeded);
-    EXPECT_TRUE(RunAndWait(call, {u"/nowhere"_s}).succeeded) << "that of PATH";
+    EXPECT_FALSE(RunAndWait(call, {.folders = {m_folder.path()}}).succeeded);
+    EXPECT_TRUE(RunAndWait(call, {.folders = {u"/nowhere"_s}}).succeeded) << "that of PATH";
     EXPECT_TRUE(RunAndWait(call, {}).succeeded);
+}
+
+TEST_F(ToolRunner, EndsAToolWhoseTimeIsOver)
+{
+    const ToolRun run = Run({u"complain"_s, u"starting"_s, u"hang"_s}, 1);
+    EXPECT_TRUE(run.started);
+    EXPECT_TRUE(run.timedOut);
+    EXPECT_FALSE(run.succeeded);
+    EXPECT_EQ(run.messages, u"starting\n"_s) << "what it said until then is kept";
+
+    const ToolRun quick = Run({u"print"_s, u"done"_s}, 60);
+    EXPECT_FALSE(quick.timedOut);
+    EXPECT_TRUE(quick.succeeded);
+}
+
+TEST_F(ToolRunner, KeepsTheFirstOfEndlessMessages)
+{
+    const ToolRun run = Run({u"complain"_s, u"first"_s, u"flood"_s, u"fail"_s, u"1"_s});
+    EXPECT_FALSE(run.succeeded);
+    EXPECT_TRUE(run.messages.startsWith(u"first\n"));
+    EXPECT_EQ(run.messages.size(), 64 * 1024);
 }

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Whether standard error goes to a terminal, where a person may look on.
+bool StandardErrorIsTerminal();
