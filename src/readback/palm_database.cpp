@@ -1,0 +1,116 @@
+#include "readback/palm_database.h"
+
+#include "readback/byte_reader.h"
+#include "readback/shown_text.h"
+
+#include <algorithm>
+#include <tuple>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype nameSize = 32;
+constexpr qsizetype gapSize = 2;
+constexpr qsizetype largestResource = 65535;
+constexpr quint32 resourceAttribute = 0x0001;
+
+QByteArray TakeName(ByteReader &reader)
+{
+    const QByteArrayView field = reader.Take(nameSize);
+    const qsizetype length = field.indexOf('\0');
+    if (length < 0)
+        reader.Refuse(u"its name has no end"_s);
+    else if (std::ranges::any_of(field.sliced(length), [](char byte) { return byte != 0; }))
+        reader.Refuse(u"there is something after the end of its name"_s);
+    return reader.Failed() ? QByteArray() : field.first(length).toByteArray();
+}
+
+void TakeHeader(ByteReader &reader, PalmDatabase &database)
+{
+    database.name = TakeName(reader);
+    database.attributes = reader.TakeNumber(2);
+    if ((database.attributes & resourceAttribute) == 0)
+        reader.Refuse(u"it is not marked as one of resources"_s);
+    database.version = reader.TakeNumber(2);
+    database.created = reader.TakeNumber(4);
+    database.modified = reader.TakeNumber(4);
+    reader.PassZeros(16);
+    database.type = reader.Take(4).toByteArray();
+    database.creator = reader.Take(4).toByteArray();
+    reader.PassZeros(8);
+}
+
+/// Takes the entries and gives where each one's data begin; the resources have no data yet.
+QList<qsizetype> TakeEntries(ByteReader &reader, PalmDatabase &database)
+{
+    QList<qsizetype> offsets;
+    const quint32 count = reader.TakeNumber(2);
+    for (quint32 i = 0; i < count && !reader.Failed(); ++i) {
+        PalmResource resource{reader.Take(4).toByteArray()};
+        resource.number = reader.TakeNumber(2);
+        offsets.append(reader.TakeNumber(4));
+        database.resources.append(resource);
+    }
+    reader.PassZeros(gapSize);
+    return offsets;
+}
+
+void CheckOrder(ByteReader &reader, const QList<PalmResource> &resources)
+{
+    const auto key = [](const PalmResource &resource) {
+        return std::tie(resource.type, resource.number);
+    };
+    const auto wrong = std::ranges::adjacent_find(
+        resources, [key](const auto &one, const auto &next) { return !(key(one) < key(next)); });
+    if (wrong != resources.end())
+        reader.Refuse(u"resource %1 stands after %2"_s.arg(Describe(wrong[1]), Describe(wrong[0])));
+}
+
+/// Each resource reaches from its own offset to that of the next one.
+void SliceData(ByteReader &reader, PalmDatabase &database, const QList<qsizetype> &offsets)
+{
+    for (qsizetype i = 0; i < offsets.size() && !reader.Failed(); ++i) {
+        PalmResource &resource = database.resources[i];
+        const qsizetype end = i + 1 < offsets.size() ? offsets[i + 1] : database.size;
+        if (offsets[i] != reader.Offset() || end < offsets[i] || end > database.size)
+            reader.Refuse(u"resource %1 cannot reach from byte %2 to byte %3"_s.arg(
+                Describe(resource), QString::number(offsets[i]), QString::number(end)));
+        else if (end - offsets[i] > largestResource)
+            reader.Refuse(u"resource %1 has %2 bytes, more than %3"_s.arg(
+                Describe(resource), QString::number(end - offsets[i]),
+                QString::number(largestResource)));
+        else
+            resource.data = reader.Take(end - offsets[i]).toByteArray();
+    }
+}
+
+} // namespace
+
+const PalmResource *PalmDatabase::Find(QByteArrayView resourceType, quint32 number) const
+{
+    const auto found = std::ranges::find_if(resources, [&](const PalmResource &resource) {
+        return resource.number == number && resource.type == resourceType;
+    });
+    return found == resources.end() ? nullptr : &*found;
+}
+
+QString Describe(const PalmResource &resource)
+{
+    return u"%1 %2"_s.arg(Shown(resource.type)).arg(resource.number);
+}
+
+Result<PalmDatabase> ReadDatabase(const QByteArray &bytes)
+{
+    ByteReader reader(bytes);
+    PalmDatabase database;
+    database.size = bytes.size();
+    TakeHeader(reader, database);
+    const QList<qsizetype> offsets = TakeEntries(reader, database);
+    CheckOrder(reader, database.resources);
+    SliceData(reader, database, offsets);
+    reader.PassEnd();
+    if (reader.Failed())
+        return Error{u"This is no sound Palm database: %1."_s.arg(reader.Fault())};
+    return database;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "model/result.h"
+
+#include <QByteArray>
+#include <QList>
+
+struct PalmResource {
+    QByteArray type; ///< 4 bytes
+    quint32 number = 0;
+    QByteArray data = {};
+};
+
+/// A database of resources as it is sent to a handheld.
+struct PalmDatabase {
+    QByteArray name; ///< in windows-1252, like every text of a database
+    QByteArray type; ///< 4 bytes, as the creator
+    QByteArray creator;
+    quint32 attributes = 0;
+    quint32 version = 0;
+    quint32 created = 0; ///< seconds since 1904 on the clock of the place, as the next one
+    quint32 modified = 0;
+    QList<PalmResource> resources = {}; ///< by type, then number; no two the same
+    qsizetype size = 0;                 ///< bytes of the whole file
+
+    /// Null where there is none.
+    const PalmResource *Find(QByteArrayView resourceType, quint32 number) const;
+};
+
+/// A resource for a message: 'tFRM' 3.
+QString Describe(const PalmResource &resource);
+
+/// Reads a database whole. Fails, with one sentence, at the first thing that the layout does not
+/// allow: an offset outside of the file or out of order, resources not in their order, a resource
+/// larger than a handheld takes, a field or gap that is not zero. Any bytes may be given.
+///
+/// The last resource reaches to the end of the file, so that bytes too many or too few there can
+/// only be told from its content.
+Result<PalmDatabase> ReadDatabase(const QByteArray &bytes);

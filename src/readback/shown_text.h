@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+/// Bytes of a database for a message: in single quotes, with everything that cannot be shown as
+/// \x and two digits, so that no foreign file reaches a terminal's controls.
+QString Shown(QByteArrayView bytes);
+
+/// Two texts that differ, as "'abc' instead of 'abd'". Of long ones only what is around the first
+/// difference is shown, with dots where something was left out.
+QString ShownDifference(QByteArrayView found, QByteArrayView expected);

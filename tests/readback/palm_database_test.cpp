@@ -1,0 +1,122 @@
+#include "readback/palm_database.h"
+
+#include "readback/databases.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype entries = 78;
+constexpr qsizetype entrySize = 10;
+constexpr qsizetype entryNumber = 4;
+constexpr qsizetype entryOffset = 6;
+
+/// The error, or "read".
+QString RefusalOf(const QByteArray &bytes)
+{
+    const Result<PalmDatabase> database = ReadDatabase(bytes);
+    return database ? u"read"_s : database.error().text;
+}
+
+} // namespace
+
+TEST(PalmDatabase, ReadsEveryGoldenDatabase)
+{
+    ASSERT_GE(GoldenNames().size(), 24);
+    for (const QString &name : GoldenNames()) {
+        SCOPED_TRACE(name.toStdString());
+        const QByteArray bytes = Golden(name);
+        const PalmDatabase database = Read(bytes);
+        qsizetype size = entries + 2;
+        for (const PalmResource &resource : database.resources)
+            size += entrySize + resource.data.size();
+        EXPECT_EQ(size, bytes.size()) << "every byte belongs to something";
+        EXPECT_EQ(database.size, bytes.size());
+    }
+}
+
+TEST(PalmDatabase, ReadsEveryValue)
+{
+    const PalmDatabase database = Read(Golden(u"text"_s));
+    EXPECT_EQ(database.name, "text");
+    EXPECT_EQ(database.type, "kelp");
+    EXPECT_EQ(database.creator, "Wmpt");
+    EXPECT_EQ(database.attributes, 0x0101u);
+    EXPECT_EQ(database.version, 1u);
+    ASSERT_EQ(database.resources.size(), 11);
+    EXPECT_EQ(Describe(database.resources.first()), u"'desc' 1003"_s);
+    EXPECT_EQ(database.resources.first().data, QByteArray("One question\0", 13));
+    EXPECT_EQ(Describe(database.resources.last()), u"'tver' 1"_s);
+    EXPECT_EQ(database.resources.last().data, QByteArray("1.0\0", 4));
+
+    ASSERT_NE(database.Find("tFRM", 1), nullptr);
+    EXPECT_EQ(database.Find("tFRM", 1)->data.size(), 382);
+    EXPECT_EQ(database.Find("tFRM", 2), nullptr);
+    EXPECT_EQ(database.Find("TFRM", 1), nullptr);
+}
+
+TEST(PalmDatabase, ReadsTheTimesAsWritten)
+{
+    const QByteArray bytes = WithNumber(WithNumber(Golden(u"text"_s), 36, 4, 0xE2000001), 40, 4, 7);
+    EXPECT_EQ(Read(bytes).created, 0xE2000001u);
+    EXPECT_EQ(Read(bytes).modified, 7u);
+}
+
+TEST(PalmDatabase, RefusesWhatTheLayoutDoesNotAllow)
+{
+    const QByteArray text = Golden(u"text"_s);
+    const qsizetype first = entries, second = entries + entrySize;
+    const struct {
+        const char *what;
+        QByteArray bytes;
+        QString reason;
+    } rows[] = {
+        {"nothing", "", u"it ends too early, at byte 0"_s},
+        {"a text file", QByteArray("Hello\n").repeated(20), u"its name has no end"_s},
+        {"a name of 32 bytes", QByteArray(32, 'x') + text.sliced(32), u"its name has no end"_s},
+        {"a name with something behind it", WithNumber(text, 31, 1, 1),
+         u"there is something after the end of its name"_s},
+        {"a database of records", WithNumber(text, 32, 2, 0x0100),
+         u"it is not marked as one of resources"_s},
+        {"application information", WithNumber(text, 52, 4, 0x80), u"byte 55 is not zero"_s},
+        {"a next list of entries", WithNumber(text, 72, 4, 0x8000), u"byte 74 is not zero"_s},
+        {"a count too large", WithNumber(text, 76, 2, 0xFFFF), u"it ends too early, at byte 703"_s},
+        {"a count too small", WithNumber(text, 76, 2, 10), u"byte 178 is not zero"_s},
+        {"something in the gap", WithNumber(text, 189, 1, 1), u"byte 189 is not zero"_s},
+        {"numbers out of order",
+         WithNumber(text, first + entryNumber, 2, 9).replace(first, 4, "tver"),
+         u"resource 'flds' 1000 stands after 'tver' 9"_s},
+        {"a resource twice", QByteArray(text).replace(second, 6, text.mid(first, 6)),
+         u"resource 'desc' 1003 stands after 'desc' 1003"_s},
+        {"data that begin too late", WithNumber(text, first + entryOffset, 4, 191),
+         u"resource 'desc' 1003 cannot reach from byte 191 to byte 203"_s},
+        {"data in the table", WithNumber(text, first + entryOffset, 4, 78),
+         u"resource 'desc' 1003 cannot reach from byte 78 to byte 203"_s},
+        {"an offset out of order", WithNumber(text, second + entryOffset, 4, 189),
+         u"resource 'desc' 1003 cannot reach from byte 190 to byte 189"_s},
+        {"an offset outside of the file", WithNumber(text, second + entryOffset, 4, 0xFFFFFFFF),
+         u"resource 'desc' 1003 cannot reach from byte 190 to byte 4294967295"_s},
+        {"a resource too large", text + QByteArray(65532, '\0'),
+         u"resource 'tver' 1 has 65536 bytes, more than 65535"_s},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(RefusalOf(row.bytes), u"This is no sound Palm database: %1."_s.arg(row.reason));
+    }
+    EXPECT_EQ(RefusalOf(text + QByteArray(65531, '\0')), u"read"_s) << "the largest resource";
+}
+
+TEST(PalmDatabase, ReadsOneWithoutResources)
+{
+    const QByteArray empty = Golden(u"text"_s).first(76) + QByteArray(4, '\0');
+    EXPECT_TRUE(Read(empty).resources.isEmpty());
+    EXPECT_EQ(RefusalOf(empty + '\0'),
+              u"This is no sound Palm database: it should end at byte 80, but has 81 bytes."_s);
+}
+
+TEST(PalmDatabase, RefusesEveryTruncationBeforeTheLastResource)
+{
+    const QByteArray text = Golden(u"text"_s);
+    for (qsizetype size = 0; size < text.size() - 4; ++size)
+        ASSERT_NE(RefusalOf(text.first(size)), u"read"_s) << size;
+}
