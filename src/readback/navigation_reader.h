@@ -19,6 +19,8 @@ struct Navigation {
     quint32 initialState = 0;
     quint32 initialObject = 0;
     QList<NavigationItem> items = {};
+
+    bool operator==(const Navigation &) const = default;
 };
 
 /// Decodes the navigation of a form ('fnav') to its last byte. Fails as ReadForm does.

@@ -4,7 +4,7 @@
 #include "readback/shown_text.h"
 
 #include <algorithm>
-#include <tuple>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,6 +14,12 @@ constexpr qsizetype nameSize = 32;
 constexpr qsizetype gapSize = 2;
 constexpr qsizetype largestResource = 65535;
 constexpr quint32 resourceAttribute = 0x0001;
+
+/// What resources are ordered by: bytes of the type as unsigned values, then the number.
+std::pair<QByteArrayView, quint32> KeyOf(const PalmResource &resource)
+{
+    return {resource.type, resource.number};
+}
 
 QByteArray TakeName(ByteReader &reader)
 {
@@ -58,11 +64,8 @@ QList<qsizetype> TakeEntries(ByteReader &reader, PalmDatabase &database)
 
 void CheckOrder(ByteReader &reader, const QList<PalmResource> &resources)
 {
-    const auto key = [](const PalmResource &resource) {
-        return std::tie(resource.type, resource.number);
-    };
     const auto wrong = std::ranges::adjacent_find(
-        resources, [key](const auto &one, const auto &next) { return !(key(one) < key(next)); });
+        resources, [](const auto &one, const auto &next) { return KeyOf(one) >= KeyOf(next); });
     if (wrong != resources.end())
         reader.Refuse(u"resource %1 stands after %2"_s.arg(Describe(wrong[1]), Describe(wrong[0])));
 }
@@ -89,15 +92,14 @@ void SliceData(ByteReader &reader, PalmDatabase &database, const QList<qsizetype
 
 const PalmResource *PalmDatabase::Find(QByteArrayView resourceType, quint32 number) const
 {
-    const auto found = std::ranges::find_if(resources, [&](const PalmResource &resource) {
-        return resource.number == number && resource.type == resourceType;
-    });
-    return found == resources.end() ? nullptr : &*found;
+    const std::pair wanted(resourceType, number);
+    const auto found = std::ranges::lower_bound(resources, wanted, {}, KeyOf);
+    return found != resources.end() && KeyOf(*found) == wanted ? &*found : nullptr;
 }
 
 QString Describe(const PalmResource &resource)
 {
-    return u"%1 %2"_s.arg(Shown(resource.type)).arg(resource.number);
+    return u"%1 %2"_s.arg(Shown(resource.type), QString::number(resource.number));
 }
 
 Result<PalmDatabase> ReadDatabase(const QByteArray &bytes)

@@ -13,7 +13,7 @@ QString Printable(QByteArrayView bytes)
     QString shown;
     const QString text = FromWindows1252(bytes);
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i].isPrint())
+        if (text[i] == u' ' || (text[i].isPrint() && !text[i].isSpace()))
             shown += text[i];
         else
             shown += u"\\x%1"_s.arg(static_cast<unsigned char>(bytes[i]), 2, 16, QChar(u'0'));

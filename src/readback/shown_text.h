@@ -3,8 +3,9 @@
 #include <QByteArrayView>
 #include <QString>
 
-/// Bytes of a database for a message: in single quotes, with everything that cannot be shown as
-/// \x and two digits, so that no foreign file reaches a terminal's controls.
+/// Bytes of a database for a message: in single quotes, with everything that cannot be shown, or
+/// looks like a blank and is none, as \x and two digits. No foreign file reaches a terminal's
+/// controls through it.
 QString Shown(QByteArrayView bytes);
 
 /// Two texts that differ, as "'abc' instead of 'abd'". Of long ones only what is around the first

@@ -5,9 +5,10 @@
 #include <QByteArray>
 #include <QList>
 
-/// The text of a resource that holds one text and its zero byte. With padding a second zero byte
-/// follows where the size would be odd. Fails as ReadForm does.
+/// What follows the zero byte of a text: nothing, or a second one where the size would be odd.
 enum class Padding { None, ToEven };
+
+/// The text of a resource that holds one text and nothing else. Fails as ReadForm does.
 Result<QByteArray> ReadTextResource(const QByteArray &resource, Padding padding = Padding::None);
 
 /// Texts with a prefix that is common to them all.

@@ -55,6 +55,13 @@ TEST(PalmDatabase, ReadsEveryValue)
     EXPECT_EQ(database.Find("TFRM", 1), nullptr);
 }
 
+TEST(PalmDatabase, DescribesAResource)
+{
+    EXPECT_EQ(Describe(PalmResource{"%2%1", 7}), u"'%2%1' 7"_s);
+    EXPECT_EQ(Describe(PalmResource{QByteArray("\x1B[\0\xE9", 4), 65535}),
+              u"'\\x1b[\\x00\u00E9' 65535"_s);
+}
+
 TEST(PalmDatabase, ReadsTheTimesAsWritten)
 {
     const QByteArray bytes = WithNumber(WithNumber(Golden(u"text"_s), 36, 4, 0xE2000001), 40, 4, 7);

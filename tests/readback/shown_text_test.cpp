@@ -12,6 +12,9 @@ TEST(ShownText, ShowsWhatCanBeShown)
 {
     EXPECT_EQ(Shown("kelp"), u"'kelp'"_s);
     EXPECT_EQ(Shown(""), u"''"_s);
+    EXPECT_EQ(Shown("a b\xA0"
+                    "c\xAD"),
+              u"'a b\\xa0c\\xad'"_s);
     EXPECT_EQ(Shown("caf\xE9 \x80"), u"'caf\u00E9 \u20AC'"_s);
     EXPECT_EQ(Shown(QByteArrayView("\x1B[2J\0\x81", 6)), u"'\\x1b[2J\\x00\\x81'"_s);
 }
