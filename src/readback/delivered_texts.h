@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/project.h"
+#include "readback/finding.h"
+
+#include <QByteArray>
+#include <QList>
+
+/// The texts of a question as the handheld must have them, in windows-1252.
+struct DeliveredQuestion {
+    QString type; ///< as the project has it
+    QByteArray title;
+    QByteArray text;
+    QByteArray columnName;
+    QList<QByteArray> items = {}; ///< only a list question has any
+};
+
+/// The texts of a project as the handheld must have them, in windows-1252.
+struct DeliveredTexts {
+    QByteArray databaseName;
+    QByteArray formName;
+    QByteArray version;
+    QByteArray description;
+    QByteArray folder;
+    QList<DeliveredQuestion> questions = {};
+};
+
+/// What becomes of a project's texts on their way through a resource script: escapes are
+/// interpreted, an item with a comma becomes two, the folder ends in a backslash.
+///
+/// A text with a character that windows-1252 lacks is a finding; what stands before the character
+/// is delivered then. No filter may be set on the tables.
+DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings);

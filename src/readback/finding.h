@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/texts.h"
+
+#include <QByteArrayView>
+#include <QString>
+
+/// Something in which a database is not what its project asks for.
+struct Finding {
+    QLatin1StringView code; ///< for machines, such as "item-count"; never changes
+    TextPlace place;        ///< its question is 0 where none applies
+    QString text;           ///< a sentence for a person
+};
+
+/// The finding that a text is another one than expected.
+Finding OtherText(QLatin1StringView code, const TextPlace &place, QByteArrayView found,
+                  QByteArrayView expected);
+
+/// The finding "resource-damaged" for a resource that cannot be decoded; the damage goes on after
+/// "... is damaged: ".
+Finding DamagedResource(const TextPlace &place, const QString &damage);
