@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 /// The names of all databases of tests/data/palm.
 inline QStringList GoldenNames()
 {
@@ -37,4 +39,35 @@ inline QByteArray WithNumber(QByteArray bytes, qsizetype offset, qsizetype size,
     for (qsizetype i = 0; i < size; ++i)
         bytes[offset + i] = static_cast<char>(number >> (8 * (size - 1 - i)));
     return bytes;
+}
+
+/// The bytes of a database with these resources, in their order.
+inline QByteArray WithResources(const QByteArray &bytes, const QList<PalmResource> &resources)
+{
+    constexpr qsizetype entries = 78;
+    QByteArray header = bytes.first(entries - 2);
+    QByteArray data;
+    const auto append = [&header](qsizetype size, qsizetype number) {
+        header = WithNumber(header + QByteArray(size, '\0'), header.size(), size, quint32(number));
+    };
+    append(2, resources.size());
+    for (const PalmResource &resource : resources) {
+        header += resource.type;
+        append(2, resource.number);
+        append(4, entries + 10 * resources.size() + 2 + data.size());
+        data += resource.data;
+    }
+    return header + QByteArray(2, '\0') + data;
+}
+
+/// The bytes of a database with other data in a resource.
+inline QByteArray WithData(const QByteArray &bytes, QByteArrayView type, quint32 number,
+                           const std::function<QByteArray(QByteArray)> &change)
+{
+    QList<PalmResource> resources = Read(bytes).resources;
+    for (PalmResource &resource : resources) {
+        if (resource.type == type && resource.number == number)
+            resource.data = change(resource.data);
+    }
+    return WithResources(bytes, resources);
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "model/project.h"
+#include "readback/finding.h"
+#include "readback/palm_database.h"
+
+#include <QList>
+
+/// Holds a database against the project that it should have been made from: its header, which
+/// resources it has, and every resource to its last byte. Empty when nothing differs.
+///
+/// Not compared: the times, the identifier beyond its shape, and the width of lists beyond the
+/// least that it can be. No filter may be set on the project's tables.
+QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project);
