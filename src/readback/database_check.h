@@ -12,3 +12,7 @@
 /// Not compared: the times, the identifier beyond its shape, and the width of lists beyond the
 /// least that it can be. No filter may be set on the project's tables.
 QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project);
+
+/// Checks a database by itself: whether it is of the kind that we make, every resource of it can be
+/// decoded, and all of them tell the same number of questions.
+QList<Finding> CheckDatabase(const PalmDatabase &database);

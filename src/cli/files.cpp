@@ -1,0 +1,57 @@
+#include "cli/files.h"
+
+#include "model/project_file.h"
+#include "model/project_reader.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+bool IsStream(const QString &name)
+{
+    return name == "-"_L1;
+}
+
+Result<QByteArray> ReadStream(const Console &console)
+{
+    QByteArray bytes(largestFile + 1, Qt::Uninitialized);
+    console.in.read(bytes.data(), bytes.size());
+    bytes.truncate(console.in.gcount());
+    if (console.in.bad())
+        return Error{u"Standard input cannot be read"_s, InputName(u"-"_s)};
+    if (bytes.size() > largestFile)
+        return Error{u"The file is larger than any project can be"_s, InputName(u"-"_s)};
+    return bytes;
+}
+
+} // namespace
+
+Result<QByteArray> ReadInput(const QString &name, const Console &console)
+{
+    return IsStream(name) ? ReadStream(console) : ReadWholeFile(name);
+}
+
+Result<Project> ReadProjectInput(const QString &name, const Console &console)
+{
+    const Result<QByteArray> bytes = ReadInput(name, console);
+    if (!bytes)
+        return bytes.error();
+    Result<Project> project = ReadProject(*bytes);
+    if (!project)
+        return Error{project.error().text, InputName(name), project.error().line};
+    project->path = name;
+    return project;
+}
+
+QString InputName(const QString &name)
+{
+    return IsStream(name) ? u"standard input"_s : name;
+}
+
+Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console &console)
+{
+    if (!IsStream(name))
+        return ReplaceFile(name, bytes);
+    console.Write(bytes);
+    return done;
+}

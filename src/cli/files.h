@@ -1,0 +1,16 @@
+#pragma once
+
+#include "cli/console.h"
+#include "model/project.h"
+
+/// The bytes of an input, "-" being standard input; an error names it and why it cannot be read.
+Result<QByteArray> ReadInput(const QString &name, const Console &console);
+
+/// The project in an input, with its name as the project's path.
+Result<Project> ReadProjectInput(const QString &name, const Console &console);
+
+/// An input's name as messages have it.
+QString InputName(const QString &name);
+
+/// Puts bytes in the place of a file, or on standard output where the name is "-".
+Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console &console);

@@ -1,0 +1,122 @@
+#include "cli/info_command.h"
+
+#include "cli/files.h"
+#include "model/project_reader.h"
+#include "readback/describe.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// What is told of either kind of file: facts with their names, then the questions.
+struct Info {
+    struct Fact {
+        QString name;
+        QJsonValue value;
+    };
+    QList<Fact> facts;
+    QStringList types, columnNames, titles; ///< of each question
+};
+
+Info InfoOf(const ProjectSummary &summary, qsizetype size)
+{
+    return {{{u"kind"_s, u"project"_s},
+             {u"name"_s, summary.name},
+             {u"version"_s, summary.version},
+             {u"size"_s, size},
+             {u"questions"_s, summary.questions},
+             {u"items"_s, summary.items}},
+            summary.types,
+            summary.columnNames,
+            summary.titles};
+}
+
+Info InfoOf(const DatabaseSummary &summary)
+{
+    Info info = {{{u"kind"_s, u"database"_s},
+                  {u"name"_s, summary.name},
+                  {u"type"_s, summary.type},
+                  {u"creator"_s, summary.creator},
+                  {u"size"_s, summary.size},
+                  {u"resources"_s, summary.resources}},
+                 summary.types,
+                 summary.columnNames,
+                 summary.titles};
+    if (summary.questions)
+        info.facts.append({u"questions"_s, *summary.questions});
+    return info;
+}
+
+qsizetype LongestList(const Info &info)
+{
+    return std::max({info.types.size(), info.columnNames.size(), info.titles.size()});
+}
+
+void TellPerson(const Info &info, const Console &console)
+{
+    const auto tell = [&console](const QString &line) {
+        console.Write(Visible(line).toLocal8Bit() + '\n');
+    };
+    for (const Info::Fact &fact : info.facts)
+        tell(u"%1: %2"_s.arg(fact.name, fact.value.toVariant().toString()));
+    for (qsizetype i = 0; i < LongestList(info); ++i)
+        tell(u"%1. %2, %3: %4"_s.arg(QString::number(i + 1), info.types.value(i),
+                                     info.columnNames.value(i), info.titles.value(i)));
+}
+
+void TellProgram(const Info &info, const QString &inputName, const Console &console)
+{
+    QJsonObject object = {{u"file"_s, inputName}};
+    for (const Info::Fact &fact : info.facts)
+        object.insert(fact.name, fact.value);
+    object.insert(u"types"_s, QJsonArray::fromStringList(info.types));
+    object.insert(u"columnNames"_s, QJsonArray::fromStringList(info.columnNames));
+    object.insert(u"titles"_s, QJsonArray::fromStringList(info.titles));
+    console.Write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
+}
+
+/// XML in one-byte characters has no zero byte; the header of a database is full of them.
+bool LooksLikeDatabase(const QByteArray &bytes)
+{
+    const bool isUtf16 = bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
+    return !isUtf16 && bytes.left(78).contains('\0');
+}
+
+Result<Info> ReadInfo(const QByteArray &bytes)
+{
+    if (LooksLikeDatabase(bytes)) {
+        const Result<PalmDatabase> database = ReadDatabase(bytes);
+        if (!database)
+            return database.error();
+        return InfoOf(Summarize(*database));
+    }
+    const Result<Project> project = ReadProject(bytes);
+    if (!project)
+        return project.error();
+    return InfoOf(Summarize(*project), bytes.size());
+}
+
+} // namespace
+
+Exit TellInfo(const CommandLine &line, const Console &console)
+{
+    const QString input = line.inputs.first();
+    const Result<QByteArray> bytes = ReadInput(input, console);
+    if (!bytes)
+        return Refuse(console, Exit::Unreadable, bytes.error());
+    const Result<Info> info = ReadInfo(*bytes);
+    if (!info)
+        return Refuse(console, Exit::Unreadable,
+                      {info.error().text, InputName(input), info.error().line});
+    if (console.json)
+        TellProgram(*info, InputName(input), console);
+    else
+        TellPerson(*info, console);
+    return Exit::Fine;
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "cli/command_line.h"
+#include "cli/console.h"
+
+/// Tells what is in a project or a database: names, counts, sizes, and the questions with their
+/// types, column names and titles.
+Exit TellInfo(const CommandLine &line, const Console &console);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "model/result.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// Something that a command has to tell, for a person and for a program.
+struct Notice {
+    QLatin1StringView kind; ///< "result", "finding", "warning" or "error"
+    QLatin1StringView code; ///< what it is, for programs; never changes
+    QString text;           ///< what it is, in a sentence
+    QString shown = {};     ///< what a person sees instead of the sentence; empty = the sentence
+    QString file = {};
+    int line = 0;     ///< from 1, 0 = none applies
+    int question = 0; ///< position from 1, 0 = none applies
+    QString field = {};
+};
+
+/// The notice as one JSON object on one line, in UTF-8; what does not apply is left out.
+QByteArray ToJson(const Notice &notice);
+
+/// A text with its control characters made visible, so that it stays on one line and none of them
+/// reaches a terminal.
+QString Visible(const QString &text);

@@ -1,0 +1,69 @@
+#include "cli/review_command.h"
+
+#include "cli/files.h"
+#include "validation/delivery_warnings.h"
+#include "validation/project_review.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Exit Review(const QString &input, bool oneOfSeveral, const Console &console)
+{
+    Result<Project> project = ReadProjectInput(input, console);
+    if (!project)
+        return Refuse(console, Exit::Unreadable, project.error());
+    const std::vector<Notice> notices = ReviewNotices(*project, InputName(input));
+    for (Notice notice : notices) {
+        if (oneOfSeveral)
+            notice.shown.prepend(notice.file + ": "_L1);
+        console.Tell(notice);
+    }
+    if (console.json) {
+        const bool passes = Passes(notices);
+        console.Tell({.kind = "result"_L1,
+                      .code = passes ? "passed"_L1 : "not-passed"_L1,
+                      .text = passes ? u"The project passes."_s : u"The project does not pass."_s,
+                      .file = InputName(input)});
+    }
+    return notices.empty() ? Exit::Fine : Exit::NotPassed;
+}
+
+} // namespace
+
+std::vector<Notice> ReviewNotices(Project &project, const QString &inputName)
+{
+    std::vector<Notice> notices;
+    for (const ReviewEntry &entry : ReviewProject(project).entries)
+        notices.push_back({.kind = "finding"_L1,
+                           .code = entry.code,
+                           .text = entry.message,
+                           .shown = ListText(entry),
+                           .file = inputName,
+                           .field = entry.field});
+    for (const DeliveryWarning &warning : FindDeliveryWarnings(project))
+        notices.push_back({.kind = "warning"_L1,
+                           .code = warning.code,
+                           .text = Describe(warning),
+                           .shown = Visible("warning: "_L1 + Describe(warning)),
+                           .file = inputName,
+                           .question = warning.place.question,
+                           .field = warning.place.field});
+    return notices;
+}
+
+bool Passes(const std::vector<Notice> &notices)
+{
+    return std::ranges::none_of(notices,
+                                [](const Notice &notice) { return notice.kind == "finding"_L1; });
+}
+
+Exit ReviewProjects(const CommandLine &line, const Console &console)
+{
+    Exit worst = Exit::Fine;
+    for (const QString &input : line.inputs)
+        worst = std::max(worst, Review(input, line.inputs.size() > 1, console));
+    return worst;
+}

@@ -1,0 +1,69 @@
+#include "cli/verify_command.h"
+
+#include "cli/files.h"
+#include "readback/database_check.h"
+#include "validation/project_review.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Notice NoticeOf(const Finding &finding, const QString &inputName)
+{
+    return {.kind = "finding"_L1,
+            .code = finding.code,
+            .text = finding.text,
+            .shown = Visible(finding.text),
+            .file = inputName,
+            .question = finding.place.question,
+            .field = finding.place.field};
+}
+
+Exit TellFindings(const QList<Finding> &findings, const QString &inputName, const Console &console)
+{
+    for (const Finding &finding : findings)
+        console.Tell(NoticeOf(finding, inputName));
+    if (console.json)
+        console.Tell({.kind = "result"_L1,
+                      .code = findings.isEmpty() ? "verified"_L1 : "not-verified"_L1,
+                      .text = findings.isEmpty() ? u"The database is as it should be."_s
+                                                 : u"The database is not as it should be."_s,
+                      .file = inputName});
+    return findings.isEmpty() ? Exit::Fine : Exit::NotPassed;
+}
+
+} // namespace
+
+bool Agrees(const QByteArray &database, const Project &project, const QString &inputName,
+            const Console &console)
+{
+    const Result<PalmDatabase> read = ReadDatabase(database);
+    if (!read) {
+        Refuse(console, Exit::ToolFailed,
+               {u"the tools left a damaged database: %1"_s.arg(read.error().text), inputName});
+        return false;
+    }
+    const QList<Finding> findings = CheckDatabase(*read, project);
+    for (const Finding &finding : findings)
+        console.Complain(NoticeOf(finding, inputName));
+    return findings.isEmpty();
+}
+
+Exit VerifyDatabase(const CommandLine &line, const Console &console)
+{
+    const QString input = line.inputs.first();
+    const Result<QByteArray> bytes = ReadInput(input, console);
+    if (!bytes)
+        return Refuse(console, Exit::Unreadable, bytes.error());
+    const Result<PalmDatabase> database = ReadDatabase(*bytes);
+    if (!database)
+        return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
+    if (line.inputs.size() == 1)
+        return TellFindings(CheckDatabase(*database), InputName(input), console);
+
+    Result<Project> project = ReadProjectInput(line.inputs[1], console);
+    if (!project)
+        return Refuse(console, Exit::Unreadable, project.error());
+    ReviewProject(*project); // takes the blanks from the form information, as before a creation
+    return TellFindings(CheckDatabase(*database, *project), InputName(input), console);
+}

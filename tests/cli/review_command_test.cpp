@@ -1,0 +1,91 @@
+#include "session.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class ReviewCommand : public Session
+{
+protected:
+    /// A file with the project of tests/data, changed.
+    QString Changed(const QByteArray &from, const QByteArray &to, const QString &name = u"a.vmp"_s)
+    {
+        const QByteArray bytes = BytesOf(DataFile(u"projects/SiteVisit.vmp"_s));
+        EXPECT_TRUE(bytes.contains(from)) << from.toStdString();
+        const QString path = InFolder(name);
+        WriteBytes(path, QByteArray(bytes).replace(from, to));
+        return path;
+    }
+};
+
+const QByteArray name = "<FormName><![CDATA[SiteVisit]]></FormName>";
+const QByteArray noName = "<FormName></FormName>";
+
+} // namespace
+
+TEST_F(ReviewCommand, SaysNothingOfAProjectThatIsFine)
+{
+    EXPECT_EQ(Run({u"review"_s, DataFile(u"projects/SiteVisit.vmp"_s)}), 0);
+    EXPECT_EQ(Out() + Err(), u""_s);
+}
+
+TEST_F(ReviewCommand, ListsTheEntriesAsTheErrorListShowsThem)
+{
+    const QString path = Changed(name, noName);
+    EXPECT_EQ(Run({u"review"_s, path}), 1);
+    EXPECT_EQ(Out(), u"Step1\t\tPlease enter a name for your Vellsheet.\n"_s);
+    EXPECT_EQ(Err(), u""_s);
+}
+
+TEST_F(ReviewCommand, PutsTheFileInFrontWhereThereAreSeveral)
+{
+    const QString good = DataFile(u"projects/SiteVisit.vmp"_s), bad = Changed(name, noName);
+    EXPECT_EQ(Run({u"review"_s, good, bad}), 1);
+    EXPECT_EQ(Out(), bad + u": Step1\t\tPlease enter a name for your Vellsheet.\n"_s);
+    EXPECT_EQ(Run({u"review"_s, bad, InFolder(u"none.vmp"_s), good}), 3);
+}
+
+TEST_F(ReviewCommand, WarnsOfWhatWillNotArriveAsTyped)
+{
+    const QString path = Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[a\\b]]>");
+    EXPECT_EQ(Run({u"review"_s, path}), 1);
+    EXPECT_TRUE(Out().startsWith(u"warning: question 1, title: \"a\\b\": ")) << Out().toStdString();
+}
+
+TEST_F(ReviewCommand, KeepsControlCharactersFromTheTerminal)
+{
+    const QString path = Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[a\\\xC2\x9B"
+                                                                 "b\tc]]>");
+    EXPECT_EQ(Run({u"review"_s, path}), 1);
+    EXPECT_TRUE(Out().contains(uR"("a\Â›b\x09c")"_s)) << Out().toStdString();
+}
+
+TEST_F(ReviewCommand, TellsProgramsInJson)
+{
+    const QString path = Changed(name + "\r\n<FormVersion>", noName + "\r\n<FormVersion>");
+    EXPECT_EQ(Run({u"review"_s, u"--json"_s, path}), 1);
+    ASSERT_EQ(Objects().size(), 2);
+    EXPECT_EQ(Objects()[0],
+              (QJsonObject{{u"kind"_s, u"finding"_s},
+                           {u"code"_s, u"invalid-form-name"_s},
+                           {u"field"_s, u"form name"_s},
+                           {u"file"_s, path},
+                           {u"message"_s, u"Please enter a name for your Vellsheet."_s}}));
+    EXPECT_EQ(Objects()[1][u"code"_s], u"not-passed"_s);
+
+    const QString warned = Changed("<Item><![CDATA[Nevada]]>", "<Item><![CDATA[a,b]]>");
+    EXPECT_EQ(Run({u"review"_s, u"--json"_s, warned}), 1);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"warning"_s);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"comma-in-item"_s);
+    EXPECT_EQ(Objects()[0][u"question"_s], 3);
+    EXPECT_EQ(Objects()[0][u"field"_s], u"item"_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"passed"_s) << "warnings do not stand in the way";
+}
+
+TEST_F(ReviewCommand, LeavesTheFileAlone)
+{
+    const QString path = Changed("<FormVersion><![CDATA[1.0]]>", "<FormVersion><![CDATA[  1.0]]>");
+    const QByteArray before = BytesOf(path);
+    EXPECT_EQ(Run({u"review"_s, path}), 0);
+    EXPECT_EQ(BytesOf(path), before);
+}

@@ -1,0 +1,84 @@
+#include "session.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
+
+/// A database of SiteVisit.vmp to be damaged.
+class VerifyCommand : public Session
+{
+protected:
+    VerifyCommand()
+    {
+        qputenv("PATH", PROGRAMS);
+        EXPECT_EQ(Run({u"create"_s, siteVisit, u"-o"_s, m_folder.path()}), 0)
+            << Err().toStdString();
+        database = InFolder(u"SiteVisit.prc"_s);
+        bytes = BytesOf(database);
+    }
+
+    int Verify(const QByteArray &damaged)
+    {
+        WriteBytes(database, damaged);
+        return Run({u"verify"_s, database, siteVisit});
+    }
+
+    QString database;
+    QByteArray bytes;
+};
+
+} // namespace
+
+TEST_F(VerifyCommand, SaysNothingOfADatabaseThatIsRight)
+{
+    EXPECT_EQ(Run({u"verify"_s, database}), 0);
+    EXPECT_EQ(Run({u"verify"_s, database, siteVisit}), 0);
+    EXPECT_EQ(Out() + Err(), u""_s);
+    EXPECT_EQ(Run({u"verify"_s, u"-"_s, siteVisit}, bytes), 0);
+    EXPECT_EQ(Run({u"verify"_s, database, u"-"_s}, BytesOf(siteVisit)), 0);
+}
+
+TEST_F(VerifyCommand, FindsADatabaseOfAnotherProject)
+{
+    EXPECT_EQ(Run({u"verify"_s, database, DataFile(u"projects/Nestbox.vmp"_s)}), 1);
+    EXPECT_TRUE(Out().contains(u"SiteVisit")) << Out().toStdString();
+    EXPECT_EQ(Err(), u""_s);
+}
+
+TEST_F(VerifyCommand, FindsAChangedText)
+{
+    EXPECT_EQ(Verify(QByteArray(bytes).replace("Inspector", "Inspectar")), 1);
+    EXPECT_TRUE(Out().contains(u"question 1")) << Out().toStdString();
+    EXPECT_EQ(Run({u"verify"_s, database}), 0) << "by itself it is sound";
+}
+
+TEST_F(VerifyCommand, FindsWhatIsWrongWithoutAProject)
+{
+    const qsizetype count = bytes.indexOf("tFRM");
+    ASSERT_GT(count, 0);
+    EXPECT_EQ(Verify(bytes.chopped(2)), 1);
+    EXPECT_EQ(Run({u"verify"_s, database}), 1);
+    EXPECT_EQ(Verify(QByteArray(bytes).replace(60, 4, "appl")), 1);
+    EXPECT_EQ(Run({u"verify"_s, database}), 1);
+}
+
+TEST_F(VerifyCommand, RefusesWhatIsNoDatabase)
+{
+    EXPECT_EQ(Run({u"verify"_s, siteVisit}), 3);
+    EXPECT_TRUE(Err().startsWith(siteVisit + u": "_s));
+    EXPECT_EQ(Run({u"verify"_s, database, database}), 3) << "and what is no project";
+    EXPECT_EQ(Run({u"verify"_s, database, InFolder(u"none.vmp"_s)}), 3);
+}
+
+TEST_F(VerifyCommand, TellsProgramsInJson)
+{
+    WriteBytes(database, QByteArray(bytes).replace("Inspector", "Inspectar"));
+    EXPECT_EQ(Run({u"verify"_s, u"--json"_s, database, siteVisit}), 1);
+    ASSERT_EQ(Objects().size(), 2);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"finding"_s);
+    EXPECT_EQ(Objects()[0][u"question"_s], 1);
+    EXPECT_NE(Objects()[0][u"code"_s].toString(), u""_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"not-verified"_s);
+}
