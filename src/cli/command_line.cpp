@@ -7,34 +7,57 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString outputOption = u"o"_s;
-const QString identifierOption = u"guid"_s;
+const QCommandLineOption output = {{u"o"_s, u"output"_s}, {}, u"NAME"_s};
+const QCommandLineOption identifier = {u"guid"_s, {}, u"HEX32"_s};
+const QCommandLineOption timeout = {u"timeout"_s, {}, u"SECONDS"_s};
+const QCommandLineOption json(u"json"_s);
+
+constexpr int longestTimeout = 24 * 60 * 60;
+
+Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape)
+{
+    if (line.inputs.isEmpty())
+        return Error{shape.whichInput};
+    if (line.inputs.size() > shape.mostInputs)
+        return Error{u"'%1' is one name too many."_s.arg(line.inputs[shape.mostInputs])};
+    if (line.inputs.contains(QString()))
+        return Error{u"An input's name is empty."_s};
+    if (line.inputs.count(u"-"_s) > 1)
+        return Error{u"Standard input, '-', can be read once only."_s};
+    return line;
+}
 
 } // namespace
 
-Result<CommandLine> ParseCommandLine(const QStringList &words, const AllowedOptions &allowed)
+Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape)
 {
     QCommandLineParser parser;
-    parser.addOption({{outputOption, u"output"_s}, {}, u"FILE"_s});
-    if (allowed.identifier)
-        parser.addOption({identifierOption, {}, u"HEX32"_s});
+    parser.addOption(json);
+    if (shape.output)
+        parser.addOption(output);
+    if (shape.identifier)
+        parser.addOption(identifier);
+    if (shape.timeout)
+        parser.addOption(timeout);
     if (!parser.parse(QStringList{u"vellumo"_s} + words))
         return Error{parser.errorText()};
 
-    const CommandLine line = {
-        .projects = parser.positionalArguments(),
-        .output = parser.value(outputOption),
-        .identifier = allowed.identifier ? parser.value(identifierOption).toUpper() : QString(),
-    };
-    if (line.projects.isEmpty())
-        return Error{u"Which project? Please name a .vmp file."_s};
-    if (line.projects.size() > 1 && !allowed.severalProjects)
-        return Error{u"This command takes one project only."_s};
-    if (parser.isSet(outputOption) && line.output.isEmpty())
-        return Error{u"The name after -o is empty."_s};
-    static const QRegularExpression digits(u"^[0-9A-F]{32}$"_s);
-    if (allowed.identifier && parser.isSet(identifierOption) &&
-        !digits.match(line.identifier).hasMatch())
-        return Error{u"The identifier of --guid must be 32 hexadecimal digits."_s};
-    return line;
+    CommandLine line = {.inputs = parser.positionalArguments(), .json = parser.isSet(json)};
+    if (shape.output && parser.isSet(output)) {
+        line.output = parser.value(output);
+        if (line.output.isEmpty())
+            return Error{u"The name after -o is empty."_s};
+    }
+    if (shape.identifier && parser.isSet(identifier)) {
+        static const QRegularExpression digits(uR"(\A[0-9A-F]{32}\z)"_s);
+        line.identifier = parser.value(identifier).toUpper();
+        if (!digits.match(line.identifier).hasMatch())
+            return Error{u"The identifier of --guid must be 32 hexadecimal digits."_s};
+    }
+    if (shape.timeout && parser.isSet(timeout)) {
+        line.timeoutSeconds = parser.value(timeout).toInt();
+        if (line.timeoutSeconds < 1 || line.timeoutSeconds > longestTimeout)
+            return Error{u"The time of --timeout must be 1 to %1 seconds."_s.arg(longestTimeout)};
+    }
+    return Checked(line, shape);
 }

@@ -4,18 +4,23 @@
 
 #include <QStringList>
 
+/// Which words a command takes besides --help and --json.
+struct CommandShape {
+    int mostInputs = 1;
+    QString whichInput = {}; ///< what is asked for when none is named
+    bool output = false;     ///< -o NAME
+    bool identifier = false; ///< --guid HEX32
+    bool timeout = false;    ///< --timeout SECONDS
+};
+
 /// What was asked for after the command's name.
 struct CommandLine {
-    QStringList projects;
-    QString output;     ///< file or folder of -o; empty = not given
-    QString identifier; ///< 32 upper-case hexadecimal digits of --guid; empty = not given
+    QStringList inputs;      ///< at least one; "-" is standard input
+    QString output = {};     ///< of -o; empty = not given
+    QString identifier = {}; ///< 32 upper-case hexadecimal digits of --guid; empty = not given
+    int timeoutSeconds = 60; ///< of --timeout; 1 or more
+    bool json = false;
 };
 
-/// Which options a command takes besides --help.
-struct AllowedOptions {
-    bool identifier = false;
-    bool severalProjects = false;
-};
-
-/// Reads the words after the command's name. Everything after "--" is a project.
-Result<CommandLine> ParseCommandLine(const QStringList &words, const AllowedOptions &allowed);
+/// Reads the words after the command's name. Everything after "--" is an input.
+Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape);

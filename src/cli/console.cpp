@@ -1,27 +1,69 @@
 #include "cli/console.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-void WriteLine(std::ostream &stream, const QString &line)
+void WriteLine(std::ostream &stream, const QByteArray &line)
 {
-    const QByteArray bytes = line.toLocal8Bit();
-    stream.write(bytes.constData(), bytes.size()) << '\n';
+    stream.write(line.constData(), line.size()) << '\n';
+}
+
+QString ForPerson(const Notice &notice)
+{
+    return notice.shown.isEmpty() ? notice.text : notice.shown;
+}
+
+QLatin1StringView CodeOf(Exit exit)
+{
+    switch (exit) {
+    case Exit::Fine:
+    case Exit::NotPassed:
+        return "not-passed"_L1;
+    case Exit::WrongUse:
+        return "wrong-use"_L1;
+    case Exit::Unreadable:
+        return "unreadable"_L1;
+    case Exit::ToolFailed:
+        return "tool-failed"_L1;
+    case Exit::NotWritten:
+        break;
+    }
+    return "not-written"_L1;
 }
 
 } // namespace
 
-void Console::Tell(const QString &line) const
+void Console::Tell(const Notice &notice) const
 {
-    WriteLine(out, line);
+    WriteLine(out, json ? ToJson(notice) : ForPerson(notice).toLocal8Bit());
 }
 
-void Console::Complain(const QString &line) const
+void Console::Complain(const Notice &error) const
 {
-    WriteLine(err, line);
+    if (json)
+        WriteLine(out, ToJson(error));
+    else
+        WriteLine(err, Describe(Error{ForPerson(error), error.file, error.line}).toLocal8Bit());
+}
+
+void Console::Progress(const QString &line) const
+{
+    if (showProgress)
+        WriteLine(err, line.toLocal8Bit());
+}
+
+void Console::Write(const QByteArray &bytes) const
+{
+    out.write(bytes.constData(), bytes.size());
 }
 
 Exit Refuse(const Console &console, Exit exit, const Error &error)
 {
-    console.Complain(Describe(error));
+    console.Complain({.kind = "error"_L1,
+                      .code = CodeOf(exit),
+                      .text = error.text,
+                      .file = error.file,
+                      .line = error.line});
     return exit;
 }

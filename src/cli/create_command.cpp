@@ -1,5 +1,8 @@
 #include "cli/create_command.h"
 
+#include "cli/files.h"
+#include "cli/review_command.h"
+#include "cli/verify_command.h"
 #include "model/project_file.h"
 #include "model/texts.h"
 #include "palmgen/create_pass.h"
@@ -19,68 +22,100 @@ namespace {
 /// The Create pass with a private folder in place of application and projects folder, so that it
 /// runs from a read-only installation and many times at once. Nobody is told anything: the report
 /// has it all.
-CreateSurroundings PrivateSurroundings(const QString &folder, const QString &identifier)
+CreateSurroundings PrivateSurroundings(const QString &folder, const CommandLine &line)
 {
     const auto nobody = [](const QString &) {};
+    const ToolLimits limits = {{ApplicationFolder()}, line.timeoutSeconds};
     return {
         .place = {.applicationFolder = folder,
                   .projectsFolder = folder + QDir::separator(),
-                  .runTool =
-                      [](const ToolCall &call) { return RunAndWait(call, {ApplicationFolder()}); },
+                  .runTool = [limits](const ToolCall &call) { return RunAndWait(call, limits); },
                   .reportNotStarted = nobody},
         .makeIdentifier =
-            [identifier] { return identifier.isEmpty() ? MakeIdentifier() : identifier; },
+            [given = line.identifier] { return given.isEmpty() ? MakeIdentifier() : given; },
         .tellSuccess = nobody,
         .tellFailure = nobody,
         .open = nobody,
     };
 }
 
-/// Why a tool left no database, in its own words; nothing when all went well.
-std::optional<Error> ToolFault(const ToolRun &run, const QString &project)
+/// What became of one project, told with the project's name in front.
+class Creation
 {
-    if (!run.started)
-        return Error{u"cannot start %1: %2"_s.arg(run.commandLine, run.whyNotStarted), project};
-    if (!run.succeeded)
-        return Error{u"failed: %1\n%2"_s.arg(run.commandLine, run.messages.trimmed()), project};
-    return std::nullopt;
-}
+public:
+    Creation(const QString &input, const CommandLine &line, const Console &console)
+        : m_input(input), m_line(line), m_console(console)
+    {}
 
-Exit PutInPlace(const QString &made, const QString &target, const Console &console)
-{
-    const Result<QByteArray> database = ReadWholeFile(made);
-    if (!database)
-        return Refuse(console, Exit::ToolFailed, {u"the tools left no database"_s, target});
-    if (const Outcome replaced = ReplaceFile(target, *database); !replaced)
-        return Refuse(console, Exit::NotWritten, replaced.error());
-    console.Tell(QDir::toNativeSeparators(QFileInfo(target).absoluteFilePath()));
-    return Exit::Fine;
-}
+    Exit Run(const QString &folder)
+    {
+        Result<Project> project = ReadProjectInput(m_input, m_console);
+        if (!project)
+            return Refuse(m_console, Exit::Unreadable, project.error());
+        const std::vector<Notice> notices = ReviewNotices(*project, InputName(m_input));
+        for (const Notice &notice : notices)
+            m_console.Complain(notice);
+        if (!Passes(notices))
+            return Exit::NotPassed;
 
-Exit CreateDatabase(const QString &path, const QString &folder, const QString &identifier,
-                    const Console &console)
-{
-    Project project;
-    project.path = path;
-    if (const Outcome loaded = LoadProject(project); !loaded)
-        return Refuse(console, Exit::Unreadable, loaded.error());
-    const QTemporaryDir work;
-    if (!work.isValid())
-        return Refuse(console, Exit::NotWritten, {work.errorString(), QDir::tempPath()});
+        const QTemporaryDir work;
+        if (!work.isValid())
+            return Refuse(m_console, Exit::NotWritten, {work.errorString(), QDir::tempPath()});
+        const Exit built = Build(*project, work.path());
+        if (built != Exit::Fine)
+            return built;
+        const QString name = TrimBlanks(project->FormName).toString() + ".prc"_L1;
+        return PutInPlace(work.filePath(name), QDir(folder).filePath(name), *project);
+    }
 
-    const CreateReport report =
-        CreateVellsheet(project, PrivateSurroundings(work.path(), identifier));
-    if (report.projectFault)
-        return Refuse(console, Exit::NotPassed, {report.projectFault->text, path});
-    if (report.fileFault)
-        return Refuse(console, Exit::NotWritten, {report.fileFault->description, work.path()});
-    for (const ToolRun &run : report.runs)
-        if (const auto fault = ToolFault(run, path))
-            return Refuse(console, Exit::ToolFailed, *fault);
+private:
+    Exit Fail(Exit exit, const QString &reason) const
+    {
+        return Refuse(m_console, exit, {reason, InputName(m_input)});
+    }
 
-    const QString name = TrimBlanks(project.FormName).toString() + ".prc"_L1;
-    return PutInPlace(work.filePath(name), QDir(folder).filePath(name), console);
-}
+    Exit Build(const Project &project, const QString &folder) const
+    {
+        const CreateReport report = CreateVellsheet(project, PrivateSurroundings(folder, m_line));
+        if (report.projectFault)
+            return Fail(Exit::NotPassed, report.projectFault->text);
+        if (report.fileFault)
+            return Refuse(m_console, Exit::NotWritten, {report.fileFault->description, folder});
+        for (const ToolRun &run : report.runs) {
+            if (!run.started)
+                return Fail(Exit::ToolFailed,
+                            u"cannot start %1: %2"_s.arg(run.commandLine, run.whyNotStarted));
+            if (run.timedOut)
+                return Fail(Exit::ToolFailed,
+                            u"ended after %1 seconds: %2"_s.arg(
+                                QString::number(m_line.timeoutSeconds), run.commandLine));
+            if (!run.succeeded)
+                return Fail(Exit::ToolFailed,
+                            u"failed: %1\n%2"_s.arg(run.commandLine, run.messages.trimmed()));
+        }
+        return Exit::Fine;
+    }
+
+    Exit PutInPlace(const QString &made, const QString &target, const Project &project) const
+    {
+        if (!QFileInfo::exists(made))
+            return Fail(Exit::ToolFailed, u"the tools left no database"_s);
+        const Result<QByteArray> bytes = ReadWholeFile(made);
+        if (!bytes)
+            return Fail(Exit::ToolFailed, bytes.error().text);
+        if (!Agrees(*bytes, project, InputName(m_input), m_console))
+            return Exit::ToolFailed;
+        if (const Outcome replaced = ReplaceFile(target, *bytes); !replaced)
+            return Refuse(m_console, Exit::NotWritten, replaced.error());
+        const QString path = QDir::toNativeSeparators(QFileInfo(target).absoluteFilePath());
+        m_console.Tell({.kind = "result"_L1, .code = "created"_L1, .text = path, .file = path});
+        return Exit::Fine;
+    }
+
+    const QString m_input;
+    const CommandLine &m_line;
+    const Console &m_console;
+};
 
 } // namespace
 
@@ -93,7 +128,12 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
         return Refuse(console, Exit::NotWritten, {u"There is no such folder"_s, folder});
 
     Exit worst = Exit::Fine;
-    for (const QString &project : line.projects)
-        worst = std::max(worst, CreateDatabase(project, folder, line.identifier, console));
+    qsizetype number = 0;
+    for (const QString &input : line.inputs) {
+        if (line.inputs.size() > 1)
+            console.Progress(u"%1 of %2: %3"_s.arg(
+                QString::number(++number), QString::number(line.inputs.size()), InputName(input)));
+        worst = std::max(worst, Creation(input, line, console).Run(folder));
+    }
     return worst;
 }

@@ -1,4 +1,5 @@
 #include "cli/vellumo.h"
+#include "platform/terminal.h"
 
 #include <QCoreApplication>
 
@@ -7,5 +8,9 @@
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    return RunVellumo(application.arguments().sliced(1), {std::cout, std::cerr});
+    return RunVellumo(application.arguments().sliced(1),
+                      {.in = std::cin,
+                       .out = std::cout,
+                       .err = std::cerr,
+                       .showProgress = StandardErrorIsTerminal()});
 }

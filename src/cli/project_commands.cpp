@@ -1,40 +1,62 @@
 #include "cli/project_commands.h"
 
-#include "model/project_file.h"
+#include "cli/files.h"
+#include "model/project_writer.h"
 #include "palmgen/script_generator.h"
 #include "platform/identifier.h"
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// Writes the output and, to a program, tells of it.
+Exit Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
+             const Console &console)
+{
+    if (const Outcome written = WriteOutput(name, bytes, console); !written)
+        return Refuse(console, Exit::NotWritten, written.error());
+    if (console.json)
+        console.Tell({.kind = "result"_L1, .code = code, .text = u"written"_s, .file = name});
+    return Exit::Fine;
+}
+
+Exit RefuseMixture(const Console &console)
+{
+    return Refuse(console, Exit::WrongUse,
+                  {u"With --json the output needs a file of its own: -o FILE."_s});
+}
+
+} // namespace
+
 Exit WriteScript(const CommandLine &line, const Console &console)
 {
-    const QString path = line.projects.first();
-    Project project;
-    project.path = path;
-    if (const Outcome loaded = LoadProject(project); !loaded)
-        return Refuse(console, Exit::Unreadable, loaded.error());
+    const QString target = line.output.isEmpty() ? u"-"_s : line.output;
+    if (console.json && target == "-"_L1)
+        return RefuseMixture(console);
+    const QString input = line.inputs.first();
+    const Result<Project> project = ReadProjectInput(input, console);
+    if (!project)
+        return Refuse(console, Exit::Unreadable, project.error());
 
     const Script script = GenerateScript(
-        project, line.identifier.isEmpty() ? IdentifierDigits(MakeIdentifier()) : line.identifier);
+        *project, line.identifier.isEmpty() ? IdentifierDigits(MakeIdentifier()) : line.identifier);
     if (!script.outcome)
-        return Refuse(console, Exit::NotPassed, {script.outcome.error().text, path});
-    if (line.output.isEmpty()) {
-        console.out.write(script.bytes.constData(), script.bytes.size());
-        return Exit::Fine;
-    }
-    if (const Outcome written = ReplaceFile(line.output, script.bytes); !written)
-        return Refuse(console, Exit::NotWritten, written.error());
-    return Exit::Fine;
+        return Refuse(console, Exit::NotPassed, {script.outcome.error().text, InputName(input)});
+    return Deliver(target, script.bytes, "script"_L1, console);
 }
 
 Exit RewriteProject(const CommandLine &line, const Console &console)
 {
-    Project project;
-    project.path = line.projects.first();
-    if (const Outcome loaded = LoadProject(project); !loaded)
-        return Refuse(console, Exit::Unreadable, loaded.error());
-    const QString target = line.output.isEmpty() ? project.path : line.output;
-    if (const Outcome saved = SaveProject(project, target); !saved)
-        return Refuse(console, Exit::NotWritten, saved.error());
-    return Exit::Fine;
+    const QString input = line.inputs.first();
+    const QString target = line.output.isEmpty() ? input : line.output;
+    if (console.json && target == "-"_L1)
+        return RefuseMixture(console);
+    const Result<Project> project = ReadProjectInput(input, console);
+    if (!project)
+        return Refuse(console, Exit::Unreadable, project.error());
+
+    const Result<QByteArray> bytes = WriteProject(*project);
+    if (!bytes)
+        return Refuse(console, Exit::NotWritten, {bytes.error().text, InputName(input)});
+    return Deliver(target, *bytes, "rewritten"_L1, console);
 }

@@ -5,4 +5,5 @@
 #include <QStringList>
 
 /// Runs the headless command with the words after its name. Returns its exit status.
-int RunVellumo(const QStringList &words, const Console &console);
+/// Whether notices are JSON is decided by the words.
+int RunVellumo(const QStringList &words, Console console);

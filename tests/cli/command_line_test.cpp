@@ -8,11 +8,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr AllowedOptions everything = {.identifier = true, .severalProjects = true};
+const CommandShape everything = {.mostInputs = 2,
+                                 .whichInput = u"Which one?"_s,
+                                 .output = true,
+                                 .identifier = true,
+                                 .timeout = true};
 
-QString RefusalOf(const QStringList &words, const AllowedOptions &allowed = everything)
+QString RefusalOf(const QStringList &words, const CommandShape &shape = everything)
 {
-    const Result<CommandLine> line = ParseCommandLine(words, allowed);
+    const Result<CommandLine> line = ParseCommandLine(words, shape);
     return line ? u"taken"_s : line.error().text;
 }
 
@@ -24,7 +28,7 @@ TEST(CommandLine, TakesOptionsBeforeAndAfterProjects)
         {u"a.vmp"_s, u"-o"_s, u"out"_s, u"b.vmp"_s, u"--guid=0123456789abcdef0123456789ABCDEF"_s},
         everything);
     ASSERT_TRUE(line);
-    EXPECT_EQ(line->projects, (QStringList{u"a.vmp"_s, u"b.vmp"_s}));
+    EXPECT_EQ(line->inputs, (QStringList{u"a.vmp"_s, u"b.vmp"_s}));
     EXPECT_EQ(line->output, u"out"_s);
     EXPECT_EQ(line->identifier, u"0123456789ABCDEF0123456789ABCDEF"_s);
 }
@@ -33,25 +37,62 @@ TEST(CommandLine, TakesWhatFollowsTwoDashesAsProjects)
 {
     const auto line = ParseCommandLine({u"--"_s, u"-o"_s, u"--guid"_s}, everything);
     ASSERT_TRUE(line);
-    EXPECT_EQ(line->projects, (QStringList{u"-o"_s, u"--guid"_s}));
+    EXPECT_EQ(line->inputs, (QStringList{u"-o"_s, u"--guid"_s}));
     EXPECT_EQ(line->output, u""_s);
+}
+
+TEST(CommandLine, HasItsDefaults)
+{
+    const auto line = ParseCommandLine({u"-"_s}, everything);
+    ASSERT_TRUE(line);
+    EXPECT_EQ(line->inputs, QStringList{u"-"_s});
+    EXPECT_EQ(line->identifier, u""_s);
+    EXPECT_EQ(line->timeoutSeconds, 60);
+    EXPECT_FALSE(line->json);
+    EXPECT_TRUE(ParseCommandLine({u"a"_s, u"--json"_s}, everything)->json);
 }
 
 TEST(CommandLine, RefusesWhatMakesNoSense)
 {
-    const QString which = u"Which project? Please name a .vmp file."_s;
     const QString digits = u"The identifier of --guid must be 32 hexadecimal digits."_s;
-    EXPECT_EQ(RefusalOf({}), which);
-    EXPECT_EQ(RefusalOf({u"-o"_s, u"x"_s}), which);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"b"_s}), u"taken"_s);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"b"_s}, {.identifier = true}),
-              u"This command takes one project only."_s);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"-o"_s, u""_s}), u"The name after -o is empty."_s);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"--guid"_s, QString(31, u'A')}), digits);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"--guid"_s, QString(33, u'A')}), digits);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"--guid"_s, QString(32, u'G')}), digits);
-    EXPECT_EQ(RefusalOf({u"a"_s, u"--guid"_s, u""_s}), digits);
-    EXPECT_NE(RefusalOf({u"a"_s, u"--guid"_s, QString(32, u'A')}, {}), u"taken"_s);
-    EXPECT_NE(RefusalOf({u"a"_s, u"-o"_s}), u"taken"_s);
-    EXPECT_NE(RefusalOf({u"a"_s, u"--colour"_s}), u"taken"_s);
+    const QString seconds = u"The time of --timeout must be 1 to 86400 seconds."_s;
+    const struct {
+        QStringList words;
+        QString refusal;
+    } rows[] = {
+        {{}, u"Which one?"_s},
+        {{u"-o"_s, u"x"_s}, u"Which one?"_s},
+        {{u"a"_s, u"b"_s}, u"taken"_s},
+        {{u"a"_s, u"b"_s, u"c"_s}, u"'c' is one name too many."_s},
+        {{u"a"_s, u""_s}, u"An input's name is empty."_s},
+        {{u"-"_s, u"-"_s}, u"Standard input, '-', can be read once only."_s},
+        {{u"a"_s, u"-o"_s, u""_s}, u"The name after -o is empty."_s},
+        {{u"a"_s, u"--guid"_s, QString(32, u'A')}, u"taken"_s},
+        {{u"a"_s, u"--guid"_s, QString(31, u'A')}, digits},
+        {{u"a"_s, u"--guid"_s, QString(33, u'A')}, digits},
+        {{u"a"_s, u"--guid"_s, QString(32, u'G')}, digits},
+        {{u"a"_s, u"--guid"_s, QString(32, u'A') + u'\n'}, digits},
+        {{u"a"_s, u"--guid"_s, u""_s}, digits},
+        {{u"a"_s, u"--timeout"_s, u"1"_s}, u"taken"_s},
+        {{u"a"_s, u"--timeout=86400"_s}, u"taken"_s},
+        {{u"a"_s, u"--timeout"_s, u"0"_s}, seconds},
+        {{u"a"_s, u"--timeout"_s, u"86401"_s}, seconds},
+        {{u"a"_s, u"--timeout"_s, u"soon"_s}, seconds},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.words.join(u' ').toStdString());
+        EXPECT_EQ(RefusalOf(row.words), row.refusal);
+    }
+}
+
+TEST(CommandLine, TakesOnlyTheOptionsOfTheCommand)
+{
+    const CommandShape nothing = {.whichInput = u"Which one?"_s};
+    EXPECT_EQ(RefusalOf({u"a"_s, u"--json"_s}, nothing), u"taken"_s);
+    for (const QStringList &words :
+         {QStringList{u"a"_s, u"--guid"_s, QString(32, u'A')}, QStringList{u"a"_s, u"-o"_s, u"b"_s},
+          QStringList{u"a"_s, u"--timeout"_s, u"5"_s}, QStringList{u"a"_s, u"--colour"_s}})
+        EXPECT_TRUE(RefusalOf(words, nothing).startsWith(u"Unknown option"))
+            << RefusalOf(words, nothing).toStdString();
+    EXPECT_EQ(RefusalOf({u"a"_s, u"-o"_s}), u"Missing value after '-o'."_s);
 }

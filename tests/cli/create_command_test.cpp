@@ -1,3 +1,4 @@
+#include "platform/code_page.h"
 #include "session.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,9 +27,23 @@ protected:
 
     void PutTool(const QString &name, const QByteArray &orders)
     {
+        PutShellTool(name, "exec " FAKE_TOOL " " + orders);
+    }
+
+    void PutShellTool(const QString &name, const QByteArray &commands)
+    {
         const QString path = InFolder(u"tools/"_s + name);
-        WriteBytes(path, "#!/bin/sh\nexec " FAKE_TOOL " " + orders + "\n");
+        WriteBytes(path, "#!/bin/sh\n" + commands + "\n");
         QFile::setPermissions(path, QFile::Permissions(0x7755));
+    }
+
+    /// Puts a builder in place that leaves these bytes for a database, whatever it is given.
+    void UseBuilderThatLeaves(const QByteArray &database)
+    {
+        UseTools("print fine", "print fine");
+        WriteBytes(InFolder(u"left.prc"_s), database);
+        PutShellTool(u"build-prc"_s,
+                     "cp " + QFile::encodeName(InFolder(u"left.prc"_s)) + " \"$5\"");
     }
 
     int Create(const QStringList &projects)
@@ -45,9 +60,16 @@ protected:
 const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
 const QString nestbox = DataFile(u"projects/Nestbox.vmp"_s);
 
+QByteArray InCodePage(const QString &text)
+{
+    QByteArray bytes;
+    AppendWindows1252(bytes, text);
+    return bytes;
+}
+
 QString ProjectNamed(const QString &name, const QString &path)
 {
-    WriteBytes(path, BytesOf(nestbox).replace("[Nestbox]", '[' + name.toLatin1() + ']'));
+    WriteBytes(path, BytesOf(nestbox).replace("[Nestbox]", '[' + InCodePage(name) + ']'));
     return path;
 }
 
@@ -86,8 +108,10 @@ TEST_F(CreateCommand, TriesEveryProjectAndReturnsTheWorst)
     const QString noItems = DataFile(u"projects/edge-noitems.vmp"_s);
     EXPECT_EQ(Create({siteVisit, none, noItems, nestbox}), 3);
     EXPECT_EQ(Out(), InFolder(u"out/SiteVisit.prc\n"_s) + InFolder(u"out/Nestbox.prc\n"_s));
-    EXPECT_EQ(Err(), none + u": No such file or directory\n"_s + noItems +
-                         u": Question 3 is a list without items\n"_s);
+    EXPECT_TRUE(Err().startsWith(none + u": No such file or directory\n"_s + noItems +
+                                 u": warning: question 3, item list: "_s))
+        << Err().toStdString();
+    EXPECT_TRUE(Err().endsWith(u'\n' + noItems + u": Question 3 is a list without items\n"_s));
 }
 
 TEST_F(CreateCommand, AnEarlierDatabaseStaysUntilTheNewOneIsComplete)
@@ -126,7 +150,7 @@ TEST_F(CreateCommand, ReportsToolsThatLeaveNoDatabase)
 {
     UseTools("print fine", "print fine");
     EXPECT_EQ(Create({nestbox}), 4);
-    EXPECT_EQ(Err(), InFolder(u"out/Nestbox.prc"_s) + u": the tools left no database\n"_s);
+    EXPECT_EQ(Err(), nestbox + u": the tools left no database\n"_s);
     EXPECT_EQ(Made(), QStringList());
 }
 
@@ -138,25 +162,128 @@ TEST_F(CreateCommand, RefusesAFolderThatIsNotThere)
 
 TEST_F(CreateCommand, TakesOddNamesAsNames)
 {
-    for (const QString &name : {u"a;touch x"_s, u"$(id)"_s, u"-x"_s, u"--help"_s, u"a b"_s,
-                                u"`id`"_s, u"caf\u00E9"_s, u"%1%2"_s, u"'"_s}) {
+    for (const QString &name : {u"a;touch"_s, u"$(id)"_s, u"-x"_s, u"--help"_s, u"`id`"_s,
+                                u"caf\u00E9"_s, u"%1%2"_s, u"'"_s, u"&"_s, u"#!"_s, u"{~}"_s,
+                                u"a\tb"_s, u"\u20AC"_s, u"[x]^=+,."_s, QString(24, u'\u00FF')}) {
         SCOPED_TRACE(name.toStdString());
         const QString project = InFolder(u"odd.vmp"_s);
         EXPECT_EQ(Create({ProjectNamed(name, project)}), 0) << Err().toStdString();
         EXPECT_EQ(Made(), QStringList{name + u".prc"_s});
         EXPECT_TRUE(
-            BytesOf(InFolder(u"out/"_s + name + u".prc"_s)).startsWith(name.toLatin1() + '\0'))
+            BytesOf(InFolder(u"out/"_s + name + u".prc"_s)).startsWith(InCodePage(name) + '\0'))
             << "the name is in the handheld's code page";
         QFile::remove(InFolder(u"out/"_s + name + u".prc"_s));
     }
 }
 
-TEST_F(CreateCommand, RefusesNamesThatLeadElsewhere)
+TEST_F(CreateCommand, DoesNotCreateWhatFailsTheReview)
 {
-    for (const QString &name : {u"../x"_s, u"a/b"_s, u".."_s, u"  "_s}) {
-        SCOPED_TRACE(name.toStdString());
-        EXPECT_EQ(Create({ProjectNamed(name, InFolder(u"odd.vmp"_s))}), 1);
+    const QString notAFileName = u"\"\\/:*?<>|are not allowed for file name"_s;
+    const struct {
+        QString name, message;
+    } rows[] = {
+        {u"../x"_s, notAFileName},
+        {u"a/b"_s, notAFileName},
+        {u"a b"_s, u"Spaces in the Vellsheet name are not allowed."_s},
+        {u"  "_s, u"Please enter a name for your Vellsheet."_s},
+        {QString(25, u'x'), u"Please keep the Vellsheet name under 24 characters in length."_s},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name.toStdString());
+        const QString project = ProjectNamed(row.name, InFolder(u"odd.vmp"_s));
+        EXPECT_EQ(Create({project}), 1);
+        EXPECT_EQ(Out(), u""_s);
+        EXPECT_EQ(Err(), project + u": Step1\t\t"_s + row.message + u'\n');
         EXPECT_EQ(Made(), QStringList());
     }
     EXPECT_EQ(NamesIn(m_folder.path()), (QStringList{u"odd.vmp"_s, u"out"_s, u"tools"_s}));
+}
+
+TEST_F(CreateCommand, ANameOfDotsCannotLeadElsewhere)
+{
+    EXPECT_EQ(Create({ProjectNamed(u".."_s, InFolder(u"odd.vmp"_s))}), 1);
+    EXPECT_EQ(Made(), QStringList());
+}
+
+TEST_F(CreateCommand, WarnsAndCreatesAllTheSame)
+{
+    const QString project = InFolder(u"warned.vmp"_s);
+    WriteBytes(project, BytesOf(nestbox).replace("Box no.", "Box\\_no."));
+    EXPECT_EQ(Create({project}), 0);
+    EXPECT_TRUE(Err().startsWith(project + u": warning: question 1, title: "_s));
+    EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
+}
+
+TEST_F(CreateCommand, TakesNoDatabaseThatIsNotTheProjects)
+{
+    ASSERT_EQ(Create({nestbox}), 0);
+    const QString target = InFolder(u"out/Nestbox.prc"_s);
+    const QByteArray right = BytesOf(target);
+    const auto changed = [&right](qsizetype at, char to) {
+        QByteArray bytes = right;
+        bytes[at] = to;
+        return bytes;
+    };
+    const struct {
+        const char *what;
+        QByteArray database;
+    } rows[] = {
+        {"an empty file", ""},
+        {"half of it", right.first(right.size() / 2)},
+        {"its last byte missing", right.chopped(1)},
+        {"a byte too many", right + '\0'},
+        {"another project's", BytesOf(DataFile(u"palm/text.prc"_s))},
+        {"no database at all", BytesOf(nestbox)},
+        {"another name", changed(0, 'X')},
+        {"not hidden", changed(32, '\0')},
+        {"another type", changed(60, 'K')},
+        {"another creator", changed(64, 'w')},
+        {"a resource less", changed(77, char(right[77] - 1))},
+        {"another number", changed(83, char(right[83] + 1))},
+        {"a stale question", QByteArray(right).replace("Number on the box", "Number on the tag")},
+        {"a stale item", QByteArray(right).replace("Great tit", "Coal tit!")},
+        {"a stale column", QByteArray(right).replace("REMARKS", "REMARKZ")},
+        {"a stale version", right.last(4) == QByteArray("1.0") + '\0'
+                                ? right.chopped(4) + "1.1" + '\0'
+                                : right.chopped(2) + "9" + '\0'},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        ASSERT_NE(row.database, right) << "damaged in name only";
+        UseBuilderThatLeaves(row.database);
+        EXPECT_EQ(Create({nestbox}), 4);
+        EXPECT_EQ(Out(), u""_s);
+        EXPECT_TRUE(Err().startsWith(nestbox + u": "_s)) << Err().toStdString();
+        EXPECT_EQ(BytesOf(target), right) << "the earlier one stays";
+    }
+    UseBuilderThatLeaves(right);
+    EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
+}
+
+TEST_F(CreateCommand, EndsAToolThatHangs)
+{
+    UseTools("hang", "print fine");
+    EXPECT_EQ(Create({nestbox, u"--timeout"_s, u"1"_s}), 4);
+    EXPECT_TRUE(Err().startsWith(nestbox + u": ended after 1 seconds: pilrc "_s))
+        << Err().toStdString();
+    EXPECT_EQ(LeftBehind(), QStringList());
+}
+
+TEST_F(CreateCommand, TellsAPersonHowFarItIs)
+{
+    watched = true;
+    EXPECT_EQ(Create({siteVisit, nestbox}), 0);
+    EXPECT_EQ(Err(), u"1 of 2: "_s + siteVisit + u"\n2 of 2: "_s + nestbox + u'\n');
+    EXPECT_EQ(Create({siteVisit}), 0);
+    EXPECT_EQ(Err(), u""_s);
+}
+
+TEST_F(CreateCommand, TellsProgramsInJson)
+{
+    EXPECT_EQ(Create({nestbox, InFolder(u"none.vmp"_s), u"--json"_s}), 3);
+    ASSERT_EQ(Objects().size(), 2);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"created"_s);
+    EXPECT_EQ(Objects()[0][u"file"_s], InFolder(u"out/Nestbox.prc"_s));
+    EXPECT_EQ(Objects()[1][u"code"_s], u"unreadable"_s);
+    EXPECT_EQ(Err(), u""_s);
 }

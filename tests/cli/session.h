@@ -5,6 +5,8 @@
 #include "support/print.h"
 
 #include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <gtest/gtest.h>
 
@@ -16,11 +18,23 @@ class Session : public testing::Test
 protected:
     QString InFolder(const QString &name) const { return m_folder.filePath(name); }
 
-    int Run(const QStringList &words)
+    int Run(const QStringList &words, const QByteArray &input = {})
     {
         out.str({});
         err.str({});
-        return RunVellumo(words, {out, err});
+        std::istringstream in(input.toStdString());
+        return RunVellumo(words, {.in = in, .out = out, .err = err, .showProgress = watched});
+    }
+
+    /// The objects of an output in JSON, one a line.
+    QList<QJsonObject> Objects() const
+    {
+        QList<QJsonObject> objects;
+        for (const QByteArray &line : QByteArray::fromStdString(out.str()).split('\n')) {
+            if (!line.isEmpty())
+                objects.append(QJsonDocument::fromJson(line).object());
+        }
+        return objects;
     }
 
     QString Out() const { return QString::fromStdString(out.str()); }
@@ -28,6 +42,7 @@ protected:
 
     QTemporaryDir m_folder;
     std::ostringstream out, err;
+    bool watched = false; ///< whether a person looks on
 
 private:
     // The application folder is that of the running test, where no tool lies: PATH decides.

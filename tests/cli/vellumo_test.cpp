@@ -14,7 +14,8 @@ const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
 TEST_F(Vellumo, SaysHowToUseIt)
 {
     EXPECT_EQ(Run({u"--help"_s}), 0);
-    for (const QString &command : {u"create"_s, u"script"_s, u"rewrite"_s}) {
+    for (const QString &command :
+         {u"create"_s, u"info"_s, u"review"_s, u"rewrite"_s, u"script"_s, u"verify"_s}) {
         EXPECT_TRUE(Out().contains(u"vellumo "_s + command)) << command.toStdString();
         EXPECT_EQ(Run({command, u"--help"_s}), 0);
     }
@@ -82,10 +83,10 @@ TEST_F(Vellumo, NamesTheLineOfAProjectThatIsDamaged)
 
 TEST_F(Vellumo, AStreamThatTakesNothingIsAnError)
 {
+    std::istringstream in;
     out.setstate(std::ios::badbit);
-    std::ostringstream err2;
-    EXPECT_EQ(RunVellumo({u"script"_s, siteVisit}, {out, err2}), 5);
-    EXPECT_EQ(err2.str(), "vellumo: Standard output cannot be written.\n");
+    EXPECT_EQ(RunVellumo({u"script"_s, siteVisit}, {.in = in, .out = out, .err = err}), 5);
+    EXPECT_EQ(Err(), u"vellumo: Standard output cannot be written.\n"_s);
 }
 
 TEST_F(Vellumo, RewritesAProjectInItsPlaceOrElsewhere)
@@ -117,4 +118,39 @@ TEST_F(Vellumo, RewritingLeavesAFileThatItCannotReadOrWrite)
     EXPECT_EQ(Run({u"rewrite"_s, path}), 5);
     EXPECT_TRUE(Err().contains(u"The title of question 1 has the character"));
     EXPECT_EQ(BytesOf(path), foreign);
+}
+
+TEST_F(Vellumo, ReadsAndWritesStandardStreams)
+{
+    const QByteArray project = BytesOf(siteVisit);
+    EXPECT_EQ(Run({u"rewrite"_s, u"-"_s}, project), 0);
+    EXPECT_EQ(QByteArray::fromStdString(out.str()), project);
+    EXPECT_EQ(Run({u"rewrite"_s, siteVisit, u"-o"_s, u"-"_s}), 0);
+    EXPECT_EQ(QByteArray::fromStdString(out.str()), project);
+    EXPECT_EQ(Run({u"script"_s, u"-"_s, u"--guid"_s, identifier}, project), 0);
+    EXPECT_EQ(QByteArray::fromStdString(out.str()), BytesOf(DataFile(u"projects/SiteVisit.rcp"_s)));
+
+    EXPECT_EQ(Run({u"script"_s, u"-"_s}, "no project"), 3);
+    EXPECT_TRUE(Err().startsWith(u"standard input:1: "));
+    EXPECT_EQ(Run({u"script"_s, u"-"_s}, QByteArray(16 * 1024 * 1024 + 1, ' ')), 3);
+    EXPECT_EQ(Err(), u"standard input: The file is larger than any project can be\n"_s);
+}
+
+TEST_F(Vellumo, TellsProgramsInJson)
+{
+    const QString file = InFolder(u"a.rcp"_s);
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, file, u"--json"_s}), 0);
+    ASSERT_EQ(Objects().size(), 1);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"result"_s);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"script"_s);
+    EXPECT_EQ(Objects()[0][u"file"_s], file);
+
+    EXPECT_EQ(Run({u"--json"_s}), 2) << "the same status as without";
+    ASSERT_EQ(Objects().size(), 1);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"wrong-use"_s);
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"--json"_s}), 2)
+        << "a script and an object would get mixed";
+    EXPECT_EQ(Run({u"script"_s, InFolder(u"none.vmp"_s), u"-o"_s, file, u"--json"_s}), 3);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"unreadable"_s);
+    EXPECT_EQ(Err(), u""_s);
 }
