@@ -36,4 +36,4 @@ quietly() {
 }
 
 build_packages=(g++ cmake ninja-build qt6-base-dev)
-test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl)
+test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl time)
