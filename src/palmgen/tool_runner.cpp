@@ -52,8 +52,8 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
         process.kill();
         process.waitForFinished(-1);
     }
-    run.succeeded = !run.timedOut && process.exitStatus() == QProcess::NormalExit &&
-                    process.exitCode() == 0;
+    run.succeeded =
+        !run.timedOut && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     run.messages = QString::fromLocal8Bit(messages);
     return run;
 }

@@ -15,7 +15,7 @@ struct ToolCall {
 struct ToolRun {
     QString commandLine;
     bool started = false;
-    bool timedOut = false; ///< it was ended because its time was over
+    bool timedOut = false;  ///< it was ended because its time was over
     QString whyNotStarted;  ///< the platform's description, where it did not start
     bool succeeded = false; ///< ended by itself with exit status 0
     QString messages;       ///< what it wrote on standard error

@@ -14,11 +14,12 @@ class ToolRunner : public testing::Test
 protected:
     ToolRun Run(const QStringList &arguments, int timeoutSeconds = 0) const
     {
-        return RunAndWait({.name = u"fake_tool"_s,
-                           .arguments = arguments,
-                           .workingFolder = m_folder.path(),
-                           .commandLine = u"the command line"_s},
-                          {.folders = {QStringLiteral(FAKE_TOOL_FOLDER)}, .timeoutSeconds = timeoutSeconds});
+        return RunAndWait(
+            {.name = u"fake_tool"_s,
+             .arguments = arguments,
+             .workingFolder = m_folder.path(),
+             .commandLine = u"the command line"_s},
+            {.folders = {QStringLiteral(FAKE_TOOL_FOLDER)}, .timeoutSeconds = timeoutSeconds});
     }
 
     QTemporaryDir m_folder;
