@@ -36,14 +36,18 @@ constexpr TextCheck doubleQuote = {
     "double-quote"_L1, [](QStringView text) { return text.contains(u'"'); },
     "the script does not escape a double quote here, so it will not arrive as typed"_L1};
 
+constexpr TextCheck lineBreak = {
+    "line-break"_L1, [](QStringView text) { return text.contains(u'\n') || text.contains(u'\r'); },
+    "a line break ends the text in the script too early and breaks the build"_L1};
+
 constexpr TextCheck comma = {"comma-in-item"_L1,
                              [](QStringView text) { return text.contains(u','); },
                              "a comma ends an item, so this one will arrive as several"_L1};
 
 // The script escapes double quotes in the description and in question texts, and nowhere else.
-constexpr TextCheck escapedTextChecks[] = {backslash, backslashAtEnd};
-constexpr TextCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote};
-constexpr TextCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, comma};
+constexpr TextCheck escapedTextChecks[] = {backslash, backslashAtEnd, lineBreak};
+constexpr TextCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak};
+constexpr TextCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak, comma};
 
 /// One walk over a project, which gathers the warnings in their order.
 class Walk

@@ -1,6 +1,6 @@
-#include "session.h"
 #include "support/full_disk.h"
 #include "support/ordinary_user.h"
+#include "vellumo_run.h"
 
 #include <random>
 
@@ -11,7 +11,7 @@ namespace {
 const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
 
 /// Whatever is wrong with an input, each command says so in one line and writes nothing.
-class BadInput : public Session
+class BadInput : public VellumoRun
 {
 protected:
     BadInput()

@@ -1,12 +1,12 @@
 #include "platform/code_page.h"
-#include "session.h"
+#include "vellumo_run.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 /// Tools are found along PATH: the real ones, unless a test puts others in their place.
-class CreateCommand : public Session
+class CreateCommand : public VellumoRun
 {
 protected:
     CreateCommand()

@@ -1,11 +1,11 @@
-#include "session.h"
+#include "vellumo_run.h"
 
 #include <QJsonArray>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-using InfoCommand = Session;
+using InfoCommand = VellumoRun;
 }
 
 TEST_F(InfoCommand, TellsWhatIsInAProject)

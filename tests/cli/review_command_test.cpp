@@ -1,10 +1,10 @@
-#include "session.h"
+#include "vellumo_run.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class ReviewCommand : public Session
+class ReviewCommand : public VellumoRun
 {
 protected:
     /// A file with the project of tests/data, changed.

@@ -1,10 +1,10 @@
-#include "session.h"
+#include "vellumo_run.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-using Vellumo = Session;
+using Vellumo = VellumoRun;
 
 const QString identifier = u"0123456789ABCDEF0123456789ABCDEF"_s;
 const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);

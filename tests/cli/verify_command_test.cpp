@@ -1,4 +1,4 @@
-#include "session.h"
+#include "vellumo_run.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -7,7 +7,7 @@ namespace {
 const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
 
 /// A database of SiteVisit.vmp to be damaged.
-class VerifyCommand : public Session
+class VerifyCommand : public VellumoRun
 {
 protected:
     VerifyCommand()

@@ -64,6 +64,8 @@ TEST(DeliveryWarnings, OfBackslashesAndDoubleQuotes)
         {"one at the end", u"a\\"_s, {u"backslash"_s}, {u"backslash"_s}},
         {"one is enough to warn once", u"a\\b\\c\\"_s, {u"backslash"_s}, {u"backslash"_s}},
         {"a quote", u"a\"b"_s, {u"double-quote"_s}, {}},
+        {"a line feed", u"a\nb"_s, {u"line-break"_s}, {u"line-break"_s}},
+        {"a carriage return", u"a\r"_s, {u"line-break"_s}, {u"line-break"_s}},
         {"both", u"a\\\"b"_s, {u"backslash"_s, u"double-quote"_s}, {u"backslash"_s}},
     };
     for (const auto &row : rows) {

@@ -13,7 +13,7 @@
 #include <sstream>
 
 /// The headless command run in a folder of its own, with what it printed.
-class Session : public testing::Test
+class VellumoRun : public testing::Test
 {
 protected:
     QString InFolder(const QString &name) const { return m_folder.filePath(name); }
