@@ -13,8 +13,6 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -127,13 +125,7 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
     if (!QFileInfo(folder).isDir())
         return Refuse(console, Exit::NotWritten, {u"There is no such folder"_s, folder});
 
-    Exit worst = Exit::Fine;
-    qsizetype number = 0;
-    for (const QString &input : line.inputs) {
-        if (line.inputs.size() > 1)
-            console.Progress(u"%1 of %2: %3"_s.arg(
-                QString::number(++number), QString::number(line.inputs.size()), InputName(input)));
-        worst = std::max(worst, Creation(input, line, console).Run(folder));
-    }
-    return worst;
+    return ForEachInput(line, console, [&](const QString &input) {
+        return Creation(input, line, console).Run(folder);
+    });
 }

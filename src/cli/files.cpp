@@ -3,6 +3,8 @@
 #include "model/project_file.h"
 #include "model/project_reader.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -54,4 +56,19 @@ Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console 
         return ReplaceFile(name, bytes);
     console.Write(bytes);
     return done;
+}
+
+Exit ForEachInput(const CommandLine &line, const Console &console,
+                  const std::function<Exit(const QString &input)> &act)
+{
+    const qsizetype count = line.inputs.size();
+    Exit worst = Exit::Fine;
+    for (qsizetype i = 0; i < count; ++i) {
+        const QString &input = line.inputs[i];
+        if (count > 1)
+            console.Progress(u"%1 of %2: %3"_s.arg(QString::number(i + 1), QString::number(count),
+                                                   InputName(input)));
+        worst = std::max(worst, act(input));
+    }
+    return worst;
 }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "cli/command_line.h"
 #include "cli/console.h"
 #include "model/project.h"
+
+#include <functional>
 
 /// The bytes of an input, "-" being standard input; an error names it and why it cannot be read.
 Result<QByteArray> ReadInput(const QString &name, const Console &console);
@@ -14,3 +17,8 @@ QString InputName(const QString &name);
 
 /// Puts bytes in the place of a file, or on standard output where the name is "-".
 Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console &console);
+
+/// Does the same with each input, telling how far it is where there are several. Each is tried; the
+/// worst exit is returned.
+Exit ForEachInput(const CommandLine &line, const Console &console,
+                  const std::function<Exit(const QString &input)> &act);

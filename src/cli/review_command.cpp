@@ -62,8 +62,7 @@ bool Passes(const std::vector<Notice> &notices)
 
 Exit ReviewProjects(const CommandLine &line, const Console &console)
 {
-    Exit worst = Exit::Fine;
-    for (const QString &input : line.inputs)
-        worst = std::max(worst, Review(input, line.inputs.size() > 1, console));
-    return worst;
+    return ForEachInput(line, console, [&](const QString &input) {
+        return Review(input, line.inputs.size() > 1, console);
+    });
 }

@@ -45,6 +45,8 @@ constexpr TextCheck comma = {"comma-in-item"_L1,
                              "a comma ends an item, so this one will arrive as several"_L1};
 
 // The script escapes double quotes in the description and in question texts, and nowhere else.
+// The review lets neither a backslash nor a double quote into the form name.
+constexpr TextCheck nameChecks[] = {lineBreak};
 constexpr TextCheck escapedTextChecks[] = {backslash, backslashAtEnd, lineBreak};
 constexpr TextCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak};
 constexpr TextCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak, comma};
@@ -57,6 +59,7 @@ public:
 
     std::vector<DeliveryWarning> Run()
     {
+        CheckText(nameChecks, m_project.FormName, {"form name"_L1});
         CheckText(rawTextChecks, m_project.FormVersion, {"form version"_L1});
         CheckText(escapedTextChecks, m_project.Description, {"description"_L1});
         int position = 0;

@@ -176,6 +176,22 @@ TEST_F(CreateCommand, TakesOddNamesAsNames)
     }
 }
 
+TEST_F(CreateCommand, TakesEveryCharacterThatTheRulesAllowInAName)
+{
+    const QByteArray refused = " \"*/:<>?\\|";
+    QStringList projects;
+    for (int byte = 0x20; byte < 0x100; ++byte) {
+        if (refused.contains(static_cast<char>(byte)))
+            continue;
+        const QString name = FromWindows1252(QByteArray(1, static_cast<char>(byte))) + u"name"_s;
+        projects.append(ProjectNamed(name, InFolder(u"%1.vmp"_s.arg(byte))));
+    }
+    EXPECT_EQ(Create(projects), 0) << Err().toStdString();
+    EXPECT_EQ(Err(), u""_s);
+    EXPECT_EQ(Out().count(u'\n'), projects.size());
+    EXPECT_EQ(Made().size(), projects.size());
+}
+
 TEST_F(CreateCommand, DoesNotCreateWhatFailsTheReview)
 {
     const QString notAFileName = u"\"\\/:*?<>|are not allowed for file name"_s;

@@ -89,3 +89,13 @@ TEST_F(ReviewCommand, LeavesTheFileAlone)
     EXPECT_EQ(Run({u"review"_s, path}), 0);
     EXPECT_EQ(BytesOf(path), before);
 }
+
+TEST_F(ReviewCommand, TellsAPersonHowFarItIs)
+{
+    watched = true;
+    const QString good = DataFile(u"projects/SiteVisit.vmp"_s);
+    EXPECT_EQ(Run({u"review"_s, good, good}), 0);
+    EXPECT_EQ(Err(), u"1 of 2: "_s + good + u"\n2 of 2: "_s + good + u'\n');
+    EXPECT_EQ(Run({u"review"_s, good}), 0);
+    EXPECT_EQ(Err(), u""_s);
+}

@@ -93,6 +93,15 @@ TEST(DeliveryWarnings, OfBackslashesAndDoubleQuotes)
     }
 }
 
+TEST(DeliveryWarnings, OfALineBreakInTheFormName)
+{
+    Project project;
+    project.FormName = u"a\nb"_s;
+    EXPECT_EQ(Summaries(project), QStringList{u"line-break 0 form name a\nb"_s});
+    project.FormName = u"a\\\"b"_s;
+    EXPECT_EQ(Summaries(project), QStringList()) << "these the review refuses";
+}
+
 TEST(DeliveryWarnings, TellABackslashThatBreaksTheBuild)
 {
     const QString misread = u"title: \"%1\": a backslash starts an escape in the script, "
