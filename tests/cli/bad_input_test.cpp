@@ -179,17 +179,36 @@ TEST_F(BadInput, AFullDiskLeavesTheOldDatabase)
     EXPECT_EQ(BytesOf(path), "kept");
 }
 
-TEST_F(BadInput, AReadOnlyFolderLeavesTheOldDatabase)
+TEST_F(BadInput, AReadOnlyFolderLeavesTheOldFile)
 {
-    const QString path = InFolder(u"out/SiteVisit.prc"_s);
+    const QString path = InFolder(u"out/kept.rcp"_s);
     ASSERT_TRUE(WriteBytes(path, "kept"));
     QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
     QFile::setPermissions(InFolder(u"out"_s), QFile::Permissions(0x5555));
-    {
+    for (const QString &command : {u"rewrite"_s, u"script"_s}) {
         const AsOrdinaryUser ordinary;
-        EXPECT_EQ(Run({u"create"_s, siteVisit, u"-o"_s, InFolder(u"out"_s)}), 5);
+        EXPECT_EQ(Run({command, siteVisit, u"-o"_s, path}), 5);
         EXPECT_EQ(Err(), path + u": Permission denied\n"_s);
     }
     QFile::setPermissions(InFolder(u"out"_s), QFile::Permissions(0x7755));
     EXPECT_EQ(BytesOf(path), "kept");
+}
+
+TEST_F(BadInput, AFolderInTheDatabasesPlaceStays)
+{
+    const QString path = InFolder(u"out/SiteVisit.prc"_s);
+    ASSERT_TRUE(QDir().mkpath(path + u"/inner"_s));
+    EXPECT_EQ(Run({u"create"_s, siteVisit, u"-o"_s, InFolder(u"out"_s)}), 5);
+    EXPECT_EQ(Out(), u""_s);
+    EXPECT_TRUE(Err().startsWith(path + u": "_s)) << Err().toStdString();
+    EXPECT_TRUE(QFileInfo(path).isDir());
+}
+
+TEST_F(BadInput, AFolderThatVanishedIsSaid)
+{
+    const QString path = InFolder(u"gone"_s);
+    EXPECT_EQ(Run({u"create"_s, siteVisit, u"-o"_s, path}), 5);
+    EXPECT_EQ(Err(), path + u": There is no such folder\n"_s);
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, path + u"/a.rcp"_s}), 5);
+    EXPECT_EQ(Err().count(u'\n'), 1);
 }
