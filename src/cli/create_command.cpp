@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,8 +42,10 @@ CreateSurroundings PrivateSurroundings(const QString &folder, const CommandLine 
 class Creation
 {
 public:
-    Creation(const QString &input, const CommandLine &line, const Console &console)
-        : m_input(input), m_line(line), m_console(console)
+    /// Made has the databases of the same call and the inputs that they were made from.
+    Creation(const QString &input, const CommandLine &line, const Console &console,
+             QHash<QString, QString> &made)
+        : m_input(input), m_line(line), m_console(console), m_made(made)
     {}
 
     Exit Run(const QString &folder)
@@ -85,7 +88,7 @@ private:
                             u"cannot start %1: %2"_s.arg(run.commandLine, run.whyNotStarted));
             if (run.timedOut)
                 return Fail(Exit::ToolFailed,
-                            u"ended after %1 seconds: %2"_s.arg(
+                            u"did not end within %1 s: %2"_s.arg(
                                 QString::number(m_line.timeoutSeconds), run.commandLine));
             if (!run.succeeded)
                 return Fail(Exit::ToolFailed,
@@ -103,8 +106,12 @@ private:
             return Fail(Exit::ToolFailed, bytes.error().text);
         if (!Agrees(*bytes, project, InputName(m_input), m_console))
             return Exit::ToolFailed;
+        if (m_made.contains(target))
+            return Fail(Exit::NotWritten, u"its database would take the place of that of %1"_s.arg(
+                                              m_made.value(target)));
         if (const Outcome replaced = ReplaceFile(target, *bytes); !replaced)
             return Refuse(m_console, Exit::NotWritten, replaced.error());
+        m_made.insert(target, InputName(m_input));
         const QString path = QDir::toNativeSeparators(QFileInfo(target).absoluteFilePath());
         m_console.Tell({.kind = "result"_L1, .code = "created"_L1, .text = path, .file = path});
         return Exit::Fine;
@@ -113,6 +120,7 @@ private:
     const QString m_input;
     const CommandLine &m_line;
     const Console &m_console;
+    QHash<QString, QString> &m_made;
 };
 
 } // namespace
@@ -125,7 +133,8 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
     if (!QFileInfo(folder).isDir())
         return Refuse(console, Exit::NotWritten, {u"There is no such folder"_s, folder});
 
+    QHash<QString, QString> made;
     return ForEachInput(line, console, [&](const QString &input) {
-        return Creation(input, line, console).Run(folder);
+        return Creation(input, line, console, made).Run(folder);
     });
 }

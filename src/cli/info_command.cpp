@@ -26,7 +26,7 @@ struct Info {
 
 Info InfoOf(const ProjectSummary &summary, qsizetype size)
 {
-    return {{{u"kind"_s, u"project"_s},
+    return {{{u"format"_s, u"project"_s},
              {u"name"_s, summary.name},
              {u"version"_s, summary.version},
              {u"size"_s, size},
@@ -39,7 +39,7 @@ Info InfoOf(const ProjectSummary &summary, qsizetype size)
 
 Info InfoOf(const DatabaseSummary &summary)
 {
-    Info info = {{{u"kind"_s, u"database"_s},
+    Info info = {{{u"format"_s, u"database"_s},
                   {u"name"_s, summary.name},
                   {u"type"_s, summary.type},
                   {u"creator"_s, summary.creator},
@@ -72,7 +72,7 @@ void TellPerson(const Info &info, const Console &console)
 
 void TellProgram(const Info &info, const QString &inputName, const Console &console)
 {
-    QJsonObject object = {{u"file"_s, inputName}};
+    QJsonObject object = {{u"kind"_s, u"result"_s}, {u"code"_s, u"info"_s}, {u"file"_s, inputName}};
     for (const Info::Fact &fact : info.facts)
         object.insert(fact.name, fact.value);
     object.insert(u"types"_s, QJsonArray::fromStringList(info.types));

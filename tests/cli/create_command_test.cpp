@@ -276,11 +276,20 @@ TEST_F(CreateCommand, TakesNoDatabaseThatIsNotTheProjects)
     EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
 }
 
+TEST_F(CreateCommand, OneProjectDoesNotTakeThePlaceOfAnother)
+{
+    const QString namesake = ProjectNamed(u"Nestbox"_s, InFolder(u"namesake.vmp"_s));
+    EXPECT_EQ(Create({nestbox, namesake}), 5);
+    EXPECT_EQ(Out(), InFolder(u"out/Nestbox.prc\n"_s));
+    EXPECT_EQ(Err(),
+              namesake + u": its database would take the place of that of "_s + nestbox + u'\n');
+}
+
 TEST_F(CreateCommand, EndsAToolThatHangs)
 {
     UseTools("hang", "print fine");
     EXPECT_EQ(Create({nestbox, u"--timeout"_s, u"1"_s}), 4);
-    EXPECT_TRUE(Err().startsWith(nestbox + u": ended after 1 seconds: pilrc "_s))
+    EXPECT_TRUE(Err().startsWith(nestbox + u": did not end within 1 s: pilrc "_s))
         << Err().toStdString();
     EXPECT_EQ(LeftBehind(), QStringList());
 }
