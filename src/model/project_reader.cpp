@@ -17,6 +17,12 @@ bool IsKnownCompany(QStringView tag)
     return tag == "Brindlecot Data Collect"_L1 || tag == "Harlo Data Collect"_L1;
 }
 
+/// Whether a number's text is without the blanks and plus sign that a conversion passes over.
+bool IsPlain(const QString &number)
+{
+    return number.back().isDigit() && (number.front() == u'-' || number.front().isDigit());
+}
+
 /// The texts of the elements of some names, in the order of the names; null = not met yet.
 template <size_t count> struct Texts {
     std::array<QLatin1StringView, count> names;
@@ -34,7 +40,12 @@ public:
 
     Result<Project> Read()
     {
-        if (m_xml.readNextStartElement())
+        while (!m_xml.atEnd() && !m_xml.isStartElement()) {
+            m_xml.readNext();
+            if (m_xml.isDTD() && m_xml.text().contains("<!ENTITY"_L1))
+                Refuse(u"a project declares no entities"_s);
+        }
+        if (m_xml.isStartElement())
             ReadDocument();
         while (!m_xml.atEnd())
             m_xml.readNext();
@@ -200,7 +211,7 @@ int Reader::Number(QLatin1StringView name, const QString &text)
 {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
-    if (!isNumber)
+    if (!isNumber || !IsPlain(text))
         Refuse(u"%1 is '%2', which is no whole number of 32 bits"_s.arg(name, text.left(40)));
     return number;
 }

@@ -1,5 +1,6 @@
 #include "model/project_writer.h"
 
+#include "model/project_file.h"
 #include "model/texts.h"
 #include "platform/code_page.h"
 
@@ -10,6 +11,12 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/// Every reader of XML takes a line's end for a line feed; written as one it stays the same.
+QString WithLineFeeds(QStringView text)
+{
+    return text.toString().replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+}
 
 /// Gathers the lines of the file; after a failure it gathers nothing more and keeps the error.
 class Writer
@@ -39,6 +46,8 @@ public:
     {
         if (!m_state)
             return m_state.error();
+        if (m_bytes.size() > largestFile)
+            return Error{u"The project is larger than any file of one can be."_s};
         return std::move(m_bytes);
     }
 
@@ -47,9 +56,13 @@ private:
     {
         if (!m_state)
             return;
+        QString normalized;
+        if (value.contains(u'\r')) {
+            normalized = WithLineFeeds(value);
+            value = normalized;
+        }
         const auto forbidden = std::ranges::find_if(value, [](QChar character) {
-            return character < u' ' && character != u'\t' && character != u'\n' &&
-                   character != u'\r';
+            return character < u' ' && character != u'\t' && character != u'\n';
         });
         if (forbidden != value.end())
             m_state =
@@ -78,7 +91,7 @@ QHash<int, int> WriteQuestions(Writer &writer, const clsDataSource &source)
     QHash<int, int> positions;
     int position = 0;
     writer.Line("<rcMain>");
-    for (const QuestionRow &row : source.Questions().Shown()) {
+    for (const QuestionRow &row : source.Questions().Rows()) {
         positions.insert(row.Id, ++position);
         writer.Line("<record>");
         writer.Number("Order", row.Order);
@@ -96,7 +109,7 @@ QHash<int, int> WriteQuestions(Writer &writer, const clsDataSource &source)
 void WriteItems(Writer &writer, const clsDataSource &source, const QHash<int, int> &positions)
 {
     writer.Line("<rcChilds>");
-    for (const ItemRow &row : source.Items().Shown()) {
+    for (const ItemRow &row : source.Items().Rows()) {
         writer.Line("<record>");
         writer.Number("Id", row.Id);
         writer.Value("Item", row.Item, {"item list"_L1, positions.value(row.Id)});

@@ -3,9 +3,9 @@
 #include <QtGlobal>
 
 #include <algorithm>
+#include <deque>
 #include <functional>
 #include <ranges>
-#include <vector>
 
 /// Rows in the order in which they were added, with a cursor and a filter.
 ///
@@ -25,6 +25,9 @@ public:
     /// The row under the cursor, which must stand on one.
     Row &Current() { return m_rows[CurrentIndex()]; }
     const Row &Current() const { return m_rows[CurrentIndex()]; }
+
+    /// All rows, whatever the filter, in table order.
+    const std::deque<Row> &Rows() const { return m_rows; }
 
     /// The rows that pass the filter, in table order; the cursor stays where it is.
     auto Shown() const
@@ -108,7 +111,7 @@ private:
         return index;
     }
 
-    std::vector<Row> m_rows;
+    std::deque<Row> m_rows; // deleting the first row again and again moves nothing
     Filter m_filter;
     Position m_cursor = -1;
 };

@@ -18,7 +18,7 @@ constexpr int largestCount = 255;
 QHash<int, QString> JoinedItems(const clsDataSource &source)
 {
     QHash<int, QString> joined;
-    for (const ItemRow &row : source.Items().Shown()) {
+    for (const ItemRow &row : source.Items().Rows()) {
         const auto items = joined.find(row.Id);
         if (items == joined.end())
             joined.insert(row.Id, row.Item);
@@ -43,7 +43,7 @@ public:
         WriteCodes("hex\"ques\" ID 1002\r\n", QuestionKindCode);
         WriteTexts(identifier);
         int number = 0;
-        for (const QuestionRow &question : m_project.source.Questions().Shown())
+        for (const QuestionRow &question : m_project.source.Questions().Rows())
             WriteForm(++number, question);
         WriteApplication();
         return std::move(m_script);
@@ -95,7 +95,7 @@ void Writer::WriteCount()
 void Writer::WriteCodes(QByteArrayView header, QLatin1StringView (*codeOf)(QStringView type))
 {
     Literal(header);
-    for (const QuestionRow &question : m_project.source.Questions().Shown()) {
+    for (const QuestionRow &question : m_project.source.Questions().Rows()) {
         Literal(codeOf(question.Type));
         Literal(" ");
     }
@@ -123,7 +123,7 @@ void Writer::WriteColumnNames()
 {
     Literal("STRINGTABLE ID 1004 \"\"");
     int number = 0;
-    for (const QuestionRow &question : m_project.source.Questions().Shown()) {
+    for (const QuestionRow &question : m_project.source.Questions().Rows()) {
         Literal(" \"");
         Text(question.ColumnName, {"column name"_L1, ++number});
         Literal("\"");

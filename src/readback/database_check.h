@@ -10,7 +10,7 @@
 /// resources it has, and every resource to its last byte. Empty when nothing differs.
 ///
 /// Not compared: the times, the identifier beyond its shape, and the width of lists beyond the
-/// least that it can be. No filter may be set on the project's tables.
+/// least that it can be.
 QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project);
 
 /// Checks a database by itself: whether it is of the kind that we make, every resource of it can be

@@ -57,10 +57,10 @@ DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings)
     texts.folder = DeliverFolder(Encoded(project.FormPath, {"data folder"_L1}, findings));
 
     QHash<int, QStringList> items;
-    for (const ItemRow &row : project.source.Items().Shown())
+    for (const ItemRow &row : project.source.Items().Rows())
         items[row.Id].append(row.Item);
     int number = 0;
-    for (const QuestionRow &row : project.source.Questions().Shown()) {
+    for (const QuestionRow &row : project.source.Questions().Rows()) {
         ++number;
         const QString joined = HasItems(row.Type) ? items.value(row.Id).join(u',') : QString();
         texts.questions.append(

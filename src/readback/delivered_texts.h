@@ -29,5 +29,5 @@ struct DeliveredTexts {
 /// interpreted, an item with a comma becomes two, the folder ends in a backslash.
 ///
 /// A text with a character that windows-1252 lacks is a finding; what stands before the character
-/// is delivered then. No filter may be set on the tables.
+/// is delivered then.
 DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings);

@@ -78,7 +78,7 @@ ProjectSummary Summarize(const Project &project)
                               .version = project.FormVersion,
                               .questions = project.source.QuestionCount(),
                               .items = project.source.Items().Count()};
-    for (const QuestionRow &question : project.source.Questions().Shown()) {
+    for (const QuestionRow &question : project.source.Questions().Rows()) {
         summary.types += question.Type;
         summary.columnNames += question.ColumnName;
         summary.titles += question.Title;

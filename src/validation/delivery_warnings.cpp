@@ -63,7 +63,7 @@ public:
         CheckText(rawTextChecks, m_project.FormVersion, {"form version"_L1});
         CheckText(escapedTextChecks, m_project.Description, {"description"_L1});
         int position = 0;
-        for (const QuestionRow &question : m_project.source.Questions().Shown())
+        for (const QuestionRow &question : m_project.source.Questions().Rows())
             CheckQuestion(question, ++position);
         CheckOwners();
         return std::move(m_warnings);
@@ -73,12 +73,12 @@ private:
     void LinkItems()
     {
         int position = 0;
-        for (const QuestionRow &question : m_project.source.Questions().Shown()) {
+        for (const QuestionRow &question : m_project.source.Questions().Rows()) {
             ++position;
             if (HasItems(question.Type) && !m_owners.contains(question.Id))
                 m_owners.insert(question.Id, position);
         }
-        for (const ItemRow &item : m_project.source.Items().Shown())
+        for (const ItemRow &item : m_project.source.Items().Rows())
             m_items[item.Id].push_back(item.Item);
     }
 
@@ -117,7 +117,7 @@ private:
 
     void CheckOwners()
     {
-        for (const ItemRow &item : m_project.source.Items().Shown()) {
+        for (const ItemRow &item : m_project.source.Items().Rows()) {
             if (!m_owners.contains(item.Id))
                 Warn("stray-item"_L1, {"item"_L1}, item.Item,
                      u"no list question has its Id, %1, so it will not arrive"_s.arg(item.Id));

@@ -20,5 +20,5 @@ QString Describe(const DeliveryWarning &warning);
 /// texts, its links and its items, last the items that no list question owns. Items that share
 /// an Id are held against the first list question with that Id.
 ///
-/// No filter may be set on the tables. Takes time in proportion to questions and items.
+/// Takes time in proportion to questions and items.
 std::vector<DeliveryWarning> FindDeliveryWarnings(const Project &project);

@@ -214,9 +214,8 @@ TEST(clsDataSource, AQuestionMayKeepItsOwnColumnName)
     EXPECT_FALSE(source.ColumnNameUsedElsewhere(u"name"));
 }
 
-TEST(clsDataSource, ClearsALargeTableInOnePass)
+TEST(clsDataSource, DeletesFromALargeTable)
 {
-    // Row by row from the front this would move some half a thousand million rows.
     clsDataSource source = SourceWithColumns({});
     for (int i = 0; i < 32640; ++i)
         AddItem(source, i % 128, u"item"_s);

@@ -159,8 +159,9 @@ TEST(ProjectReader, TakesWholeNumbersOf32Bits)
     EXPECT_EQ(Read(Changed("<MaxId>8", "<MaxId>2147483647")).source.MaxId(), 2147483647);
     EXPECT_EQ(Read(Changed("<MaxId>8", "<MaxId>-2147483648")).source.MaxId(), -2147483648);
     EXPECT_EQ(Read(Changed("<MaxId>8", "<MaxId>007")).source.MaxId(), 7);
-    for (const char *number : {"", "x", "1x", "0x10", "1.0", "1e3", "2147483648", "-2147483649",
-                               "99999999999999999999", "1 2", "\xB9"}) {
+    for (const char *number :
+         {"", "x", "1x", "0x10", "1.0", "1e3", "2147483648", "-2147483649", "99999999999999999999",
+          "1 2", "\xB9", " 1", "1 ", "\t1", "+1", "-", "--1"}) {
         SCOPED_TRACE(number);
         EXPECT_TRUE(RefusalOf(Changed("<MaxId>8", QByteArray("<MaxId>") + number))
                         .contains(u"which is no whole number of 32 bits"));
@@ -257,6 +258,12 @@ TEST(ProjectReader, StandsDepthAndEntitiesThatGrow)
     const QByteArray within = deep + "x" + QByteArray("</a>").repeated(100000);
     EXPECT_EQ(Read(Changed("Words", within)).Description, u"x"_s);
     EXPECT_EQ(Read(Changed("<MaxId>", within + "<MaxId>")).FormName, u"Survey"_s);
+
+    const QByteArray many = "<!DOCTYPE root [<!ENTITY a \"" + QByteArray(4000, 'a') + "\">]>";
+    EXPECT_EQ(RefusalOf(Changed("<root>", many + "<root>")
+                            .replace("Words", QByteArray("&a;").repeated(100000))),
+              u"2: a project declares no entities"_s);
+    EXPECT_EQ(Read(Changed("<root>", "<!DOCTYPE root><root>")).FormName, u"Survey"_s);
 
     QByteArray bomb = "<!DOCTYPE root [<!ENTITY a0 \"ha\">";
     for (int i = 1; i <= 30; ++i) {

@@ -118,6 +118,8 @@ TEST(ProjectWriter, WritesValuesTrimmedOfBlanksAlone)
          "<Description><![CDATA[Stock check]]></Description>"},
         {"nothing but blanks", u"   "_s, "<Description></Description>"},
         {"tab and line feed stay", u"\ta\n"_s, "<Description><![CDATA[\ta\n]]></Description>"},
+        {"line ends become line feeds", u"a\r\nb\rc\n"_s,
+         "<Description><![CDATA[a\nb\nc\n]]></Description>"},
         {"markup needs no escape", u"a & <b> \"c\""_s,
          "<Description><![CDATA[a & <b> \"c\"]]></Description>"},
         {"the end of a CDATA section is written as it stands", u"a]]>b"_s,
@@ -140,6 +142,24 @@ TEST(ProjectWriter, ATitleListThatBeginsEmptyIsNotWritten)
     EXPECT_TRUE(Written(project).contains("<TitleList>\n</TitleList>"));
     project.TitleList = QStringList();
     EXPECT_TRUE(Written(project).contains("<TitleList>\n</TitleList>"));
+}
+
+TEST(ProjectWriter, AFilterHidesNothingFromTheFile)
+{
+    Project project;
+    for (const int id : {1, 2, 1}) {
+        project.source.AddItem();
+        project.source.Items().Current() = {id, u"Red"_s};
+    }
+    project.source.FilterItems(2);
+    EXPECT_EQ(Written(project).count("<Item>"), 3);
+}
+
+TEST(ProjectWriter, RefusesWhatCouldNotBeReadAgainForItsSize)
+{
+    Project project;
+    project.Description = QString(16 * 1024 * 1024, u'x');
+    EXPECT_EQ(RefusalOf(project), u"The project is larger than any file of one can be."_s);
 }
 
 TEST(ProjectWriter, WritingLeavesTheCursorWhereItIs)

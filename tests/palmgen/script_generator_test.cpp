@@ -146,12 +146,16 @@ TEST(ScriptGenerator, TakesItemsByIdInTableOrder)
 
 TEST(ScriptGenerator, NumbersFormsByTheirPlace)
 {
-    Project project = ProjectOf({.Order = 7, .Type = u"Text"_s, .Id = 30});
-    AddQuestion(project, {.Order = 5, .Type = u"Text"_s, .Id = 20});
-    AddQuestion(project, {.Order = 6, .Type = u"Text"_s, .Id = 10});
+    Project project = ProjectOf({.Order = 7, .Title = u"one"_s, .Type = u"Text"_s, .Id = 30});
+    AddQuestion(project, {.Order = 5, .Title = u"two"_s, .Type = u"Text"_s, .Id = 20});
+    AddQuestion(project, {.Order = 6, .Title = u"three"_s, .Type = u"Text"_s, .Id = 10});
     const QByteArray script = Lines(project);
-    for (const QByteArray number : {"1", "2", "3"}) {
-        EXPECT_TRUE(script.contains("\r\nFORM ID " + number + " at (0 0 160 160)\r\n"));
+    for (const auto &[number, title] :
+         {std::pair<QByteArray, QByteArray>{"1", "one"}, {"2", "two"}, {"3", "three"}}) {
+        EXPECT_TRUE(script.contains("\r\nFORM ID " + number +
+                                    " at (0 0 160 160)\r\nnoframe\r\nnosavebehind\r\nbegin\r\n"
+                                    "title \"" +
+                                    title + "\"\r\n"));
         EXPECT_TRUE(script.contains("\r\nNAVIGATION ID " + number + "\r\n"));
     }
     EXPECT_EQ(script.count("FORM ID"), 3);
@@ -244,6 +248,14 @@ TEST(ScriptGenerator, ReadsTheIdentifierFromItsRegistryForm)
 {
     EXPECT_EQ(IdentifierDigits(u"{01234567-89AB-CDEF-0123-456789ABCDEF}"_s), identifier);
     EXPECT_EQ(IdentifierDigits(u""_s), u""_s);
+}
+
+TEST(ScriptGenerator, AFilterHidesNothingFromTheScript)
+{
+    Project project = ProjectOf({.Type = u"Pulldown List"_s, .Id = 4});
+    AddItem(project, 4, u"Red"_s);
+    project.source.FilterItems(9);
+    EXPECT_TRUE(Lines(project).contains("LIST \"Red\" ID 3"));
 }
 
 TEST(ScriptGenerator, LeavesTheCursorWhereItIs)
