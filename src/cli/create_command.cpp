@@ -38,6 +38,14 @@ CreateSurroundings PrivateSurroundings(const QString &folder, const CommandLine 
     };
 }
 
+/// How a tool failed, with its own words where it had any.
+QString ToolFault(const ToolRun &run)
+{
+    const QString fault = u"failed (%1): %2"_s.arg(run.ending, run.commandLine);
+    const QString words = run.messages.trimmed();
+    return words.isEmpty() ? fault : fault + u'\n' + words;
+}
+
 /// What became of one project, told with the project's name in front.
 class Creation
 {
@@ -59,9 +67,13 @@ public:
         if (!Passes(notices))
             return Exit::NotPassed;
 
+        const QString temporary = qEnvironmentVariable("TMPDIR", QDir::tempPath());
+        if (!QFileInfo(temporary).isDir())
+            return Refuse(m_console, Exit::NotWritten,
+                          {u"There is no such folder for temporary files"_s, temporary});
         const QTemporaryDir work;
         if (!work.isValid())
-            return Refuse(m_console, Exit::NotWritten, {work.errorString(), QDir::tempPath()});
+            return Refuse(m_console, Exit::NotWritten, {work.errorString(), temporary});
         const Exit built = Build(*project, work.path());
         if (built != Exit::Fine)
             return built;
@@ -91,8 +103,7 @@ private:
                             u"did not end within %1 s: %2"_s.arg(
                                 QString::number(m_line.timeoutSeconds), run.commandLine));
             if (!run.succeeded)
-                return Fail(Exit::ToolFailed,
-                            u"failed: %1\n%2"_s.arg(run.commandLine, run.messages.trimmed()));
+                return Fail(Exit::ToolFailed, ToolFault(run));
         }
         return Exit::Fine;
     }

@@ -90,7 +90,7 @@ bool HasOption(const QStringList &words, const QString &option)
 
 Exit Run(const QStringList &words, const Console &console)
 {
-    if (HasOption(words, u"--help"_s)) {
+    if (HasOption(words, u"--help"_s) || HasOption(words, u"-h"_s)) {
         console.Write(help.latin1() + QByteArray("\n"));
         return Exit::Fine;
     }

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qsizetype mostMessages = 64 * 1024; // in bytes
@@ -20,10 +22,17 @@ QString FindTool(const QString &name, const QStringList &folders)
     return found.isEmpty() ? name : found;
 }
 
-void KeepMessages(QProcess &process, QByteArray &messages)
+void Keep(QByteArray &messages, const QByteArray &more)
 {
-    const QByteArray more = process.readAllStandardError();
     messages.append(more.first(std::min(more.size(), mostMessages - messages.size())));
+}
+
+/// How a tool ended that did not succeed.
+QString EndingOf(const QProcess &process)
+{
+    if (process.exitStatus() == QProcess::CrashExit)
+        return u"crashed"_s;
+    return u"exit status %1"_s.arg(process.exitCode());
 }
 
 } // namespace
@@ -33,10 +42,11 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
     QProcess process;
     process.setWorkingDirectory(call.workingFolder);
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    QByteArray messages;
+    QByteArray output, messages;
+    QObject::connect(&process, &QProcess::readyReadStandardOutput,
+                     [&] { Keep(output, process.readAllStandardOutput()); });
     QObject::connect(&process, &QProcess::readyReadStandardError,
-                     [&] { KeepMessages(process, messages); });
+                     [&] { Keep(messages, process.readAllStandardError()); });
     process.start(FindTool(call.name, limits.folders), call.arguments);
 
     ToolRun run;
@@ -54,6 +64,7 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
     }
     run.succeeded =
         !run.timedOut && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    run.messages = QString::fromLocal8Bit(messages);
+    run.ending = run.succeeded ? QString() : EndingOf(process);
+    run.messages = QString::fromLocal8Bit(messages.isEmpty() ? output : messages);
     return run;
 }

@@ -18,7 +18,8 @@ struct ToolRun {
     bool timedOut = false;  ///< it was ended because its time was over
     QString whyNotStarted;  ///< the platform's description, where it did not start
     bool succeeded = false; ///< ended by itself with exit status 0
-    QString messages;       ///< what it wrote on standard error
+    QString ending;         ///< how it ended otherwise: "exit status 3", "crashed"
+    QString messages;       ///< what it wrote on standard error, or else on standard output
 };
 
 /// Where tools are looked for, before PATH, and how long each may take.
@@ -28,6 +29,6 @@ struct ToolLimits {
 };
 
 /// Starts a tool and waits until it has ended; one whose time is over is ended. Pending window
-/// events other than keys and clicks are processed once after the start. Of what the tool writes on
-/// standard error the first 64 KiB are kept.
+/// events other than keys and clicks are processed once after the start. Of what the tool writes
+/// the first 64 KiB of each stream are kept.
 ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits);

@@ -132,10 +132,30 @@ TEST_F(CreateCommand, ReportsAToolInItsOwnWords)
 {
     UseTools("complain 'no such font' fail 1", "print x");
     EXPECT_EQ(Create({nestbox}), 4);
-    EXPECT_TRUE(Err().startsWith(nestbox + u": failed: pilrc -ro -I "_s)) << Err().toStdString();
+    EXPECT_TRUE(Err().startsWith(nestbox + u": failed (exit status 1): pilrc -ro -I "_s))
+        << Err().toStdString();
     EXPECT_TRUE(Err().endsWith(u"\nno such font\n"));
     EXPECT_EQ(Out(), u""_s);
     EXPECT_EQ(LeftBehind(), QStringList());
+}
+
+TEST_F(CreateCommand, ReportsAToolThatSaysNothing)
+{
+    UseTools("crash", "print fine");
+    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_TRUE(Err().startsWith(nestbox + u": failed (crashed): pilrc -ro -I "_s));
+    EXPECT_EQ(Err().count(u'\n'), 1);
+
+    UseTools("print 'words on the other stream' fail 1", "print fine");
+    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_TRUE(Err().endsWith(u"\nwords on the other stream\n"));
+}
+
+TEST_F(CreateCommand, RefusesToWorkInATemporaryFolderThatIsNotThere)
+{
+    qputenv("TMPDIR", "/no/such/folder");
+    EXPECT_EQ(Create({nestbox}), 5);
+    EXPECT_EQ(Err(), u"/no/such/folder: There is no such folder for temporary files\n"_s);
 }
 
 TEST_F(CreateCommand, ReportsAToolThatIsMissing)

@@ -32,7 +32,8 @@ TEST_F(ToolRunner, WaitsForTheToolAndRunsItInItsFolder)
     const ToolRun run = Run({u"print"_s, u"working"_s, u"write"_s, u"made.txt"_s, u"content"_s});
     EXPECT_TRUE(run.started);
     EXPECT_TRUE(run.succeeded);
-    EXPECT_EQ(run.messages, u""_s) << "standard output is not for us";
+    EXPECT_EQ(run.messages, u"working\n"_s) << "there was nothing on standard error";
+    EXPECT_EQ(run.ending, u""_s);
     EXPECT_EQ(run.commandLine, u"the command line"_s);
     EXPECT_EQ(BytesOf(m_folder.filePath(u"made.txt"_s)), "content");
 }
@@ -43,10 +44,12 @@ TEST_F(ToolRunner, KeepsTheToolsOwnWordsAndStatus)
     EXPECT_TRUE(failed.started);
     EXPECT_FALSE(failed.succeeded);
     EXPECT_EQ(failed.messages, u"no good\n"_s);
+    EXPECT_EQ(failed.ending, u"exit status 3"_s);
 
     const ToolRun crashed = Run({u"crash"_s});
     EXPECT_TRUE(crashed.started);
     EXPECT_FALSE(crashed.succeeded);
+    EXPECT_EQ(crashed.ending, u"crashed"_s);
 }
 
 TEST_F(ToolRunner, NoArgumentEverPassesThroughAShell)
