@@ -137,8 +137,10 @@ std::optional<FormObject> ReadObject(Arguments &arguments)
     if (rule->shape == Shape::none)
         return object;
     object.place = Settled(place, *rule, object);
-    if (rule->shape == Shape::rectangle)
+    if (rule->shape == Shape::rectangle) {
         arguments.CheckedField(object.place.w, 16);
+        arguments.CheckedField(object.place.h, 16);
+    }
     arguments.SetPrevious(object.place);
     return object;
 }
