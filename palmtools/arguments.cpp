@@ -15,7 +15,7 @@ std::string_view WithoutQuotes(std::string_view written)
 
 } // namespace
 
-std::string_view Arguments::Text()
+std::string_view ArgumentReader::Text()
 {
     if (!m_words.NextIs(WordKind::text))
         m_words.FailExpected("text");
@@ -34,17 +34,17 @@ std::string_view Arguments::Text()
     return text;
 }
 
-bool Arguments::AtTextJoint()
+bool ArgumentReader::AtTextJoint()
 {
     return m_words.NextIsSign('+') || m_words.NextIsSign('\\');
 }
 
-std::int64_t Arguments::Field(int bits)
+std::int64_t ArgumentReader::Field(int bits)
 {
     return CheckedField(Number(), bits);
 }
 
-std::int64_t Arguments::CheckedField(std::int64_t value, int bits)
+std::int64_t ArgumentReader::CheckedField(std::int64_t value, int bits)
 {
     const std::int64_t range = std::int64_t{1} << bits;
     if (value < -range / 2 || value >= range) {
@@ -54,7 +54,7 @@ std::int64_t Arguments::CheckedField(std::int64_t value, int bits)
     return value;
 }
 
-std::uint16_t Arguments::Id()
+std::uint16_t ArgumentReader::Id()
 {
     m_words.TakeName("ID");
     const std::int64_t number = Number();
@@ -66,17 +66,17 @@ std::uint16_t Arguments::Id()
     return static_cast<std::uint16_t>(number);
 }
 
-Place Arguments::Position()
+Place ArgumentReader::Position()
 {
     return ReadPlace(false);
 }
 
-Place Arguments::PositionAndSize()
+Place ArgumentReader::PositionAndSize()
 {
     return ReadPlace(true);
 }
 
-Place Arguments::ReadPlace(bool withSize)
+Place ArgumentReader::ReadPlace(bool withSize)
 {
     const bool inParentheses = m_words.TakeName("AT");
     if (inParentheses)
@@ -93,7 +93,7 @@ Place Arguments::ReadPlace(bool withSize)
     return place;
 }
 
-std::optional<std::int64_t> Arguments::Extent()
+std::optional<std::int64_t> ArgumentReader::Extent()
 {
     if (m_words.TakeName("AUTO"))
         return std::nullopt;

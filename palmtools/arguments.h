@@ -21,11 +21,11 @@ struct Place {
 ///
 /// Every function takes the words of one argument, looks at the word after it where its end cannot
 /// be seen otherwise, and throws ScriptError if the argument is missing or out of range.
-class Arguments
+class ArgumentReader
 {
 public:
     /// The reader must outlive this.
-    explicit Arguments(ScriptReader &words) : m_words(words) {}
+    explicit ArgumentReader(ScriptReader &words) : m_words(words) {}
 
     ScriptReader &words() { return m_words; }
 

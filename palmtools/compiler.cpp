@@ -7,7 +7,7 @@ namespace {
 
 struct Statement {
     std::string_view name;
-    void (*read)(Arguments &arguments, ResourceList &resources);
+    void (*read)(ArgumentReader &arguments, ResourceList &resources);
 };
 
 constexpr Statement statements[] = {
@@ -19,7 +19,7 @@ constexpr Statement statements[] = {
     {"VERSION", ReadVersion},
 };
 
-void ReadStatement(Arguments &arguments, ResourceList &resources)
+void ReadStatement(ArgumentReader &arguments, ResourceList &resources)
 {
     for (const Statement &statement : statements) {
         if (arguments.words().TakeName(statement.name)) {
@@ -34,7 +34,7 @@ std::vector<Resource> ReadScript(ScriptReader &words)
 {
     if (words.NextIs(WordKind::end))
         words.Fail("the script is empty");
-    Arguments arguments(words);
+    ArgumentReader arguments(words);
     ResourceList resources;
     while (!words.NextIs(WordKind::end))
         ReadStatement(arguments, resources);

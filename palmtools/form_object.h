@@ -25,7 +25,8 @@ enum class ObjectKind {
     scrollBar,
 };
 
-/// An object of a form as the script tells it, its place settled. Texts belong to the Arguments.
+/// An object of a form as the script tells it, its place settled. Texts belong to the
+/// ArgumentReader.
 struct FormObject {
     ObjectKind kind;
     std::uint16_t number = 0; ///< of a popup list: that of its trigger

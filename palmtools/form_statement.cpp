@@ -33,7 +33,7 @@ bool TakeFormFlag(ScriptReader &words, FormHeader &header)
     return false;
 }
 
-FormHeader ReadHeader(Arguments &arguments)
+FormHeader ReadHeader(ArgumentReader &arguments)
 {
     FormHeader header;
     header.number = arguments.Id();
@@ -108,7 +108,7 @@ private:
 
 } // namespace
 
-void ReadForm(Arguments &arguments, ResourceList &resources)
+void ReadForm(ArgumentReader &arguments, ResourceList &resources)
 {
     ScriptReader &words = arguments.words();
     const FormHeader header = ReadHeader(arguments);

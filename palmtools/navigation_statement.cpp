@@ -15,7 +15,7 @@ struct NavigationHeader {
     std::int64_t initialObject = 0;
 };
 
-NavigationHeader ReadHeader(Arguments &arguments)
+NavigationHeader ReadHeader(ArgumentReader &arguments)
 {
     ScriptReader &words = arguments.words();
     NavigationHeader header;
@@ -33,7 +33,7 @@ NavigationHeader ReadHeader(Arguments &arguments)
     return header;
 }
 
-void AppendItem(Bytes &bytes, Arguments &arguments)
+void AppendItem(Bytes &bytes, ArgumentReader &arguments)
 {
     ScriptReader &words = arguments.words();
     const std::uint16_t number = arguments.Id();
@@ -54,7 +54,7 @@ void AppendItem(Bytes &bytes, Arguments &arguments)
 
 } // namespace
 
-void ReadNavigation(Arguments &arguments, ResourceList &resources)
+void ReadNavigation(ArgumentReader &arguments, ResourceList &resources)
 {
     const std::uint16_t number = arguments.Id();
     const NavigationHeader header = ReadHeader(arguments);

@@ -8,14 +8,14 @@
 namespace palmtools {
 namespace {
 
-void ReadFont(Arguments &arguments, FormObject &object)
+void ReadFont(ArgumentReader &arguments, FormObject &object)
 {
     object.font = arguments.Number();
     if (!FontIsKnown(object.font))
         arguments.words().Fail("font " + std::to_string(object.font) + " is not known");
 }
 
-void ReadColumnWidths(Arguments &arguments, FormObject &object)
+void ReadColumnWidths(ArgumentReader &arguments, FormObject &object)
 {
     object.columnWidths.clear();
     const std::int64_t columns = object.columns & 0xFFFF;
@@ -23,12 +23,12 @@ void ReadColumnWidths(Arguments &arguments, FormObject &object)
         object.columnWidths.push_back(arguments.Field(16));
 }
 
-template <bool FormObject::*flag, bool value> void Set(Arguments &, FormObject &object)
+template <bool FormObject::*flag, bool value> void Set(ArgumentReader &, FormObject &object)
 {
     object.*flag = value;
 }
 
-template <auto FormObject::*number> void Read16(Arguments &arguments, FormObject &object)
+template <auto FormObject::*number> void Read16(ArgumentReader &arguments, FormObject &object)
 {
     object.*number = arguments.Field(16);
 }
@@ -36,7 +36,7 @@ template <auto FormObject::*number> void Read16(Arguments &arguments, FormObject
 struct Attribute {
     std::string_view name;
     AttributeSet set;
-    void (*read)(Arguments &arguments, FormObject &object);
+    void (*read)(ArgumentReader &arguments, FormObject &object);
 };
 
 constexpr Attribute attributes[] = {
@@ -47,7 +47,8 @@ constexpr Attribute attributes[] = {
     {"RIGHTANCHOR", anchor, Set<&FormObject::leftAnchor, false>},
     {"FRAME", frame, Set<&FormObject::frame, true>},
     {"NOFRAME", frame, Set<&FormObject::frame, false>},
-    {"GROUP", group, [](Arguments &from, FormObject &object) { object.group = from.Field(8); }},
+    {"GROUP", group,
+     [](ArgumentReader &from, FormObject &object) { object.group = from.Field(8); }},
     {"EDITABLE", editable, Set<&FormObject::editable, true>},
     {"NONEDITABLE", editable, Set<&FormObject::editable, false>},
     {"SINGLELINE", lines, Set<&FormObject::singleLine, true>},
@@ -78,7 +79,7 @@ const Attribute *AttributeOf(const Word &word)
 
 } // namespace
 
-void ReadAttributes(Arguments &arguments, unsigned allowed, FormObject &object)
+void ReadAttributes(ArgumentReader &arguments, unsigned allowed, FormObject &object)
 {
     ScriptReader &words = arguments.words();
     while (const Attribute *attribute = AttributeOf(words.Peek())) {

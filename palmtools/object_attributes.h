@@ -25,6 +25,6 @@ enum AttributeSet : unsigned {
 
 /// Reads attributes into the object up to the first word that is none.
 /// Throws ScriptError at one that is not in the set.
-void ReadAttributes(Arguments &arguments, unsigned allowed, FormObject &object);
+void ReadAttributes(ArgumentReader &arguments, unsigned allowed, FormObject &object);
 
 } // namespace palmtools

@@ -62,7 +62,7 @@ const ObjectRule *RuleOf(const Word &word)
     return nullptr;
 }
 
-void ReadTexts(Arguments &arguments, Texts texts, FormObject &object)
+void ReadTexts(ArgumentReader &arguments, Texts texts, FormObject &object)
 {
     if (texts == Texts::one)
         object.texts.push_back(arguments.Text());
@@ -70,7 +70,7 @@ void ReadTexts(Arguments &arguments, Texts texts, FormObject &object)
         object.texts.push_back(arguments.Text());
 }
 
-void ReadNumbers(Arguments &arguments, Numbers numbers, FormObject &object)
+void ReadNumbers(ArgumentReader &arguments, Numbers numbers, FormObject &object)
 {
     if (numbers != Numbers::none)
         object.number = arguments.Id();
@@ -78,7 +78,7 @@ void ReadNumbers(Arguments &arguments, Numbers numbers, FormObject &object)
         object.listNumber = arguments.Field(16);
 }
 
-Place ReadPlace(Arguments &arguments, Shape shape)
+Place ReadPlace(ArgumentReader &arguments, Shape shape)
 {
     switch (shape) {
     case Shape::position:
@@ -121,7 +121,7 @@ Rectangle Settled(const Place &place, const ObjectRule &rule, const FormObject &
 
 } // namespace
 
-std::optional<FormObject> ReadObject(Arguments &arguments)
+std::optional<FormObject> ReadObject(ArgumentReader &arguments)
 {
     const ObjectRule *rule = RuleOf(arguments.words().Peek());
     if (!rule)

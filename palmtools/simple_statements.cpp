@@ -20,7 +20,7 @@ void AppendHexByte(Bytes &bytes, ScriptReader &words)
 
 } // namespace
 
-void ReadHex(Arguments &arguments, ResourceList &resources)
+void ReadHex(ArgumentReader &arguments, ResourceList &resources)
 {
     ScriptReader &words = arguments.words();
     Resource resource;
@@ -37,7 +37,7 @@ void ReadHex(Arguments &arguments, ResourceList &resources)
     resources.Add(words, std::move(resource));
 }
 
-void ReadStringTable(Arguments &arguments, ResourceList &resources)
+void ReadStringTable(ArgumentReader &arguments, ResourceList &resources)
 {
     ScriptReader &words = arguments.words();
     const std::uint16_t number = arguments.Id();
@@ -58,7 +58,7 @@ void ReadStringTable(Arguments &arguments, ResourceList &resources)
     resources.Add(words, {FourBytesOf("tSTL"), number, std::move(bytes)});
 }
 
-void ReadApplicationIconName(Arguments &arguments, ResourceList &resources)
+void ReadApplicationIconName(ArgumentReader &arguments, ResourceList &resources)
 {
     const std::uint16_t number = arguments.Id();
     Bytes bytes;
@@ -67,7 +67,7 @@ void ReadApplicationIconName(Arguments &arguments, ResourceList &resources)
     resources.Add(arguments.words(), {FourBytesOf("tAIN"), number, std::move(bytes)});
 }
 
-void ReadVersion(Arguments &arguments, ResourceList &resources)
+void ReadVersion(ArgumentReader &arguments, ResourceList &resources)
 {
     const bool isNumbered = !arguments.words().NextIs(WordKind::text);
     const std::uint16_t number = isNumbered ? arguments.Id() : std::uint16_t{1};

@@ -7,11 +7,11 @@ namespace palmtools {
 
 // Each reads what follows the name of its statement and adds the resource.
 
-void ReadHex(Arguments &arguments, ResourceList &resources);
-void ReadStringTable(Arguments &arguments, ResourceList &resources);
-void ReadForm(Arguments &arguments, ResourceList &resources);
-void ReadNavigation(Arguments &arguments, ResourceList &resources);
-void ReadApplicationIconName(Arguments &arguments, ResourceList &resources);
-void ReadVersion(Arguments &arguments, ResourceList &resources);
+void ReadHex(ArgumentReader &arguments, ResourceList &resources);
+void ReadStringTable(ArgumentReader &arguments, ResourceList &resources);
+void ReadForm(ArgumentReader &arguments, ResourceList &resources);
+void ReadNavigation(ArgumentReader &arguments, ResourceList &resources);
+void ReadApplicationIconName(ArgumentReader &arguments, ResourceList &resources);
+void ReadVersion(ArgumentReader &arguments, ResourceList &resources);
 
 } // namespace palmtools

@@ -52,8 +52,8 @@ void RunAndReport(const ToolCall &call, const BuildPlace &place, BuildReport &re
 
 std::optional<FileFault> DeleteBoth(const QString &first, const QString &second)
 {
-    const std::optional<FileFault> fault = DeleteFile(first);
-    return fault ? fault : DeleteFile(second);
+    const std::optional<FileFault> fault = RemoveFile(first);
+    return fault ? fault : RemoveFile(second);
 }
 
 } // namespace

@@ -38,7 +38,7 @@ CreateReport WriteAndBuild(const Project &project, const QString &name,
     const BuildPlace &place = surroundings.place;
     const Script script = GenerateScript(project, IdentifierDigits(surroundings.makeIdentifier()));
     report.fileFault =
-        WriteFile(place.applicationFolder + QDir::separator() + name + ".rcp"_L1, script.bytes);
+        WriteNewFile(place.applicationFolder + QDir::separator() + name + ".rcp"_L1, script.bytes);
     if (!script.outcome)
         report.projectFault = script.outcome.error();
     if (!report.IsComplete())

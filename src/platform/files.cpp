@@ -19,7 +19,7 @@ FileFault Fault(const std::error_code &code)
 
 } // namespace
 
-std::optional<FileFault> WriteFile(const QString &path, const QByteArray &bytes)
+std::optional<FileFault> WriteNewFile(const QString &path, const QByteArray &bytes)
 {
     // Not QFile: it does not tell a denied permission from other reasons.
     errno = 0;
@@ -31,7 +31,7 @@ std::optional<FileFault> WriteFile(const QString &path, const QByteArray &bytes)
     return Fault({errno, std::generic_category()});
 }
 
-std::optional<FileFault> DeleteFile(const QString &path)
+std::optional<FileFault> RemoveFile(const QString &path)
 {
     std::error_code code;
     std::filesystem::remove(QFile(path).filesystemFileName(), code);

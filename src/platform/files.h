@@ -12,7 +12,7 @@ struct FileFault {
 };
 
 /// Creates a file anew with these bytes, replacing what stood there.
-std::optional<FileFault> WriteFile(const QString &path, const QByteArray &bytes);
+std::optional<FileFault> WriteNewFile(const QString &path, const QByteArray &bytes);
 
 /// Deletes a file; one that does not exist is no fault.
-std::optional<FileFault> DeleteFile(const QString &path);
+std::optional<FileFault> RemoveFile(const QString &path);

@@ -10,13 +10,14 @@ namespace palmtools {
 namespace {
 
 /// What the function makes of the script, or "LINE TEXT" of the error; then the warnings.
-std::string Read(std::string_view script, const std::function<std::string(Arguments &)> &function)
+std::string Read(std::string_view script,
+                 const std::function<std::string(ArgumentReader &)> &function)
 {
     std::vector<Diagnostic> diagnostics;
     std::string result;
     try {
         ScriptReader words(script, diagnostics);
-        Arguments arguments(words);
+        ArgumentReader arguments(words);
         arguments.SetPrevious({1, 2, 3, 4});
         result = function(arguments);
     } catch (const ScriptError &error) {
@@ -34,7 +35,7 @@ std::string Extent(const std::optional<std::int64_t> &size)
     return size ? std::to_string(*size) : "auto";
 }
 
-TEST(Arguments, JoinTexts)
+TEST(ArgumentReader, JoinTexts)
 {
     const struct {
         const char *what, *script, *text;
@@ -53,17 +54,17 @@ TEST(Arguments, JoinTexts)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        EXPECT_EQ(Read(row.script, [](Arguments &from) { return std::string(from.Text()); }),
+        EXPECT_EQ(Read(row.script, [](ArgumentReader &from) { return std::string(from.Text()); }),
                   row.text);
     }
 }
 
-TEST(Arguments, KeepTheirTexts)
+TEST(ArgumentReader, KeepTheirTexts)
 {
     std::vector<Diagnostic> diagnostics;
     const std::string script = Repeated(R"("\x41" "b" "c"+"d" )", 100);
     ScriptReader words(script, diagnostics);
-    Arguments arguments(words);
+    ArgumentReader arguments(words);
     std::vector<std::string_view> texts;
     while (words.NextIs(WordKind::text))
         texts.push_back(arguments.Text());
@@ -74,7 +75,7 @@ TEST(Arguments, KeepTheirTexts)
     EXPECT_EQ(texts[299], "cd");
 }
 
-TEST(Arguments, FitTheirFields)
+TEST(ArgumentReader, FitTheirFields)
 {
     const struct {
         const char *what, *script;
@@ -95,13 +96,13 @@ TEST(Arguments, FitTheirFields)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        EXPECT_EQ(
-            Read(row.script, [&](Arguments &from) { return std::to_string(from.Field(row.bits)); }),
-            row.result);
+        EXPECT_EQ(Read(row.script,
+                       [&](ArgumentReader &from) { return std::to_string(from.Field(row.bits)); }),
+                  row.result);
     }
 }
 
-TEST(Arguments, NumberResources)
+TEST(ArgumentReader, NumberResources)
 {
     const struct {
         const char *what, *script, *result;
@@ -121,12 +122,12 @@ TEST(Arguments, NumberResources)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        EXPECT_EQ(Read(row.script, [](Arguments &from) { return std::to_string(from.Id()); }),
+        EXPECT_EQ(Read(row.script, [](ArgumentReader &from) { return std::to_string(from.Id()); }),
                   row.result);
     }
 }
 
-TEST(Arguments, TellPlaces)
+TEST(ArgumentReader, TellPlaces)
 {
     const struct {
         const char *what, *script, *result;
@@ -150,7 +151,7 @@ TEST(Arguments, TellPlaces)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
         EXPECT_EQ(Read(row.script,
-                       [](Arguments &from) {
+                       [](ArgumentReader &from) {
                            const Place place = from.PositionAndSize();
                            return std::to_string(place.x) + " " + std::to_string(place.y) + " " +
                                   Extent(place.w) + " " + Extent(place.h);
@@ -159,9 +160,9 @@ TEST(Arguments, TellPlaces)
     }
 }
 
-TEST(Arguments, TellPositions)
+TEST(ArgumentReader, TellPositions)
 {
-    const auto position = [](Arguments &from) {
+    const auto position = [](ArgumentReader &from) {
         const Place place = from.Position();
         return std::to_string(place.x) + " " + std::to_string(place.y);
     };

@@ -5,7 +5,7 @@
 namespace palmtools {
 namespace {
 
-using Arguments = std::vector<std::string>;
+using ArgumentReader = std::vector<std::string>;
 
 std::string Shown(const BuildPrcCall &call)
 {
@@ -17,7 +17,7 @@ TEST(BuildPrcCall, IsReadInEitherWay)
 {
     const struct {
         const char *what;
-        Arguments arguments;
+        ArgumentReader arguments;
         const char *call;
     } rows[] = {
         {"as the designer calls it",
@@ -66,7 +66,7 @@ TEST(BuildPrcCall, IsRefused)
     const std::string together = "options -o, -n and -c go together";
     const struct {
         const char *what;
-        Arguments arguments;
+        ArgumentReader arguments;
         std::string text;
     } rows[] = {
         {"nothing", {}, plain},

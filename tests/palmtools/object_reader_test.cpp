@@ -38,7 +38,7 @@ private:
     std::string m_script;
     std::vector<Diagnostic> m_warnings;
     ScriptReader m_words{m_script, m_warnings};
-    Arguments m_arguments{m_words};
+    ArgumentReader m_arguments{m_words};
 };
 
 std::string W(int margin, std::string_view text, int font = 0)
@@ -288,7 +288,7 @@ TEST(ObjectReader, LeavesWhatIsNoObject)
     for (const char *script : {"END", "\"TITLE\"", "5", "", "TITLES", "tBTN", "FORM"}) {
         SCOPED_TRACE(script);
         ScriptReader words(script, warnings);
-        Arguments arguments(words);
+        ArgumentReader arguments(words);
         EXPECT_FALSE(ReadObject(arguments));
         EXPECT_EQ(words.Take().written, script);
     }

@@ -5,7 +5,7 @@
 namespace palmtools {
 namespace {
 
-using Arguments = std::vector<std::string>;
+using ArgumentReader = std::vector<std::string>;
 
 TEST(PilrcCall, ReadsOptions)
 {
@@ -13,7 +13,7 @@ TEST(PilrcCall, ReadsOptions)
     ASSERT_TRUE(call);
     EXPECT_TRUE(call->quiet);
     EXPECT_EQ(call->style, MessageStyle::microsoft);
-    EXPECT_EQ(call->folders, (Arguments{"-v", "b/"}));
+    EXPECT_EQ(call->folders, (ArgumentReader{"-v", "b/"}));
     EXPECT_EQ(call->script, "a.rcp");
     EXPECT_EQ(call->output, "a.ro");
 
@@ -29,7 +29,7 @@ TEST(PilrcCall, IsRefused)
     const std::string missing = "option '-ro' is missing; resources are written to one file only";
     const struct {
         const char *what;
-        Arguments arguments;
+        ArgumentReader arguments;
         std::string text;
     } rows[] = {
         {"many small files", {"a.rcp"}, missing},
