@@ -1,0 +1,21 @@
+#pragma once
+
+#include "palmgen/tool_runner.h"
+
+#include <QString>
+
+#include <functional>
+
+/// What the windows need from outside; handed in, so that a test decides all of it.
+struct Environment {
+    QString applicationFolder; ///< without a separator at its end
+    QString projectsFolder;    ///< with a separator at its end
+    QString helpFile;          ///< full path; empty = there is none
+    QString siteAddress;       ///< of the maker's web site, without a slash at its end
+    QString version;           ///< three numbers and two full stops, such as "1.1.2"
+    /// A fresh identifier in registry form; empty when none could be made.
+    std::function<QString()> makeIdentifier;
+    std::function<ToolRun(const ToolCall &call)> runTool;
+    /// Opens a file, a folder or a web address with the platform's default action.
+    std::function<void(const QString &target)> open;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+class QPlainTextEdit;
+
+/// The text of the box to the last character, with '\n' between lines. The box's own reading turns
+/// no-break spaces into blanks.
+QString TextOf(const QPlainTextEdit &box);

@@ -1,0 +1,60 @@
+#include "ui/common/prompts.h"
+
+#include <QInputDialog>
+
+QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box)
+{
+    QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
+    shown.setTextFormat(Qt::PlainText);
+    shown.setDefaultButton(box.defaultButton);
+    shown.setEscapeButton(box.closeButton);
+    return static_cast<QMessageBox::StandardButton>(shown.exec());
+}
+
+void ShowExclamation(QWidget *parent, const QString &message)
+{
+    ShowBox(parent, {.text = message, .icon = QMessageBox::Warning});
+}
+
+void ShowInformation(QWidget *parent, const QString &message)
+{
+    ShowBox(parent, {.text = message, .icon = QMessageBox::Information});
+}
+
+void ShowCritical(QWidget *parent, const QString &message)
+{
+    ShowBox(parent, {.text = message, .icon = QMessageBox::Critical});
+}
+
+QString AskYesNo(QWidget *parent, const QString &message)
+{
+    const auto answer = ShowBox(parent, {.text = message,
+                                         .icon = QMessageBox::Question,
+                                         .buttons = QMessageBox::Yes | QMessageBox::No,
+                                         .defaultButton = QMessageBox::No,
+                                         .closeButton = QMessageBox::No});
+    return answer == QMessageBox::Yes ? QStringLiteral("Yes") : QStringLiteral("No");
+}
+
+QString AskYesNoCancel(QWidget *parent, const QString &message)
+{
+    const auto answer =
+        ShowBox(parent, {.text = message,
+                         .icon = QMessageBox::Question,
+                         .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                         .defaultButton = QMessageBox::Cancel,
+                         .closeButton = QMessageBox::Cancel});
+    if (answer == QMessageBox::Cancel)
+        return QStringLiteral("Cancel");
+    return answer == QMessageBox::Yes ? QStringLiteral("Yes") : QStringLiteral("No");
+}
+
+QString AskText(QWidget *parent, const QString &title, const QString &prompt)
+{
+    QInputDialog input(parent);
+    input.setWindowTitle(title);
+    input.setLabelText(prompt);
+    if (input.exec() != QDialog::Accepted)
+        return {};
+    return input.textValue();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+
+class QWidget;
+
+// Every box that tells or asks the user something. All of them are modal over their parent and show
+// their text as it stands, never as markup.
+
+inline constexpr QLatin1StringView productName{"Vellumo Designer"};
+
+struct Box {
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QString title = productName;
+    QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+    QMessageBox::StandardButton defaultButton = QMessageBox::Ok;
+    /// What closing the box without a button means.
+    QMessageBox::StandardButton closeButton = QMessageBox::Ok;
+};
+
+/// Shows the box and waits; gives the button that was pressed.
+QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box);
+
+// Boxes with the product's title and an OK button.
+void ShowExclamation(QWidget *parent, const QString &message);
+void ShowInformation(QWidget *parent, const QString &message);
+void ShowCritical(QWidget *parent, const QString &message);
+
+/// "Yes" or "No"; No is the default, and what closing the box means.
+QString AskYesNo(QWidget *parent, const QString &message);
+
+/// "Yes", "No" or "Cancel"; Cancel is the default, and what closing the box means.
+QString AskYesNoCancel(QWidget *parent, const QString &message);
+
+/// A line of text that the user types, as typed; empty when the box was cancelled.
+QString AskText(QWidget *parent, const QString &title, const QString &prompt);
