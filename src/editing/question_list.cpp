@@ -1,0 +1,126 @@
+#include "editing/question_list.h"
+
+#include "model/question_types.h"
+#include "model/texts.h"
+
+#include <QStringList>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype maxColumnName = 255;
+
+/// Moves the content of the current row by one row; the cursor follows it.
+void MoveContent(Table<QuestionRow> &questions, int distance)
+{
+    const auto position = questions.GetPosition();
+    QuestionRow &from = questions.Current();
+    questions.SetPosition(position + distance);
+    QuestionRow &to = questions.Current();
+    std::swap(from, to);
+    std::swap(from.Order, to.Order);
+}
+
+void RemoveItems(clsDataSource &source, int questionId)
+{
+    source.FilterItems(questionId);
+    source.Items().DeleteShown();
+    source.ClearItemFilter();
+}
+
+void CopyItems(clsDataSource &source, int fromId, int toId)
+{
+    QStringList copied;
+    source.FilterItems(fromId);
+    for (const ItemRow &row : source.Items().Shown())
+        copied += row.Item;
+    source.ClearItemFilter();
+    for (const QString &item : std::as_const(copied))
+        source.Items().Append({.Id = toId, .Item = item});
+}
+
+/// Empty when every free name is too long.
+QString FreeColumnName(const clsDataSource &source, const QString &name)
+{
+    const QString trimmed = TrimBlanks(name).toString();
+    for (int n = 1;; ++n) {
+        const QString candidate = trimmed + u'(' + QString::number(n) + u')';
+        if (candidate.size() > maxColumnName)
+            return {};
+        if (!source.ColumnNameExists(candidate))
+            return candidate;
+    }
+}
+
+} // namespace
+
+QString RefusalWithoutSelection(const clsDataSource &source)
+{
+    const bool selected = source.QuestionCount() > 0 && !source.AtEnd();
+    return selected ? QString() : u"Please select a question."_s;
+}
+
+QString RefusalWhenFull(const clsDataSource &source)
+{
+    const bool full = source.QuestionCount() >= maxQuestions;
+    return full ? u"The maximum number of questions is 128."_s : QString();
+}
+
+void RemoveQuestion(clsDataSource &source)
+{
+    Table<QuestionRow> &questions = source.Questions();
+    const int id = questions.Current().Id;
+    const auto position = questions.GetPosition();
+
+    for (questions.MoveNext(); !questions.AtEnd(); questions.MoveNext())
+        --questions.Current().Order;
+
+    questions.SetPosition(position);
+    questions.Delete();
+    if (questions.AtEnd())
+        questions.MoveLast();
+    RemoveItems(source, id);
+}
+
+bool MoveQuestionUp(clsDataSource &source)
+{
+    Table<QuestionRow> &questions = source.Questions();
+    if (questions.Current().Order == 1 || questions.GetPosition() == 0)
+        return false;
+    MoveContent(questions, -1);
+    return true;
+}
+
+bool MoveQuestionDown(clsDataSource &source)
+{
+    Table<QuestionRow> &questions = source.Questions();
+    const auto count = questions.Count();
+    if (questions.Current().Order == count || questions.GetPosition() == count - 1)
+        return false;
+    MoveContent(questions, 1);
+    return true;
+}
+
+Outcome DuplicateQuestion(clsDataSource &source)
+{
+    Table<QuestionRow> &questions = source.Questions();
+    const auto position = questions.GetPosition();
+    QuestionRow copy = questions.Current();
+    const int originalId = copy.Id;
+
+    copy.ColumnName = FreeColumnName(source, copy.ColumnName);
+    if (copy.ColumnName.isEmpty())
+        return Error{u"Column Name is too long to copy"_s};
+    copy.Title = TrimBlanks(copy.Title).toString();
+    copy.Order = source.QuestionCount() + 1;
+    copy.Id = source.IssueId();
+    questions.Append(copy);
+
+    if (HasItems(copy.Type))
+        CopyItems(source, originalId, copy.Id);
+    questions.SetPosition(position);
+    return done;
+}

@@ -1,0 +1,101 @@
+#include "editing/question_preview.h"
+
+#include "model/question_types.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+clsDataSource SourceWith(const QuestionRow &question)
+{
+    clsDataSource source;
+    source.GetDataMember();
+    source.Questions().Append(question);
+    return source;
+}
+
+TEST(QuestionPreview, IsNothingWithoutACurrentQuestion)
+{
+    clsDataSource source;
+    source.GetDataMember();
+    EXPECT_FALSE(PreviewOf(source));
+    source.AddQuestion();
+    source.Questions().MoveNext();
+    EXPECT_FALSE(PreviewOf(source));
+}
+
+TEST(QuestionPreview, TellsTheNumberOfTheQuestionAndOfAll)
+{
+    clsDataSource source = SourceWith({.Order = 1, .Type = u"Text"_s});
+    source.Questions().Append({.Order = 2, .Type = u"Text"_s});
+    EXPECT_EQ(PreviewOf(source)->position, u"2 of 2"_s);
+}
+
+TEST(QuestionPreview, HasAPictureForEachType)
+{
+    std::set<int> numbers;
+    for (const QLatin1StringView type : questionTypes)
+        numbers.insert(PreviewOf(SourceWith({.Type = type}))->pictureNumber);
+    EXPECT_EQ(numbers, (std::set{103, 104, 105, 106, 107, 108, 109, 110, 111, 112}));
+    EXPECT_EQ(PreviewOf(SourceWith({.Type = u"Pulldown List"_s}))->pictureNumber, 103);
+    EXPECT_EQ(PreviewOf(SourceWith({.Type = u"Text"_s}))->pictureNumber, 112);
+}
+
+TEST(QuestionPreview, LeavesAQuestionOfAnotherTypeBlank)
+{
+    const auto preview = PreviewOf(
+        SourceWith({.Order = 1, .Title = u"Bird"_s, .Question = u"Which?"_s, .Type = u"text"_s}));
+    EXPECT_EQ(preview->pictureNumber, 0);
+    EXPECT_EQ(preview->position, u"1 of 1"_s);
+    EXPECT_EQ(preview->title, QString());
+    EXPECT_EQ(preview->question, QString());
+    EXPECT_FALSE(preview->itemBox);
+}
+
+TEST(QuestionPreview, CutsAQuestionOfMoreThan23CharactersAt20)
+{
+    const QString whole = u"Which bird do you see??"_s;
+    ASSERT_EQ(whole.size(), 23);
+    EXPECT_EQ(PreviewOf(SourceWith({.Question = whole, .Type = u"Text"_s}))->question, whole);
+    EXPECT_EQ(PreviewOf(SourceWith({.Question = whole + u'?', .Type = u"Text"_s}))->question,
+              u"Which bird do you se..."_s);
+}
+
+TEST(QuestionPreview, ShowsTheTitleAsItStands)
+{
+    EXPECT_EQ(PreviewOf(SourceWith({.Title = u" a <b> "_s, .Type = u"Text"_s}))->title,
+              u" a <b> "_s);
+}
+
+TEST(QuestionPreview, ShowsTheFirstSixItemsOfCheckboxes)
+{
+    const struct {
+        int items, shown, width;
+    } rows[] = {{0, 0, 2295}, {6, 6, 2295}, {7, 6, 2150}, {9, 6, 2150}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.items);
+        clsDataSource source = SourceWith({.Type = u"Checkboxes"_s, .Id = 4});
+        source.Items().Append({.Id = 5, .Item = u"of another"_s});
+        for (int n = 1; n <= row.items; ++n)
+            source.Items().Append({.Id = 4, .Item = QString::number(n)});
+        const auto box = PreviewOf(source)->itemBox;
+        ASSERT_TRUE(box);
+        EXPECT_EQ(box->items.size(), row.shown);
+        EXPECT_EQ(box->items.value(0), row.shown > 0 ? u"1"_s : QString());
+        EXPECT_EQ(box->width, row.width);
+    }
+}
+
+TEST(QuestionPreview, ShowsNoItemsOfAPulldownList)
+{
+    clsDataSource source = SourceWith({.Type = u"Pulldown List"_s, .Id = 4});
+    source.Items().Append({.Id = 4, .Item = u"one"_s});
+    EXPECT_FALSE(PreviewOf(source)->itemBox);
+}
+
+} // namespace
