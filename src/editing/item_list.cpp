@@ -1,0 +1,139 @@
+#include "editing/item_list.h"
+
+#include "model/texts.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestItem = 32;
+constexpr qsizetype mostItems = 255;
+
+constexpr auto tooManyItems = "Please keep the list to 255 items or less."_L1;
+constexpr auto tooManyBoxes = "Please keep the Check Box to 32 items or less."_L1;
+
+constexpr ItemListHost::AddLimit wizardLimits[] = {
+    {"Pulldown List"_L1, 256, tooManyItems},
+    {"Checkboxes"_L1, 33, tooManyBoxes},
+};
+
+constexpr ItemListHost::AddLimit propertyLimits[] = {
+    {""_L1, 255, tooManyItems},
+};
+
+using Before = bool (*)(const QString &, const QString &);
+
+/// Quicksort around the middle entry. The smaller part is left to a further call, the larger to the
+/// next round: no order of the entries makes the calls nest deeply.
+void SortBetween(QStringList &items, qsizetype low, qsizetype high, Before before)
+{
+    while (low < high) {
+        const QString pivot = items[low + (high - low) / 2];
+        qsizetype i = low;
+        qsizetype j = high;
+        while (i <= j) {
+            while (before(items[i], pivot) && i < high)
+                ++i;
+            while (before(pivot, items[j]) && j > low)
+                --j;
+            if (i <= j)
+                items.swapItemsAt(i++, j--);
+        }
+        if (j - low < high - i) {
+            SortBetween(items, low, j, before);
+            low = i;
+        } else {
+            SortBetween(items, i, high, before);
+            high = j;
+        }
+    }
+}
+
+} // namespace
+
+constinit const ItemListHost wizardItemList = {againPrompt, wizardLimits};
+constinit const ItemListHost propertyItemList = {"Please add the item to the List."_L1,
+                                                 propertyLimits};
+
+QString ObjectionToItem(QStringView text)
+{
+    if (text.size() > longestItem)
+        return u"Please keep the item length to 32 characters or less."_s;
+    if (text.contains(u'"'))
+        return u"Double quotes are not allowed."_s;
+    return {};
+}
+
+QString ItemList::RefusalToAdd(const ItemListHost &host, QStringView type) const
+{
+    for (const auto &limit : host.addLimits)
+        if ((limit.type.isEmpty() || limit.type == type) && m_items.size() >= limit.refusedFrom)
+            return limit.message;
+    return {};
+}
+
+QString ItemList::Add(const QString &text)
+{
+    if (m_items.contains(text))
+        return u"The item already exists. Please enter a different name."_s;
+    if (!text.isEmpty())
+        m_items += text;
+    return {};
+}
+
+QString ItemList::AddNames(const QStringList &names)
+{
+    if (m_items.size() + names.size() > mostItems)
+        return tooManyItems;
+    QSet<QStringView> present;
+    for (const QString &item : std::as_const(m_items))
+        present += TrimBlanks(item);
+    for (const QString &name : names) {
+        const QStringView trimmed = TrimBlanks(name);
+        if (!present.contains(trimmed))
+            m_items += name;
+        present += trimmed;
+    }
+    return {};
+}
+
+ItemList::Change ItemList::Remove(const Rows &selection)
+{
+    if (selection.isEmpty())
+        return {.refusal = u"Please select an item to delete."_s};
+    const QSet<qsizetype> leaving(selection.begin(), selection.end());
+    QStringList kept;
+    for (qsizetype row = 0; row < m_items.size(); ++row)
+        if (!leaving.contains(row))
+            kept += m_items[row];
+    m_items = kept;
+    return {};
+}
+
+ItemList::Change ItemList::Move(const Rows &selection, qsizetype step)
+{
+    if (selection.isEmpty())
+        return {.refusal = u"Please select a question."_s, .selection = selection};
+    if (selection.size() > 1)
+        return {.refusal = u"Please select only one item."_s, .selection = selection};
+    const qsizetype row = selection.first();
+    const qsizetype neighbour = row + step;
+    if (neighbour < 0 || neighbour >= m_items.size())
+        return {.selection = selection};
+    m_items.swapItemsAt(row, neighbour);
+    return {.selection = {neighbour}};
+}
+
+void ItemList::Sort()
+{
+    if (m_items.isEmpty())
+        return;
+    const Before ascending = [](const QString &a, const QString &b) { return a < b; };
+    const Before descending = [](const QString &a, const QString &b) { return a > b; };
+    SortBetween(m_items, 0, m_items.size() - 1, m_sortDescending ? descending : ascending);
+    m_sortDescending = !m_sortDescending;
+}

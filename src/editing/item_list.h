@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+
+#include <span>
+
+/// In what the places where a list of items is edited differ.
+struct ItemListHost {
+    struct AddLimit {
+        QLatin1StringView type; ///< empty = whatever the type
+        qsizetype refusedFrom;  ///< with this many entries no further one is asked for
+        QLatin1StringView message;
+    };
+
+    QLatin1StringView firstPrompt; ///< asks for a new item
+    std::span<const AddLimit> addLimits;
+};
+
+/// Lets a list grow to one entry more than a question may have; finishing the wizard refuses it.
+extern const ItemListHost wizardItemList;
+extern const ItemListHost propertyItemList;
+
+/// Asks for a new item again after its text was refused, whatever the host.
+inline constexpr QLatin1StringView againPrompt{"Please add an item to the List."};
+
+/// Why a text cannot be entered as an item, ready to show; empty when it can.
+QString ObjectionToItem(QStringView text);
+
+/// The items of a question while they are edited. It lives as long as the window that edits them.
+///
+/// What is refused is told as a message ready to show (empty = done) and changes nothing.
+class ItemList
+{
+public:
+    using Rows = QList<qsizetype>;
+
+    /// What an operation on selected entries did.
+    struct Change {
+        QString refusal = {};
+        Rows selection = {}; ///< the rows that are selected afterwards
+    };
+
+    const QStringList &Items() const { return m_items; }
+    /// The direction of the next sort stays.
+    void SetItems(const QStringList &items) { m_items = items; }
+
+    /// Whether another item may be asked for.
+    QString RefusalToAdd(const ItemListHost &host, QStringView type) const;
+    /// Appends an item; an empty text adds nothing, an entry of the same text is refused.
+    QString Add(const QString &text);
+    /// Appends the names that the list lacks, blanks around a text aside. Refused if it could then
+    /// hold more than 255, counting also the names that it has.
+    QString AddNames(const QStringList &names);
+
+    Change Remove(const Rows &selection);
+    Change MoveUp(const Rows &selection) { return Move(selection, -1); }
+    Change MoveDown(const Rows &selection) { return Move(selection, +1); }
+    void Clear() { m_items.clear(); }
+    /// Sorts by character code, the first time upwards, then downwards, and so on in turn. An
+    /// empty list takes no turn.
+    void Sort();
+
+private:
+    Change Move(const Rows &selection, qsizetype step);
+
+    QStringList m_items;
+    bool m_sortDescending = false;
+};
