@@ -1,0 +1,62 @@
+#pragma once
+
+#include "editing/item_list.h"
+
+#include <QStringListModel>
+#include <QWidget>
+
+#include <memory>
+
+class QListView;
+
+namespace Ui {
+class ItemListEditor;
+}
+
+/// The objectNames that differ between the windows that hold an item list editor.
+struct ItemListControls {
+    QString list, add, remove, up, down;
+};
+
+/// The items of a question with the buttons that change them. What is refused is told in a box.
+class ItemListEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ItemListEditor(QWidget *parent = nullptr);
+    ~ItemListEditor() override;
+
+    /// Once, before use; the host must outlive the editor.
+    void Configure(const ItemListHost &host, const ItemListControls &controls);
+
+    /// The question type decides about the limits, and whether states and countries are offered.
+    void SetType(const QString &type);
+
+    /// Nothing is selected then; the direction of the next sort stays.
+    void SetItems(const QStringList &items);
+    QStringList Items() const { return m_items.Items(); }
+
+    QListView *List() const;
+
+private:
+    void AddItem();
+    QString AskItem();
+    void AddNames(const QStringList &names);
+    void RemoveItems();
+    void MoveItem(ItemList::Change (ItemList::*moved)(const ItemList::Rows &));
+    void ClearItems();
+    void SortItems();
+
+    ItemList::Rows Selection() const;
+    void ShowRefusal(const QString &refusal);
+    void ShowAppended();
+    /// The current entry is told by its row; a row that does not exist leaves none current.
+    void ShowAll(const ItemList::Rows &selection, qsizetype current);
+
+    std::unique_ptr<Ui::ItemListEditor> ui;
+    const ItemListHost *m_host = nullptr;
+    QString m_type;
+    ItemList m_items;
+    QStringListModel m_shown;
+};
