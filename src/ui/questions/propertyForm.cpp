@@ -1,0 +1,121 @@
+#include "ui/questions/propertyForm.h"
+
+#include "model/question_types.h"
+#include "ui/common/key_filter.h"
+#include "ui/common/plain_text.h"
+#include "ui/common/project_document.h"
+#include "ui/common/prompts.h"
+#include "ui/questions/ui_propertyForm.h"
+
+#include <QListView>
+#include <QScreen>
+#include <QShowEvent>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The height of a box that shows so many lines of text.
+int HeightOf(int lines, const QPlainTextEdit &box)
+{
+    const qreal margins = 2 * (box.document()->documentMargin() + box.frameWidth());
+    return lines * box.fontMetrics().lineSpacing() + qRound(margins);
+}
+
+/// Offers the types. A type of another name, which a file may have brought, is one more to choose.
+void FillTypes(QComboBox &box, const QString &type)
+{
+    for (const QLatin1StringView known : questionTypes)
+        box.addItem(known);
+    if (box.findText(type, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
+        box.addItem(type);
+    box.setCurrentText(type);
+}
+
+} // namespace
+
+propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
+    : QDialog(parent), ui(std::make_unique<Ui::propertyForm>()), m_document(document)
+{
+    ui->setupUi(this);
+    ui->lblSelections->setBuddy(ui->items->List());
+    ui->txtQuestion->setMinimumHeight(HeightOf(3, *ui->txtQuestion));
+    ui->items->Configure(propertyItemList, {.list = u"lstSelection"_s,
+                                            .add = u"cmdNew"_s,
+                                            .remove = u"cmdDelete"_s,
+                                            .up = u"cmdUp"_s,
+                                            .down = u"cmdDown"_s});
+    ShowQuestion();
+    ui->txtTitle->setFocus();
+
+    const QString noQuotes = u"Double quotes are not allowed."_s;
+    RefuseKeys(ui->txtTitle, u"\""_s, noQuotes);
+    RefuseKeys(ui->txtColumnName, u"\""_s, noQuotes);
+    RefuseKeys(ui->txtQuestion, u"\r\n"_s, u"Carriage returns are not allowed."_s);
+
+    connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);
+    connect(ui->cmdOK, &QPushButton::clicked, this, &propertyForm::SaveUnlessRefused);
+    connect(ui->cmdCancel, &QPushButton::clicked, this, &propertyForm::reject);
+}
+
+propertyForm::~propertyForm() = default;
+
+void propertyForm::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous())
+        setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size(),
+                                        screen()->availableGeometry()));
+    QDialog::showEvent(event);
+}
+
+void propertyForm::ShowQuestion()
+{
+    const QuestionRow &row = m_document.source().Questions().Current();
+    ui->txtOrder->setText(QString::number(row.Order));
+    ui->txtTitle->setText(row.Title);
+    ui->txtQuestion->setPlainText(row.Question);
+    FillTypes(*ui->cboType, row.Type);
+    ui->txtColumnName->setText(row.ColumnName);
+    ShowItemsForType();
+}
+
+/// Shows the items as they are stored: edits of the list are lost.
+void propertyForm::ShowItemsForType()
+{
+    const QString type = ui->cboType->currentText();
+    const bool hasItems = HasItems(type);
+    const clsDataSource &source = m_document.source();
+    ui->items->SetType(type);
+    ui->items->SetItems(hasItems ? ItemsOf(source, source.Questions().Current().Id)
+                                 : QStringList());
+    ui->lblSelections->setVisible(hasItems);
+    ui->items->setVisible(hasItems);
+}
+
+EditedQuestion propertyForm::Edited() const
+{
+    return {.title = ui->txtTitle->text(),
+            .question = TextOf(*ui->txtQuestion),
+            .type = ui->cboType->currentText(),
+            .columnName = ui->txtColumnName->text(),
+            .items = ui->items->Items()};
+}
+
+void propertyForm::SaveUnlessRefused()
+{
+    EditedQuestion edited = Edited();
+    TrimEdited(edited);
+    ui->txtTitle->setText(edited.title);
+    ui->txtQuestion->setPlainText(edited.question);
+
+    clsDataSource &source = m_document.source();
+    const QString objections = ObjectionsTo(edited, source);
+    if (!objections.isEmpty()) {
+        ShowExclamation(this, objections);
+        return;
+    }
+    m_document.ChangeQuestions([&] { ReplaceCurrentQuestion(source, edited); });
+    m_document.SetProjectChanged(true);
+    accept();
+}

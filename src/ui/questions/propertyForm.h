@@ -1,0 +1,37 @@
+#pragma once
+
+#include "editing/property_rules.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class ProjectDocument;
+
+namespace Ui {
+class propertyForm;
+}
+
+/// Edits the current question of a project, which there must be when it opens. The project changes
+/// only when it is accepted.
+class propertyForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The document must outlive the form.
+    explicit propertyForm(ProjectDocument &document, QWidget *parent = nullptr);
+    ~propertyForm() override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void ShowQuestion();
+    void ShowItemsForType();
+    EditedQuestion Edited() const;
+    void SaveUnlessRefused();
+
+    std::unique_ptr<Ui::propertyForm> ui;
+    ProjectDocument &m_document;
+};

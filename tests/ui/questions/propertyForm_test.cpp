@@ -1,0 +1,439 @@
+#include "ui/questions/propertyForm.h"
+
+#include "model/question_types.h"
+#include "support/print.h"
+#include "ui/common/project_document.h"
+#include "ui/support/prompt_script.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString pulldown = u"Pulldown List"_s;
+
+QStringList Numbered(int count)
+{
+    QStringList items;
+    for (int i = 0; i < count; ++i)
+        items += u"Item %1"_s.arg(i);
+    return items;
+}
+
+/// A project whose second question is open in the form: Kind, a pulldown list of a, b and c.
+class PropertyForm : public testing::Test
+{
+protected:
+    PropertyForm()
+    {
+        Append({.Order = 1, .Title = u"Old"_s, .Type = u"Text"_s, .ColumnName = u"Age"_s, .Id = 3},
+               {u"stray"_s});
+        Append({.Order = 2,
+                .Title = u"Kind"_s,
+                .Question = u"Which kind?"_s,
+                .Type = pulldown,
+                .ColumnName = u"Kind"_s,
+                .Id = 7},
+               {u"a"_s, u"b"_s, u"c"_s});
+    }
+
+    void Append(const QuestionRow &row, const QStringList &items)
+    {
+        Questions().Append(row);
+        for (const QString &item : items)
+            document.source().Items().Append({.Id = row.Id, .Item = item});
+    }
+
+    Table<QuestionRow> &Questions() { return document.source().Questions(); }
+    const QuestionRow &Row() { return Questions().Current(); }
+    QStringList StoredItems() { return ItemsOf(document.source(), Row().Id); }
+
+    void Open()
+    {
+        form = std::make_unique<propertyForm>(document);
+        form->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    }
+
+    template <typename Control> Control *The(const char *name)
+    {
+        auto *control = form->findChild<Control *>(QString::fromLatin1(name));
+        EXPECT_NE(control, nullptr) << name;
+        return control;
+    }
+    QString Text(const char *name) { return The<QLineEdit>(name)->text(); }
+    void Enter(const char *name, const QString &text) { The<QLineEdit>(name)->setText(text); }
+    void Click(const char *name) { QTest::mouseClick(The<QPushButton>(name), Qt::LeftButton); }
+
+    QPlainTextEdit *Question() { return The<QPlainTextEdit>("txtQuestion"); }
+
+    /// Picks a type by the arrow keys.
+    void PickType(const QString &type)
+    {
+        auto *types = The<QComboBox>("cboType");
+        QTest::keyClick(types, Qt::Key_Home);
+        while (types->currentText() != type && types->currentIndex() + 1 < types->count())
+            QTest::keyClick(types, Qt::Key_Down);
+        EXPECT_EQ(types->currentText(), type);
+    }
+
+    QStringList ShownItems()
+    {
+        QStringList texts;
+        const QAbstractItemModel *model = The<QListView>("lstSelection")->model();
+        for (int row = 0; row < model->rowCount(); ++row)
+            texts += model->index(row, 0).data().toString();
+        return texts;
+    }
+
+    /// The one box that pressing OK shows.
+    QString Objections()
+    {
+        const PromptScript prompts({u"OK"_s});
+        Click("cmdOK");
+        EXPECT_EQ(prompts.boxes().size(), 1u);
+        if (prompts.boxes().empty())
+            return {};
+        EXPECT_EQ(prompts.boxes()[0].title, u"Vellumo Designer"_s);
+        EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Warning);
+        EXPECT_TRUE(form->isVisible());
+        EXPECT_FALSE(document.ProjectChanged());
+        return prompts.boxes()[0].text;
+    }
+
+    void ExpectAccepted()
+    {
+        const PromptScript prompts;
+        Click("cmdOK");
+        EXPECT_TRUE(prompts.boxes().empty());
+        EXPECT_FALSE(form->isVisible());
+        EXPECT_EQ(form->result(), QDialog::Accepted);
+        EXPECT_TRUE(document.ProjectChanged());
+    }
+
+    ProjectDocument document;
+    std::unique_ptr<propertyForm> form;
+};
+
+TEST_F(PropertyForm, ShowsTheCurrentQuestion)
+{
+    Open();
+    EXPECT_EQ(form->windowTitle(), u"Question Properties"_s);
+    EXPECT_EQ(Text("txtOrder"), u"2"_s);
+    EXPECT_TRUE(The<QLineEdit>("txtOrder")->isReadOnly());
+    EXPECT_EQ(Text("txtTitle"), u"Kind"_s);
+    EXPECT_EQ(Question()->toPlainText(), u"Which kind?"_s);
+    EXPECT_EQ(The<QComboBox>("cboType")->currentText(), pulldown);
+    EXPECT_EQ(Text("txtColumnName"), u"Kind"_s);
+    EXPECT_EQ(ShownItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    EXPECT_EQ(form->focusWidget(), The<QLineEdit>("txtTitle"));
+    EXPECT_TRUE(The<QPushButton>("cmdOK")->isDefault());
+    EXPECT_EQ(The<QPushButton>("cmdCancel")->text(), u"Cancel"_s);
+}
+
+TEST_F(PropertyForm, OffersTheTypesInTheirOrder)
+{
+    Open();
+    const auto *types = The<QComboBox>("cboType");
+    ASSERT_EQ(types->count(), 10);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(types->itemText(i), QString(questionTypes[static_cast<size_t>(i)]));
+    EXPECT_FALSE(types->isEditable());
+}
+
+TEST_F(PropertyForm, LabelsItsControls)
+{
+    Open();
+    const struct {
+        const char *label, *caption, *control;
+    } rows[] = {
+        {"lblOrder", "Question #:", "txtOrder"},
+        {"lblTitle", "Question Title:", "txtTitle"},
+        {"lblQuestion", "Question Text:", "txtQuestion"},
+        {"lblType", "Question Type:", "cboType"},
+        {"lblColumn", "Column Name:", "txtColumnName"},
+        {"lblSelections", "List Items:", "lstSelection"},
+    };
+    for (const auto &row : rows) {
+        const auto *label = The<QLabel>(row.label);
+        EXPECT_EQ(label->text(), QString::fromLatin1(row.caption));
+        EXPECT_EQ(label->buddy(), The<QWidget>(row.control));
+        EXPECT_FALSE(The<QWidget>(row.control)->accessibleName().isEmpty()) << row.control;
+    }
+}
+
+TEST_F(PropertyForm, OpensInTheMiddleOfTheScreen)
+{
+    Open();
+    const QPoint off = form->geometry().center() - form->screen()->availableGeometry().center();
+    EXPECT_LE(off.manhattanLength(), 2);
+}
+
+TEST_F(PropertyForm, IsWalkedThroughInReadingOrder)
+{
+    Open();
+    The<QLineEdit>("txtTitle")->setFocus();
+    QStringList walked;
+    for (int i = 0; i < 14; ++i) {
+        QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+        walked += form->focusWidget()->objectName();
+    }
+    EXPECT_EQ(walked, (QStringList{u"txtQuestion"_s, u"cboType"_s, u"txtColumnName"_s,
+                                   u"lstSelection"_s, u"cmdNew"_s, u"cmdDelete"_s, u"cmdUp"_s,
+                                   u"cmdDown"_s, u"cmd_sort"_s, u"cmd_Clear"_s, u"cmd_AddState"_s,
+                                   u"cmd_AddCountry"_s, u"cmdOK"_s, u"cmdCancel"_s}));
+}
+
+TEST_F(PropertyForm, StoresWhatWasEdited)
+{
+    Open();
+    QSignalSpy before(&document, &ProjectDocument::QuestionsAboutToChange);
+    QSignalSpy after(&document, &ProjectDocument::QuestionsChanged);
+    Enter("txtTitle", u"  Sort "_s);
+    Question()->setPlainText(u" Which sort? "_s);
+    Enter("txtColumnName", u"sort "_s);
+    {
+        const PromptScript prompts({u"d"_s});
+        Click("cmdNew");
+    }
+    ExpectAccepted();
+    EXPECT_EQ(Row().Title, u"Sort"_s);
+    EXPECT_EQ(Row().Question, u"Which sort?"_s);
+    EXPECT_EQ(Row().Type, pulldown);
+    EXPECT_EQ(Row().ColumnName, u"sort "_s) << "a column name keeps its blanks";
+    EXPECT_EQ(Row().Order, 2);
+    EXPECT_EQ(Row().Id, 7);
+    EXPECT_EQ(StoredItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s}));
+    EXPECT_EQ(ItemsOf(document.source(), 3), QStringList{u"stray"_s});
+    EXPECT_EQ(document.project().TitleList, QStringList{QString()});
+    EXPECT_EQ(before.size(), 1);
+    EXPECT_EQ(after.size(), 1);
+}
+
+TEST_F(PropertyForm, WritesNothingWhenCancelled)
+{
+    for (const bool byKey : {false, true}) {
+        Open();
+        Enter("txtTitle", u"Sort"_s);
+        PickType(u"Notes"_s);
+        QSignalSpy changes(&document, &ProjectDocument::QuestionsChanged);
+        if (byKey)
+            QTest::keyClick(form.get(), Qt::Key_Escape);
+        else
+            Click("cmdCancel");
+        EXPECT_FALSE(form->isVisible());
+        EXPECT_EQ(form->result(), QDialog::Rejected);
+        EXPECT_EQ(Row().Title, u"Kind"_s);
+        EXPECT_EQ(Row().Type, pulldown);
+        EXPECT_EQ(StoredItems().size(), 3);
+        EXPECT_FALSE(document.ProjectChanged());
+        EXPECT_EQ(changes.size(), 0);
+    }
+}
+
+TEST_F(PropertyForm, SavesUnderItsOwnColumnNameButNotUnderAnothers)
+{
+    Open();
+    Enter("txtColumnName", u"Age"_s);
+    EXPECT_EQ(Objections(), u"The column name already exists. Please enter a different name.\n"_s);
+    EXPECT_EQ(Row().ColumnName, u"Kind"_s) << "the cursor stays";
+    Enter("txtColumnName", u"Kind"_s);
+    ExpectAccepted();
+}
+
+TEST_F(PropertyForm, TellsAllThatIsWrongInOneBox)
+{
+    Open();
+    Enter("txtTitle", u"  "_s + QString(21, u't') + u" "_s);
+    Question()->setPlainText(u"   "_s);
+    EXPECT_EQ(Objections(), u"Please keep the title length to 20 characters or less.\n"
+                            u"Please enter a question.\n"_s);
+    EXPECT_EQ(Text("txtTitle"), QString(21, u't')) << "trimmed, for the user to go on with";
+    EXPECT_EQ(Question()->toPlainText(), u""_s);
+    EXPECT_EQ(Row().Title, u"Kind"_s);
+    EXPECT_EQ(StoredItems().size(), 3);
+}
+
+TEST_F(PropertyForm, RunsQuotesAndNoItemsTogether)
+{
+    Open();
+    Enter("txtColumnName", u"a\"b"_s);
+    {
+        const PromptScript prompts({u"Yes"_s});
+        Click("cmd_Clear");
+    }
+    EXPECT_EQ(Objections(), u"Double quotes are not allowed in Title and Column Name."
+                            u"Please enter at least one item."_s);
+    EXPECT_EQ(StoredItems().size(), 3);
+}
+
+TEST_F(PropertyForm, RefusesPastedLineBreaks)
+{
+    Open();
+    Question()->setPlainText(u"Which\nkind?"_s);
+    EXPECT_EQ(Objections(), u"Carriage returns are not allowed in a question.\n"_s);
+}
+
+TEST_F(PropertyForm, HidesTheListForOtherTypes)
+{
+    Open();
+    const char *const controls[] = {"lblSelections", "lstSelection", "cmdNew",   "cmdDelete",
+                                    "cmdUp",         "cmdDown",      "cmd_sort", "cmd_Clear"};
+    const struct {
+        QString type;
+        bool list, names;
+    } rows[] = {{u"Notes"_s, false, false},
+                {u"Checkboxes"_s, true, false},
+                {u"Yes/No"_s, false, false},
+                {pulldown, true, true}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.type.toStdString());
+        PickType(row.type);
+        for (const char *name : controls)
+            EXPECT_EQ(The<QWidget>(name)->isVisible(), row.list) << name;
+        EXPECT_EQ(The<QWidget>("cmd_AddState")->isVisible(), row.names);
+        EXPECT_EQ(The<QWidget>("cmd_AddCountry")->isVisible(), row.names);
+        EXPECT_EQ(ShownItems().size(), row.list ? 3 : 0);
+    }
+}
+
+TEST_F(PropertyForm, ShowsTheStoredItemsAgainWhenATypeIsPicked)
+{
+    Open();
+    const PromptScript prompts({u"Yes"_s});
+    Click("cmd_Clear");
+    ASSERT_EQ(ShownItems(), QStringList());
+    auto *types = The<QComboBox>("cboType");
+    types->setFocus();
+    types->showPopup();
+    QTest::keyClick(types->view(), Qt::Key_Return); // the same type
+    EXPECT_EQ(ShownItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+}
+
+TEST_F(PropertyForm, DropsTheItemsWithTheType)
+{
+    Open();
+    PickType(u"Text"_s);
+    ExpectAccepted();
+    EXPECT_EQ(Row().Type, u"Text"_s);
+    EXPECT_EQ(StoredItems(), QStringList());
+    EXPECT_EQ(document.source().Items().Count(), 1) << "the other question's";
+}
+
+TEST_F(PropertyForm, RefusesMoreBoxesThanThereMayBe)
+{
+    Append({.Order = 3, .Question = u"?"_s, .Type = pulldown, .ColumnName = u"c"_s, .Id = 9},
+           Numbered(40));
+    Open();
+    PickType(u"Checkboxes"_s);
+    EXPECT_EQ(ShownItems(), Numbered(40));
+    EXPECT_EQ(Objections(), u"Please keep the Check Box to 32 items or less."_s);
+}
+
+TEST_F(PropertyForm, StopsAskingForItemsAt255)
+{
+    Append({.Order = 3, .Question = u"?"_s, .Type = u"Checkboxes"_s, .ColumnName = u"c"_s, .Id = 9},
+           Numbered(254));
+    Open();
+    const PromptScript prompts({u"more"_s, u"OK"_s});
+    Click("cmdNew");
+    Click("cmdNew");
+    EXPECT_EQ(prompts.questions(), QStringList{u"Please add the item to the List."_s});
+    ASSERT_EQ(prompts.boxes().size(), 1u);
+    EXPECT_EQ(prompts.boxes()[0].text, u"Please keep the list to 255 items or less."_s);
+    EXPECT_EQ(ShownItems().size(), 255);
+}
+
+TEST_F(PropertyForm, SortsUpwardsFirstEachTimeItOpens)
+{
+    for (int i = 0; i < 2; ++i) {
+        Open();
+        Click("cmd_sort");
+        EXPECT_EQ(ShownItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+        PickType(u"Checkboxes"_s);
+        Click("cmd_sort");
+        EXPECT_EQ(ShownItems(), (QStringList{u"c"_s, u"b"_s, u"a"_s}))
+            << "a new type keeps the turn";
+    }
+}
+
+TEST_F(PropertyForm, RefusesKeysInItsBoxes)
+{
+    Open();
+    const QString quotes = u"Double quotes are not allowed."_s;
+    const QString returns = u"Carriage returns are not allowed."_s;
+    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s});
+    QTest::keyClick(The<QLineEdit>("txtTitle"), Qt::Key_End);
+    QTest::keyClicks(The<QLineEdit>("txtTitle"), u"a\"b"_s);
+    QTest::keyClicks(The<QLineEdit>("txtColumnName"), u"a\"b"_s);
+    QTest::keyClick(Question(), Qt::Key_Return);
+    QTest::keyClick(Question(), Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClicks(Question(), u"\""_s);
+    EXPECT_EQ(Text("txtTitle"), u"Kindab"_s);
+    EXPECT_EQ(Text("txtColumnName"), u"Kindab"_s);
+    EXPECT_EQ(Question()->toPlainText(), u"\"Which kind?"_s);
+    QStringList texts;
+    for (const SeenBox &box : prompts.boxes())
+        texts += box.text;
+    EXPECT_EQ(texts, (QStringList{quotes, quotes, returns, returns}));
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(PropertyForm, KeepsATypeThatItDoesNotKnow)
+{
+    for (const QString &type : {u"<b>x"_s, u"text"_s, u" Text"_s, u""_s, QString(10000, u'T')}) {
+        SCOPED_TRACE(type.left(10).toStdString());
+        Questions().Current().Type = type;
+        Questions().Current().Title = u"Kind"_s;
+        document.SetProjectChanged(false);
+        Open();
+        EXPECT_EQ(The<QComboBox>("cboType")->currentText(), type);
+        EXPECT_EQ(The<QComboBox>("cboType")->count(), 11);
+        EXPECT_FALSE(The<QListView>("lstSelection")->isVisible());
+        EXPECT_LT(form->width(), 1000);
+        ExpectAccepted();
+        EXPECT_EQ(Row().Type, type);
+    }
+}
+
+TEST_F(PropertyForm, WritesBackWhatWasNotEditedAsItStood)
+{
+    QuestionRow &row = Questions().Current();
+    row.Title = u"5\u00a0m\tand\nmore"_s;
+    row.Question = u"\u00a0How\u00a0many\t m?\u00a0"_s;
+    row.ColumnName = u" a\nb\u00a0\t "_s;
+    const QuestionRow stored = row;
+    document.source().Items().Append({.Id = 7, .Item = u" broken\n\"item\"\u00a0"_s});
+    document.source().Items().Append({.Id = 7, .Item = QString(10000, u'W')});
+    const QStringList items = StoredItems();
+    Open();
+    EXPECT_LT(form->width(), 1000);
+    ExpectAccepted();
+    EXPECT_EQ(Row().Title, stored.Title);
+    EXPECT_EQ(Row().Question, stored.Question);
+    EXPECT_EQ(Row().ColumnName, stored.ColumnName);
+    EXPECT_EQ(StoredItems(), items);
+}
+
+TEST_F(PropertyForm, TakesAnyLengthAndRefusesItByItsRules)
+{
+    Open();
+    Enter("txtColumnName", QString(40000, u'c'));
+    Question()->setPlainText(QString(40000, u'q'));
+    EXPECT_EQ(Objections(), u"Please keep the question length to 255 characters or less.\n"
+                            u"Please keep the column name length to 255 characters or less.\n"_s);
+    EXPECT_EQ(Text("txtColumnName").size(), 40000);
+}
+
+} // namespace
