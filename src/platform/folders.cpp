@@ -21,3 +21,11 @@ bool MakeProjectsFolder()
 {
     return QDir().mkpath(ProjectsFolder());
 }
+
+QString DataFolderOf(const QString &folder)
+{
+    QString path = folder;
+    path.replace(u'/', u'\\');
+    const bool hasDrive = path.size() >= 2 && path[1] == u':';
+    return hasDrive ? path : "Z:"_L1 + path;
+}

@@ -12,3 +12,8 @@ QString ProjectsFolder();
 /// Makes the projects folder, and the documents folder above it, where they are missing. False when
 /// that could not be done.
 bool MakeProjectsFolder();
+
+/// A folder of this machine as the path of a drive, which a project's data folder always is. Where
+/// folders have no drive letters, drive Z: is the root, as under the common Windows compatibility
+/// layer.
+QString DataFolderOf(const QString &folder);

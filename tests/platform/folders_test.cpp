@@ -29,3 +29,10 @@ TEST(Folders, SaysWhenTheProjectsFolderCannotBeMade)
     ASSERT_TRUE(WriteBytes(home.filePath(u"Documents"_s), "a file in the way"));
     EXPECT_FALSE(MakeProjectsFolder());
 }
+
+TEST(Folders, ADataFolderHasADriveLetter)
+{
+    EXPECT_EQ(DataFolderOf(u"/home/a/x"_s), u"Z:\\home\\a\\x"_s);
+    EXPECT_EQ(DataFolderOf(u"/"_s), u"Z:\\"_s);
+    EXPECT_EQ(DataFolderOf(u"C:/Data"_s), u"C:\\Data"_s);
+}
