@@ -3,6 +3,8 @@
 #include "model/texts.h"
 #include "validation/form_rules.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <functional>
 
@@ -60,6 +62,21 @@ ReviewResult ReviewProject(Project &project)
             result.entries.push_back({rule.step, rule.code, rule.field, message});
     }
     return result;
+}
+
+StepVerdict CheckStep(int step, Project &project)
+{
+    StepVerdict verdict;
+    QStringList messages;
+    for (const ReviewRule &rule : reviewRules) {
+        if (rule.step != step)
+            continue;
+        QString message;
+        rule.validate(project, verdict.failed, message);
+        messages += message;
+    }
+    verdict.text = messages.join(u'\n');
+    return verdict;
 }
 
 EntryTarget TargetOfEntry(QStringView listText)

@@ -28,6 +28,15 @@ struct ReviewResult {
 /// its ends; nothing else of the project changes.
 ReviewResult ReviewProject(Project &project);
 
+/// What the rules of one step, 1 to 3, object to.
+struct StepVerdict {
+    bool failed = false;
+    QString text; ///< a line a rule, in their order; that of a rule that passed is empty
+};
+
+/// Applies the rules of a step to the project, which is left as ReviewProject leaves it.
+StepVerdict CheckStep(int step, Project &project);
+
 /// Where a double-click on an entry of the error list leads.
 struct EntryTarget {
     int step = 0;              ///< 1 to 3, 0 = nowhere

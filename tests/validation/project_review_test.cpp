@@ -238,3 +238,19 @@ TEST(ProjectReview, ADoubleClickLeadsToTheStepAndItsBox)
         EXPECT_EQ(TargetOfEntry(row.listText).textBox, row.target.textBox);
     }
 }
+
+TEST(ProjectReview, ChecksOneStepAlone)
+{
+    Project project = ProjectWith(0);
+    project.FormName = u" Survey "_s;
+    project.FormVersion = u"1.0 beta"_s;
+
+    const StepVerdict information = CheckStep(1, project);
+    EXPECT_TRUE(information.failed);
+    EXPECT_EQ(information.text, u"\nSpaces in the Vellsheet Version are not allowed.\n"_s);
+    EXPECT_EQ(project.FormName, u"Survey"_s);
+
+    EXPECT_EQ(CheckStep(2, project).text, u"Your Vellsheet requires a minimum of one question."_s);
+    EXPECT_FALSE(CheckStep(3, project).failed);
+    EXPECT_EQ(CheckStep(3, project).text, QString());
+}
