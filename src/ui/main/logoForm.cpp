@@ -1,0 +1,47 @@
+#include "ui/main/logoForm.h"
+
+#include "ui/common/environment.h"
+#include "ui/main/centre.h"
+#include "ui_logoForm.h"
+
+#include <QShowEvent>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+logoForm::logoForm(const Environment &environment, Check check, std::chrono::milliseconds duration,
+                   QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
+      ui(std::make_unique<Ui::logoForm>()),
+      m_check(std::move(check)),
+      m_timer(new QTimer(this))
+{
+    ui->setupUi(this);
+    ui->lblVersion->setText("Version "_L1 + environment.version);
+    ui->lblSite->setText(environment.siteAddress);
+    CentreOnScreen(*this);
+
+    m_timer->setObjectName(u"Timer1"_s);
+    m_timer->setSingleShot(true);
+    m_timer->setTimerType(Qt::PreciseTimer);
+    m_timer->setInterval(duration);
+    connect(m_timer, &QTimer::timeout, this, &logoForm::CheckAndClose);
+}
+
+logoForm::~logoForm() = default;
+
+/// Escape and every other way to close a window end here.
+void logoForm::reject() {}
+
+void logoForm::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        m_timer->start();
+}
+
+void logoForm::CheckAndClose()
+{
+    m_check(this);
+    accept();
+}

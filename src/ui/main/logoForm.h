@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDialog>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+struct Environment;
+
+namespace Ui {
+class logoForm;
+}
+
+inline constexpr std::chrono::milliseconds splashDuration{3000};
+
+/// The picture shown while the program starts. After its time, counted from when it is shown, it
+/// makes one check and closes once that has returned; it cannot be closed before, by any means.
+class logoForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// What is run before closing; it may handle events, and show boxes over the given window.
+    using Check = std::function<void(QWidget *parent)>;
+
+    logoForm(const Environment &environment, Check check,
+             std::chrono::milliseconds duration = splashDuration, QWidget *parent = nullptr);
+    ~logoForm() override;
+
+    void reject() override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void CheckAndClose();
+
+    std::unique_ptr<Ui::logoForm> ui;
+    Check m_check;
+    QTimer *m_timer;
+};
