@@ -55,7 +55,7 @@ QByteArray StartOfAnswer(const QUrl &address, qint64 size, std::chrono::millisec
         if (reply->bytesAvailable() >= size)
             waiting.quit();
     });
-    QTimer::singleShot(timeOut, &waiting, &QEventLoop::quit);
+    QTimer::singleShot(timeOut, Qt::PreciseTimer, &waiting, &QEventLoop::quit);
     waiting.exec();
 
     const QByteArray start = Succeeded(*reply) ? reply->read(size) : QByteArray();

@@ -6,6 +6,7 @@
 #include "ui/support/prompt_script.h"
 
 #include <QElapsedTimer>
+#include <QNetworkProxyFactory>
 #include <QSslConfiguration>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -280,10 +281,12 @@ TEST(Site, IsAWebAddressWithoutASlashAtItsEnd)
 TEST_F(UpdateCheck, GoesThroughTheProxyOfTheSystem)
 {
     const WebServer proxy([](const QString &) { return Page("1.1.3"); });
+    QNetworkProxyFactory::setUseSystemConfiguration(false); // not only by the toolkit's default
     qputenv("http_proxy", proxy.Address().toLatin1());
     const PromptScript script({u"No"_s});
     Check(u"http://vellumo.invalid"_s);
     qunsetenv("http_proxy");
+    QNetworkProxyFactory::setUseSystemConfiguration(true);
     ASSERT_EQ(proxy.requests().size(), 1);
     EXPECT_TRUE(proxy.requests().front().startsWith(u"GET http://vellumo.invalid/vmversionlog "));
     EXPECT_EQ(script.boxes().size(), 1u);
