@@ -108,6 +108,12 @@ TEST_F(BasRegistry, TakesTheElementFromItsPlaceAlone)
         {"not XML", "[Settings]\r\nShowOpenForm=1\r\n", -1},
         {"no bytes", "", -1},
         {"zero bytes", QByteArray(64, '\0'), -1},
+        {"entities that grow without end",
+         "<!DOCTYPE Vmdesigner [<!ENTITY a '1111111111'>"
+         "<!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'><!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
+         "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]>"
+         "<Vmdesigner><X>&d;&d;</X><ShowOpenForm>1</ShowOpenForm></Vmdesigner>",
+         -1},
         {"very deep",
          QByteArray("<Vmdesigner><ShowOpenForm>1") + QByteArray("<a>").repeated(100000), -1},
     };
