@@ -21,8 +21,8 @@ public:
     bool ProjectChanged() const { return m_changed; }
     void SetProjectChanged(bool changed) { m_changed = changed; }
 
-    /// Runs a change of the question or item table, also of the question cursor, between the two
-    /// signals and gives its result. Changes do not nest.
+    /// Runs a change of the question or item table between the two signals and gives its result.
+    /// Changes do not nest; moving the cursor alone is none.
     template <typename Change> auto ChangeQuestions(Change change)
     {
         const Announcement announcement(*this);

@@ -1,6 +1,6 @@
 #include "ui/main/fileOpenForm.h"
 
-#include "ui/main/centre.h"
+#include "ui/common/screen_centre.h"
 #include "ui_fileOpenForm.h"
 
 #include <QDir>

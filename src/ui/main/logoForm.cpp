@@ -1,7 +1,7 @@
 #include "ui/main/logoForm.h"
 
 #include "ui/common/environment.h"
-#include "ui/main/centre.h"
+#include "ui/common/screen_centre.h"
 #include "ui_logoForm.h"
 
 #include <QShowEvent>

@@ -1,6 +1,7 @@
 #include "ui/support/prompt_script.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
@@ -38,13 +39,25 @@ void Press(QMessageBox &box, const QString &caption)
     box.close();
 }
 
+QLineEdit *NameBox(const QFileDialog &dialog)
+{
+    return dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+}
+
 void Choose(QFileDialog &dialog, const QString &path)
 {
     if (path.isEmpty())
         return dialog.reject();
-    auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-    name->setText(path);
-    QTest::keyClick(name, Qt::Key_Return);
+    // The folder is read meanwhile, which may select a proposed file once more.
+    for (const auto *view : dialog.findChildren<QAbstractItemView *>())
+        if (view->selectionModel())
+            view->selectionModel()->clearSelection();
+    NameBox(dialog)->setText(path);
+    QMetaObject::invokeMethod(&dialog, "accept");
+    if (dialog.isVisible()) {
+        ADD_FAILURE() << "cannot be chosen: " << path.toStdString();
+        dialog.reject();
+    }
 }
 
 } // namespace
@@ -84,6 +97,7 @@ void PromptScript::Answer(QDialog *dialog)
         answer.isEmpty() ? input->reject() : input->accept();
     } else if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
         m_fileDialogs += files->windowTitle();
+        m_fileNames += NameBox(*files)->text();
         Choose(*files, answer);
     }
 }

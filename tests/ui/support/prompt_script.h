@@ -38,6 +38,8 @@ public:
     const QStringList &questions() const { return m_questions; }
     /// The titles of the file dialogs.
     const QStringList &fileDialogs() const { return m_fileDialogs; }
+    /// The file names that they proposed.
+    const QStringList &fileNames() const { return m_fileNames; }
     /// Answers that nobody asked for yet.
     const QStringList &answersLeft() const { return m_answers; }
 
@@ -51,4 +53,5 @@ private:
     std::vector<SeenBox> m_boxes;
     QStringList m_questions;
     QStringList m_fileDialogs;
+    QStringList m_fileNames;
 };

@@ -1,0 +1,23 @@
+#include "designer/real_environment.h"
+
+#include "ui/common/pictures.h"
+#include "ui/main/appInfoForm.h"
+#include "ui/main/start_windows.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setWindowIcon(ProgramIcon());
+
+    const Environment environment = RealEnvironment();
+    const Start start = StartUp(StartWithWindows(environment, QApplication::arguments().sliced(1)));
+
+    appInfoForm window(environment);
+    if (start.choice == existingProject)
+        window.OpenProject(start.path);
+    window.FinishSetUp();
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "ui/common/environment.h"
+
+/// The environment of a program that a person started: its own folder, the user's documents, the
+/// maker's site.
+Environment RealEnvironment();

@@ -1,0 +1,6 @@
+#pragma once
+
+class QWidget;
+
+/// Moves a window that is not shown yet to the middle of its screen, which it never exceeds.
+void CentreOnScreen(QWidget &window);

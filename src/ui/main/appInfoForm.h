@@ -1,0 +1,82 @@
+#pragma once
+
+#include "ui/common/environment.h"
+#include "ui/common/project_document.h"
+#include "ui/main/project_files.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class StepComplete;
+class StepData;
+class StepInfo;
+class StepQuestions;
+namespace Ui {
+class appInfoForm;
+}
+
+/// The designer's window: the one open project, and the order of the four steps.
+class appInfoForm : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit appInfoForm(Environment environment, QWidget *parent = nullptr);
+    ~appInfoForm() override;
+
+    /// Opens a project file in place of the open project and reviews it in silence. A file that is
+    /// no project gets a box, and the project is a new one.
+    void OpenProject(const QString &path);
+
+    /// Lays the window out and shows step 1; the project counts as unchanged from here on.
+    void FinishSetUp();
+
+    const ProjectDocument &document() const { return m_document; }
+
+signals:
+    void HelpAsked(int contextId);
+    void ContentsAsked();
+    void AboutAsked();
+    /// The window is being closed by its user, who may yet keep it open: help has to go.
+    void HelpCloseAsked();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void AddSteps();
+    void ConnectSteps();
+    void ConnectMenus();
+    void ConnectToolbar();
+
+    void New();
+    void Open();
+    void Exit();
+    void EmptyProject();
+    void ResetFormInfo();
+
+    void LeaveForward(int step);
+    void SelectStep(int step);
+    void ChangeStep(int tabIndex);
+    void MarkLeftStep();
+    void EnterStep();
+    void MarkStep(int step, bool valid);
+    void ShowTexts();
+    void LayOutIfLargeEnough();
+
+    void ReviewProject(bool showResults);
+    void GoToError(const QString &listText);
+
+    Environment m_environment;
+    ProjectDocument m_document;
+    std::unique_ptr<Ui::appInfoForm> ui;
+    ProjectFiles *m_files;
+    StepInfo *m_info;
+    StepQuestions *m_questions;
+    StepData *m_data;
+    StepComplete *m_complete;
+    int m_step = 1;           ///< the one that is shown, 1 to 4
+    bool m_formReady = false; ///< set-up is complete
+};

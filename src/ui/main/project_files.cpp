@@ -1,0 +1,94 @@
+#include "ui/main/project_files.h"
+
+#include "model/project_file.h"
+#include "ui/common/prompts.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Empty when the dialog is cancelled.
+QString ChosenFile(QFileDialog &dialog)
+{
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+} // namespace
+
+ProjectFiles::ProjectFiles(ProjectDocument &document, const Environment &environment,
+                           QWidget *window)
+    : QObject(window), m_document(document), m_environment(environment), m_window(window)
+{}
+
+void ProjectFiles::Save()
+{
+    const QString path = m_document.project().path;
+    SaveTo(path.isEmpty() ? ChooseTarget(m_environment.projectsFolder, {}) : path);
+}
+
+void ProjectFiles::SaveAs()
+{
+    const QString path = m_document.project().path;
+    if (path.isEmpty())
+        return SaveTo(ChooseTarget(m_environment.projectsFolder, {}));
+    const QFileInfo file(path);
+    const bool bareName = file.fileName() == path;
+    SaveTo(ChooseTarget(bareName ? m_environment.applicationFolder : file.path(), file.fileName()));
+}
+
+void ProjectFiles::SaveAndForget()
+{
+    Save();
+    m_saveCancelled = false;
+}
+
+bool ProjectFiles::MayDiscard(Reason reason)
+{
+    if (!m_document.ProjectChanged())
+        return true;
+    if (reason != Reason::CloseBox)
+        m_saveCancelled = false;
+
+    const QString answer =
+        AskYesNoCancel(m_window, u"Do you want to save changes to your Vellsheet project?"_s);
+    if (answer != "Yes"_L1)
+        return answer == "No"_L1;
+    Save();
+    const bool cancelled = std::exchange(m_saveCancelled, false);
+    return !cancelled || reason == Reason::Open; // opening goes on without the save, on purpose
+}
+
+QString ProjectFiles::ChooseProject()
+{
+    QFileDialog dialog(m_window, u"Open File "_s, m_environment.projectsFolder,
+                       u"VMP Files (*.vmp)"_s);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return ChosenFile(dialog);
+}
+
+/// An empty path stands for a dialog that was cancelled.
+void ProjectFiles::SaveTo(const QString &path)
+{
+    const Outcome saved = path.isEmpty() ? Error{} : SaveProject(m_document.project(), path);
+    if (saved)
+        return m_document.SetProjectChanged(false);
+    m_saveCancelled = true;
+    if (!path.isEmpty())
+        ShowCritical(m_window, saved.error().text);
+}
+
+QString ProjectFiles::ChooseTarget(const QString &folder, const QString &fileName)
+{
+    QFileDialog dialog(m_window, u"Save File As "_s, folder, u"VMP file (*.vmp)"_s);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"vmp"_s);
+    dialog.selectFile(fileName);
+    return ChosenFile(dialog);
+}

@@ -1,0 +1,209 @@
+#include "ui/questions/step_questions.h"
+
+#include "editing/question_list.h"
+#include "ui/common/pictures.h"
+#include "ui/common/prompts.h"
+#include "ui/questions/frmWizard.h"
+#include "ui/questions/propertyForm.h"
+#include "ui/questions/question_model.h"
+#include "ui_step_questions.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
+    : StepPage(parent),
+      ui(std::make_unique<Ui::StepQuestions>()),
+      m_document(document),
+      m_model(new QuestionModel(document, this))
+{
+    ui->setupUi(this);
+    ui->scrollArea->viewport()->setAutoFillBackground(false); // the tab's ground, as on other steps
+    ui->content->setAutoFillBackground(false);
+    ConnectHelp({{ui->lblAdd, 5},
+                 {ui->lblEdit, 5},
+                 {ui->lblDelete, 5},
+                 {ui->lblReorder, 5},
+                 {ui->Label10, 10}});
+    ConnectButtons();
+    ConnectGrid();
+    LayOutColumns();
+}
+
+StepQuestions::~StepQuestions() = default;
+
+void StepQuestions::ConnectButtons()
+{
+    connect(ui->cmd2_Back, &QPushButton::clicked, this, &StepQuestions::BackAsked);
+    connect(ui->cmd2_Next, &QPushButton::clicked, this, &StepQuestions::NextAsked);
+    connect(ui->cmdAdd, &QToolButton::clicked, this, &StepQuestions::NewQuestion);
+    connect(ui->cmdView, &QToolButton::clicked, this, &StepQuestions::EditQuestion);
+    connect(ui->cmdDel, &QToolButton::clicked, this, &StepQuestions::RemoveQuestion);
+    connect(ui->cmdUp, &QToolButton::clicked, this, [this] { MoveQuestion(MoveQuestionUp); });
+    connect(ui->cmdDown, &QToolButton::clicked, this, [this] { MoveQuestion(MoveQuestionDown); });
+    connect(ui->cmdDuplic, &QToolButton::clicked, this, &StepQuestions::DuplicateQuestion);
+
+    const std::pair<QKeySequence, QToolButton *> keys[] = {
+        {Qt::Key_Insert, ui->cmdAdd},      {Qt::Key_Delete, ui->cmdDel},
+        {Qt::Key_Return, ui->cmdView},     {Qt::Key_Enter, ui->cmdView},
+        {Qt::ALT | Qt::Key_Up, ui->cmdUp}, {Qt::ALT | Qt::Key_Down, ui->cmdDown},
+    };
+    for (const auto &[key, button] : keys)
+        connect(new QShortcut(key, ui->DataGrid1, nullptr, nullptr, Qt::WidgetShortcut),
+                &QShortcut::activated, button, &QToolButton::click);
+}
+
+void StepQuestions::ConnectGrid()
+{
+    ui->DataGrid1->setModel(m_model);
+    ui->DataGrid1->installEventFilter(this);
+    connect(ui->DataGrid1->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &StepQuestions::FollowGrid);
+    connect(ui->DataGrid1, &QTableView::clicked, this, &StepQuestions::RefreshAfterClick);
+    connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::EditQuestion);
+    connect(&m_document, &ProjectDocument::QuestionsChanged, this,
+            &StepQuestions::SelectCurrentRow);
+}
+
+bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyRelease) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+            key == Qt::Key_PageDown)
+            RefreshPreview();
+    }
+    return StepPage::eventFilter(watched, event);
+}
+
+void StepQuestions::NewQuestion()
+{
+    const QString refusal = RefusalWhenFull(m_document.source());
+    if (!refusal.isEmpty())
+        return ShowExclamation(window(), refusal);
+
+    frmWizard wizard(m_document, window());
+    connect(&wizard, &frmWizard::HelpAsked, this, &StepQuestions::HelpAsked);
+    connect(&m_document, &ProjectDocument::QuestionsChanged, &wizard, [this] { RefreshPreview(); });
+    wizard.exec();
+    RefreshPreview();
+}
+
+void StepQuestions::EditQuestion()
+{
+    if (RefusesWithoutSelection())
+        return;
+    propertyForm(m_document, window()).exec();
+    RefreshPreview();
+}
+
+void StepQuestions::RemoveQuestion()
+{
+    if (RefusesWithoutSelection())
+        return;
+    if (AskYesNo(window(), u"Are you sure you want to delete this question?"_s) == "No"_L1)
+        return;
+    m_document.ChangeQuestions([this] { ::RemoveQuestion(m_document.source()); });
+    if (m_document.source().QuestionCount() == 0)
+        LayOutColumns();
+    RefreshPreview();
+    m_document.SetProjectChanged(true);
+}
+
+void StepQuestions::MoveQuestion(bool (*moveRow)(clsDataSource &source))
+{
+    if (RefusesWithoutSelection())
+        return;
+    if (!m_document.ChangeQuestions([&] { return moveRow(m_document.source()); }))
+        return;
+    m_document.SetProjectChanged(true);
+    RefreshPreview();
+}
+
+void StepQuestions::DuplicateQuestion()
+{
+    if (RefusesWithoutSelection())
+        return;
+    const QString refusal = RefusalWhenFull(m_document.source());
+    if (!refusal.isEmpty())
+        return ShowExclamation(window(), refusal);
+    if (AskYesNo(window(), u"Are you sure you want to duplicate this question?"_s) == "No"_L1)
+        return;
+
+    m_previewPending = false;
+    const Outcome duplicated =
+        m_document.ChangeQuestions([this] { return ::DuplicateQuestion(m_document.source()); });
+    if (!duplicated)
+        return ShowExclamation(window(), duplicated.error().text);
+    RefreshPreview(); // the project counts as unchanged, on purpose
+}
+
+bool StepQuestions::RefusesWithoutSelection()
+{
+    const QString refusal = RefusalWithoutSelection(m_document.source());
+    if (!refusal.isEmpty())
+        ShowExclamation(window(), refusal);
+    return !refusal.isEmpty();
+}
+
+void StepQuestions::Refresh()
+{
+    SelectCurrentRow();
+    RefreshPreview();
+}
+
+void StepQuestions::SelectCurrentRow()
+{
+    const clsDataSource &source = m_document.source();
+    if (source.AtEnd() || source.AtStart())
+        return ui->DataGrid1->setCurrentIndex({});
+    ui->DataGrid1->setCurrentIndex(m_model->index(static_cast<int>(source.GetPosition()), 0));
+}
+
+void StepQuestions::RefreshPreview()
+{
+    const auto preview = PreviewOf(m_document.source());
+    ui->previewBox->Show(preview);
+    if (preview && preview->pictureNumber == 0)
+        ShowCritical(window(), u"This type is wrong!"_s);
+}
+
+void StepQuestions::RefreshAfterClick()
+{
+    m_previewPending = true;
+    RefreshPreview();
+}
+
+void StepQuestions::FollowGrid(const QModelIndex &current)
+{
+    if (current.isValid())
+        m_document.source().SetPosition(current.row());
+    if (std::exchange(m_previewPending, false))
+        RefreshPreview();
+}
+
+void StepQuestions::LayOut()
+{
+    ui->content->resize(
+        ui->scrollArea->maximumViewportSize().expandedTo(ui->content->minimumSizeHint()));
+    LayOutColumns();
+}
+
+void StepQuestions::LayOutColumns()
+{
+    // In the order of the columns; the question's text takes what is left.
+    const int digits = fontMetrics().horizontalAdvance(u'0');
+    const int widths[] = {6, 14, 0, 15, 13};
+    QHeaderView *header = ui->DataGrid1->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setSectionResizeMode(2, QHeaderView::Stretch);
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        if (widths[column] > 0)
+            header->resizeSection(column, widths[column] * digits);
+    ui->DataGrid1->verticalHeader()->hide();
+}

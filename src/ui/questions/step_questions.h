@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/common/project_document.h"
+#include "ui/common/step_page.h"
+
+#include <memory>
+
+class QuestionModel;
+namespace Ui {
+class StepQuestions;
+}
+
+/// Step 2: the list of questions, what can be done with them, and how the current one will look.
+class StepQuestions : public StepPage
+{
+    Q_OBJECT
+
+public:
+    /// The document must outlive the step.
+    explicit StepQuestions(ProjectDocument &document, QWidget *parent = nullptr);
+    ~StepQuestions() override;
+
+    /// Shows the current question in grid and preview.
+    void Refresh();
+
+    /// Fits the controls to the step's size; without it they keep their places.
+    void LayOut();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void ConnectButtons();
+    void ConnectGrid();
+
+    void NewQuestion();
+    void EditQuestion();
+    void RemoveQuestion();
+    void MoveQuestion(bool (*moveRow)(clsDataSource &source));
+    void DuplicateQuestion();
+
+    bool RefusesWithoutSelection();
+    void SelectCurrentRow();
+    void LayOutColumns();
+    void RefreshPreview();
+    void RefreshAfterClick();
+    void FollowGrid(const QModelIndex &current);
+
+    std::unique_ptr<Ui::StepQuestions> ui;
+    ProjectDocument &m_document;
+    QuestionModel *m_model;
+    /// A click refreshed the preview, and the grid may yet report a change of its row for it.
+    bool m_previewPending = false;
+};

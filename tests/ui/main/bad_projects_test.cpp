@@ -1,0 +1,99 @@
+#include "support/print.h"
+#include "ui/support/designer.h"
+#include "ui/support/prompt_script.h"
+
+#include <QLabel>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A project that no designer made: every rule is broken, and some rows are nonsense.
+QByteArray BrokenProject()
+{
+    const QString long10000(10'000, u'x');
+    Project project{.FormName = u"My*Survey "_s + long10000,
+                    .FormVersion = u"1.0 \"beta\" "_s + long10000,
+                    .Description = u"two\nlines "_s + long10000,
+                    .FormPath = u"\\\\server\\share"_s + long10000};
+    const QString types[] = {u"Text"_s, u""_s, u"text"_s, u"<b>Checkboxes</b>"_s, u"Checkboxes"_s};
+    for (int n = 0; n < 500; ++n)
+        project.source.Questions().Append({.Order = (n * 7) % 500 - 3,
+                                           .Title = long10000,
+                                           .Question = u"line\nbreak \"quoted\""_s,
+                                           .Type = types[n % 5],
+                                           .ColumnName = u"same"_s,
+                                           .Id = n % 40});
+    for (int n = 0; n < 3'000; ++n)
+        project.source.Items().Append({.Id = n * 11 - 50, .Item = n % 3 == 0 ? u""_s : u"a\nb"_s});
+    project.source.SetMaxId(-5);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"broken.vmp"_s);
+    EXPECT_TRUE(SaveProject(project, path));
+    return BytesOf(path);
+}
+
+TEST(BadProject, OpensShowsReviewsAndIsSavedUnchanged)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"broken.vmp"_s);
+    const QByteArray bytes = BrokenProject();
+    ASSERT_TRUE(WriteBytes(path, bytes));
+
+    Designer designer(path);
+    const PromptScript prompts;
+    EXPECT_EQ(designer.project().source.QuestionCount(), 500);
+    for (const int step : {1, 2, 3, 4}) {
+        designer.ClickTab(step);
+        EXPECT_FALSE(designer.window.grab().isNull());
+    }
+    designer.Click("cmdReviewForm");
+    EXPECT_EQ(designer.Find<QListWidget>("lstError")->count(), 5);
+    EXPECT_FALSE(designer.ProjectChanged());
+
+    designer.Choose("mnuFileSave");
+    EXPECT_EQ(BytesOf(path), bytes);
+}
+
+TEST(BadProject, IsWalkedThroughAndChanged)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"broken.vmp"_s);
+    ASSERT_TRUE(WriteBytes(path, BrokenProject()));
+    const Designer designer(path);
+    {
+        const PromptScript closesEveryBox;
+        designer.ClickTab(2);
+    }
+    auto *grid = designer.Find<QTableView>("DataGrid1");
+    for (int row = 0; row < 12; ++row) {
+        grid->setCurrentIndex(grid->model()->index(row * 40, 0));
+        {
+            const PromptScript closesEveryBox;
+            designer.Click("cmdUp");
+            designer.Click("cmdDown");
+            designer.Click("cmdDuplic");
+        }
+        const PromptScript prompts({u"Yes"_s});
+        designer.Click("cmdDel");
+    }
+    EXPECT_EQ(designer.project().source.QuestionCount(), 488);
+}
+
+TEST(BadProject, TitlesAndTypesAreShownAsTheyStand)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"markup.vmp"_s);
+    Project project{.FormName = u"<b>x"_s};
+    project.source.Questions().Append({.Order = 1, .Title = u"<b>x"_s, .Type = u"Text"_s});
+    ASSERT_TRUE(SaveProject(project, path));
+    const Designer designer(path);
+    designer.ClickTab(2);
+    EXPECT_EQ(designer.Find<QTableView>("DataGrid1")->model()->index(0, 1).data(), u"<b>x"_s);
+    const auto *title = designer.Find<QLabel>("lblTitle");
+    EXPECT_EQ(title->text(), u"<b>x"_s);
+    EXPECT_EQ(title->textFormat(), Qt::PlainText);
+}
+
+} // namespace

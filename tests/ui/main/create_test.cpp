@@ -1,0 +1,107 @@
+#include "palmgen/tool_runner.h"
+#include "support/print.h"
+#include "ui/support/designer.h"
+#include "ui/support/prompt_script.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
+
+void ReviewAndCreate(const Designer &designer)
+{
+    designer.ClickTab(4);
+    designer.Click("cmdReviewForm");
+    designer.Click("cmdCreateForm");
+}
+
+/// The real tools, which the build puts into a folder of its own.
+ToolRun RunRealTool(const ToolCall &call)
+{
+    return RunAndWait(call, {.folders = {QStringLiteral(TOOL_FOLDER)}, .timeoutSeconds = 60});
+}
+
+TEST(Create, MakesTheDatabaseTellsWhereItIsAndOpensIt)
+{
+    Designer designer(sample);
+    designer.runTool = RunRealTool;
+    const PromptScript prompts({u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+
+    const QString folder = designer.projects + u'/';
+    ASSERT_EQ(prompts.boxes().size(), 2u);
+    const SeenBox &told = prompts.boxes()[1];
+    EXPECT_EQ(told.title, u"Vellumo Designer"_s);
+    EXPECT_EQ(told.icon, QMessageBox::Information);
+    EXPECT_EQ(told.text,
+              folder + designer.project().FormName +
+                  u".Prc has been created. You may now install it onto your Palm "
+                  "handheld (using the Palm Install Tool) to use with Vellumo Viewer."_s);
+    const QString database = folder + designer.project().FormName + u".prc"_s;
+    EXPECT_EQ(BytesOf(database).mid(60, 8), "kelpWmpt");
+    EXPECT_EQ(designer.opened, (QStringList{database, folder}));
+    EXPECT_TRUE(NamesIn(designer.application).isEmpty());
+}
+
+TEST(Create, TellsOfSuccessWhateverTheToolsSaid)
+{
+    Designer designer(sample);
+    designer.runTool = [](const ToolCall &) {
+        ToolRun run;
+        run.started = true; // and failed
+        return run;
+    };
+    const PromptScript prompts({u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+    ASSERT_EQ(prompts.boxes().size(), 2u);
+    EXPECT_EQ(prompts.boxes()[1].icon, QMessageBox::Information);
+    EXPECT_TRUE(prompts.boxes()[1].text.contains(u".Prc has been created."_s));
+}
+
+TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
+{
+    Designer designer(sample);
+    designer.runTool = [](const ToolCall &call) {
+        ToolRun run;
+        run.commandLine = call.commandLine;
+        run.whyNotStarted = u"No such file"_s;
+        return run;
+    };
+    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+    ASSERT_EQ(prompts.boxes().size(), 4u);
+    for (const int tool : {1, 2}) {
+        const SeenBox &box = prompts.boxes()[static_cast<size_t>(tool)];
+        EXPECT_EQ(box.title, u"Error"_s);
+        EXPECT_EQ(box.icon, QMessageBox::Warning);
+        EXPECT_EQ(box.buttons, QStringList{u"OK"_s});
+        EXPECT_TRUE(box.text.startsWith(tool == 1 ? u"Error starting task pilrc"_s
+                                                  : u"Error starting task build-prc"_s));
+    }
+    EXPECT_EQ(prompts.boxes()[3].icon, QMessageBox::Information);
+}
+
+TEST(Create, FailsWithOneBoxWhereTheScriptCannotBeWritten)
+{
+    Designer designer(sample);
+    designer.Find<QLineEdit>("txtAppVersion")->setText(u"\u0416"_s);
+    const PromptScript prompts({u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+    ASSERT_EQ(prompts.boxes().size(), 2u);
+    EXPECT_EQ(prompts.boxes()[1].icon, QMessageBox::Critical);
+    EXPECT_EQ(prompts.boxes()[1].title, u"Vellumo Designer"_s);
+    EXPECT_EQ(prompts.boxes()[1].text, u"Error in Vellsheet Creation!"_s);
+    EXPECT_TRUE(designer.opened.isEmpty());
+}
+
+TEST(Create, IsNotToBePressedBeforeAReview)
+{
+    const Designer designer(sample);
+    designer.ClickTab(4);
+    const PromptScript prompts;
+    designer.Click("cmdCreateForm");
+    EXPECT_TRUE(prompts.boxes().empty());
+}
+
+} // namespace
