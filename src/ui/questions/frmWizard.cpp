@@ -1,0 +1,250 @@
+#include "ui/questions/frmWizard.h"
+
+#include "editing/title_history.h"
+#include "model/question_types.h"
+#include "model/texts.h"
+#include "ui/common/key_filter.h"
+#include "ui/common/plain_text.h"
+#include "ui/common/project_document.h"
+#include "ui/common/prompts.h"
+#include "ui/questions/ui_frmWizard.h"
+
+#include <QEvent>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int questionHelp = 15;
+constexpr int longestText = 16777216;
+
+} // namespace
+
+frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
+    : QDialog(parent), ui(std::make_unique<Ui::frmWizard>()), m_document(document)
+{
+    ui->setupUi(this);
+    for (const QLatin1StringView type : questionTypes)
+        ui->lstWiz1_1->addItem(type);
+    ConfigureTitleBox();
+    OfferTitles();
+    ui->items->Configure(wizardItemList, {.list = u"lstWiz4_1"_s,
+                                          .add = u"cmdWiz4_Add"_s,
+                                          .remove = u"cmdWiz4_Remove"_s,
+                                          .up = u"cmdWiz4_Up"_s,
+                                          .down = u"cmdWiz4_Down"_s});
+    ui->lblWiz4_1->setBuddy(ui->items->List());
+
+    const QString quotes = u"Double quotes are not allowed."_s;
+    // The drop-down has the focus and passes on to its edit line what is typed.
+    RefuseKeys(ui->cboWiz2_1, u"\""_s, quotes);
+    RefuseKeys(ui->cboWiz2_1->lineEdit(), u"\""_s, quotes);
+    RefuseKeys(ui->txtWiz5_1, u"\""_s, quotes);
+    RefuseKeys(ui->txtWiz3_1, u"\r\n"_s, u"Carriage returns are not allowed."_s);
+
+    ConnectControls();
+    PlaceTypeLink();
+    ShowStep();
+    CentreOnScreen();
+}
+
+frmWizard::~frmWizard() = default;
+
+/// The title is taken as it is typed: nothing completes it, and Enter does not look it up.
+void frmWizard::ConfigureTitleBox()
+{
+    ui->cboWiz2_1->setCompleter(nullptr);
+    ui->cboWiz2_1->lineEdit()->setMaxLength(longestText);
+}
+
+void frmWizard::OfferTitles()
+{
+    ui->cboWiz2_1->addItems(m_document.project().TitleList);
+    ui->cboWiz2_1->setCurrentIndex(-1);
+}
+
+void frmWizard::ConnectControls()
+{
+    connect(ui->cmdNav_1, &QPushButton::clicked, this, &frmWizard::reject);
+    connect(ui->cmdNav_2, &QPushButton::clicked, this, &frmWizard::GoBack);
+    connect(ui->cmdNav_3, &QPushButton::clicked, this, &frmWizard::GoNext);
+    connect(ui->cmdNav_4, &QPushButton::clicked, this, &frmWizard::Finish);
+    connect(ui->lstWiz1_1, &QListWidget::itemDoubleClicked, this, &frmWizard::GoNext);
+    for (const LinkLabel *link :
+         {ui->lblLkWzType, ui->lblLkWzTitle, ui->lblLkWzColumn, ui->lblLkWzText})
+        connect(link, &LinkLabel::Followed, this, [this] { emit HelpAsked(questionHelp); });
+}
+
+/// The link lies over its words in the label.
+void frmWizard::PlaceTypeLink()
+{
+    const QString text = ui->lblWiz1_2->text();
+    const QString before = text.first(text.indexOf(ui->lblLkWzType->text()));
+    const int left = ui->lblWiz1_2->fontMetrics().horizontalAdvance(before);
+    ui->overQuestion->setContentsMargins(left, 0, 0, 0);
+}
+
+void frmWizard::CentreOnScreen()
+{
+    adjustSize();
+    const QScreen *on = parentWidget() ? parentWidget()->screen() : screen();
+    QRect shown = rect();
+    shown.moveCenter(on->availableGeometry().center());
+    move(shown.topLeft());
+}
+
+void frmWizard::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        PlaceTypeLink();
+}
+
+QWidget *frmWizard::Input() const
+{
+    QWidget *const inputs[] = {ui->lstWiz1_1, ui->cboWiz2_1, ui->txtWiz5_1, ui->txtWiz3_1,
+                               ui->items->List()};
+    return inputs[m_step - 1];
+}
+
+void frmWizard::ShowStep()
+{
+    setWindowTitle(u"Vellumo Designer Question Wizard- Step %1"_s.arg(m_step));
+    ShowPanel();
+    if (m_step == 3)
+        ProposeColumnName();
+    if (m_step == 5)
+        ShowItemsForType();
+    EnableButtons();
+}
+
+/// The focus moves before a button is disabled under it, which would send it to the next one.
+void frmWizard::ShowPanel()
+{
+    QWidget *const panels[] = {ui->PictWizard1, ui->PictWizard2, ui->PictWizard5, ui->PictWizard3,
+                               ui->PictWizard4};
+    ui->steps->setCurrentWidget(panels[m_step - 1]);
+    Input()->setFocus();
+}
+
+void frmWizard::ProposeColumnName()
+{
+    if (!TrimBlanks(ui->txtWiz5_1->text()).isEmpty())
+        return;
+    ui->txtWiz5_1->setText(ProposedColumnName(m_document.source()));
+    ui->txtWiz5_1->selectAll();
+}
+
+void frmWizard::ShowItemsForType()
+{
+    const QString type = Entered().type;
+    ui->items->SetType(type);
+    ui->lblWiz4_1->setText(type == "Pulldown List"_L1
+                               ? u"A pulldown list is made up of a collection of text items a user "
+                                 "can select from in the Vellsheet."_s
+                               : u"A set of checkboxes allows the user to mark off multiple "
+                                 "checkboxes as an answer to your question."_s);
+}
+
+void frmWizard::EnableButtons()
+{
+    const StepButtons buttons = ButtonsOf(m_step, Entered().type);
+    (buttons.next ? ui->cmdNav_3 : ui->cmdNav_4)->setDefault(true);
+    if (buttons.back)
+        ui->cmdNav_2->setEnabled(*buttons.back);
+    ui->cmdNav_3->setEnabled(buttons.next);
+    ui->cmdNav_4->setEnabled(buttons.finish);
+}
+
+void frmWizard::GoBack()
+{
+    --m_step;
+    ShowStep();
+}
+
+void frmWizard::GoNext()
+{
+    NewQuestion entered = Entered();
+    const QString objection = ObjectionToNext(m_step, entered, m_document.source());
+    ShowTrimmed(entered);
+    if (!objection.isEmpty()) {
+        ShowExclamation(this, objection);
+        if (m_step > 1)
+            Input()->setFocus();
+        return;
+    }
+    ++m_step;
+    ShowStep();
+}
+
+void frmWizard::Finish()
+{
+    NewQuestion entered = Entered();
+    const QString objection = ObjectionToFinish(m_step, entered);
+    ShowTrimmed(entered);
+    if (!objection.isEmpty()) {
+        ShowExclamation(this, objection);
+        if (m_step == 4)
+            Input()->setFocus();
+        return;
+    }
+    Append(entered);
+
+    const QString created = u"You have successfully created a question.\r\n"_s;
+    if (m_document.source().QuestionCount() >= mostQuestions) {
+        ShowExclamation(this, created + u"The maximum number of questions is 128.\r\n"
+                                        "You can't create more questions."_s);
+        accept();
+    } else if (AskYesNo(this, created + u"Would you like to create another one?"_s) == "Yes"_L1) {
+        StartAnother();
+    } else {
+        accept();
+    }
+}
+
+void frmWizard::Append(const NewQuestion &question)
+{
+    m_document.SetProjectChanged(true);
+    m_document.ChangeQuestions([&] { AppendQuestion(m_document.source(), question); });
+    Remember(question.title);
+}
+
+void frmWizard::Remember(const QString &title)
+{
+    QStringList offered;
+    for (int i = 0; i < ui->cboWiz2_1->count(); ++i)
+        offered += ui->cboWiz2_1->itemText(i);
+    RememberTitle(title, m_document.project().TitleList, offered);
+    ui->cboWiz2_1->addItems(offered.sliced(ui->cboWiz2_1->count()));
+}
+
+/// Empties what was entered, all but the type.
+void frmWizard::StartAnother()
+{
+    ui->cboWiz2_1->setCurrentIndex(-1);
+    ui->cboWiz2_1->clearEditText();
+    ui->txtWiz5_1->clear();
+    ui->txtWiz3_1->clear();
+    ui->items->SetItems({});
+    m_step = 1;
+    ShowStep();
+}
+
+NewQuestion frmWizard::Entered() const
+{
+    const QList<QListWidgetItem *> selected = ui->lstWiz1_1->selectedItems();
+    return {.type = selected.isEmpty() ? QString() : selected.first()->text(),
+            .title = ui->cboWiz2_1->currentText(),
+            .columnName = ui->txtWiz5_1->text(),
+            .question = TextOf(*ui->txtWiz3_1),
+            .items = ui->items->Items()};
+}
+
+void frmWizard::ShowTrimmed(const NewQuestion &entered)
+{
+    if (ui->txtWiz5_1->text() != entered.columnName)
+        ui->txtWiz5_1->setText(entered.columnName);
+    if (TextOf(*ui->txtWiz3_1) != entered.question)
+        ui->txtWiz3_1->setPlainText(entered.question);
+}
