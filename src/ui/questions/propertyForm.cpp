@@ -7,10 +7,12 @@
 #include "ui/common/prompts.h"
 #include "ui/questions/ui_propertyForm.h"
 
+#include <QFontMetricsF>
 #include <QListView>
 #include <QScreen>
 #include <QShowEvent>
 #include <QStyle>
+#include <QtMath>
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +22,7 @@ namespace {
 int HeightOf(int lines, const QPlainTextEdit &box)
 {
     const qreal margins = 2 * (box.document()->documentMargin() + box.frameWidth());
-    return lines * box.fontMetrics().lineSpacing() + qRound(margins);
+    return qCeil(lines * QFontMetricsF(box.font()).lineSpacing() + margins) + 1;
 }
 
 /// Offers the types. A type of another name, which a file may have brought, is one more to choose.
@@ -40,7 +42,7 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
 {
     ui->setupUi(this);
     ui->lblSelections->setBuddy(ui->items->List());
-    ui->txtQuestion->setMinimumHeight(HeightOf(3, *ui->txtQuestion));
+    ui->txtQuestion->setFixedHeight(HeightOf(3, *ui->txtQuestion));
     ui->items->Configure(propertyItemList, {.list = u"lstSelection"_s,
                                             .add = u"cmdNew"_s,
                                             .remove = u"cmdDelete"_s,

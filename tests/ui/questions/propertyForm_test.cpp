@@ -1,130 +1,18 @@
-#include "ui/questions/propertyForm.h"
+#include "ui/questions/property_form_fixture.h"
 
 #include "model/question_types.h"
-#include "support/print.h"
-#include "ui/common/project_document.h"
-#include "ui/support/prompt_script.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+using PropertyForm = PropertyFormTest;
+
 const QString pulldown = u"Pulldown List"_s;
-
-QStringList Numbered(int count)
-{
-    QStringList items;
-    for (int i = 0; i < count; ++i)
-        items += u"Item %1"_s.arg(i);
-    return items;
-}
-
-/// A project whose second question is open in the form: Kind, a pulldown list of a, b and c.
-class PropertyForm : public testing::Test
-{
-protected:
-    PropertyForm()
-    {
-        Append({.Order = 1, .Title = u"Old"_s, .Type = u"Text"_s, .ColumnName = u"Age"_s, .Id = 3},
-               {u"stray"_s});
-        Append({.Order = 2,
-                .Title = u"Kind"_s,
-                .Question = u"Which kind?"_s,
-                .Type = pulldown,
-                .ColumnName = u"Kind"_s,
-                .Id = 7},
-               {u"a"_s, u"b"_s, u"c"_s});
-    }
-
-    void Append(const QuestionRow &row, const QStringList &items)
-    {
-        Questions().Append(row);
-        for (const QString &item : items)
-            document.source().Items().Append({.Id = row.Id, .Item = item});
-    }
-
-    Table<QuestionRow> &Questions() { return document.source().Questions(); }
-    const QuestionRow &Row() { return Questions().Current(); }
-    QStringList StoredItems() { return ItemsOf(document.source(), Row().Id); }
-
-    void Open()
-    {
-        form = std::make_unique<propertyForm>(document);
-        form->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-    }
-
-    template <typename Control> Control *The(const char *name)
-    {
-        auto *control = form->findChild<Control *>(QString::fromLatin1(name));
-        EXPECT_NE(control, nullptr) << name;
-        return control;
-    }
-    QString Text(const char *name) { return The<QLineEdit>(name)->text(); }
-    void Enter(const char *name, const QString &text) { The<QLineEdit>(name)->setText(text); }
-    void Click(const char *name) { QTest::mouseClick(The<QPushButton>(name), Qt::LeftButton); }
-
-    QPlainTextEdit *Question() { return The<QPlainTextEdit>("txtQuestion"); }
-
-    /// Picks a type by the arrow keys.
-    void PickType(const QString &type)
-    {
-        auto *types = The<QComboBox>("cboType");
-        QTest::keyClick(types, Qt::Key_Home);
-        while (types->currentText() != type && types->currentIndex() + 1 < types->count())
-            QTest::keyClick(types, Qt::Key_Down);
-        EXPECT_EQ(types->currentText(), type);
-    }
-
-    QStringList ShownItems()
-    {
-        QStringList texts;
-        const QAbstractItemModel *model = The<QListView>("lstSelection")->model();
-        for (int row = 0; row < model->rowCount(); ++row)
-            texts += model->index(row, 0).data().toString();
-        return texts;
-    }
-
-    /// The one box that pressing OK shows.
-    QString Objections()
-    {
-        const PromptScript prompts({u"OK"_s});
-        Click("cmdOK");
-        EXPECT_EQ(prompts.boxes().size(), 1u);
-        if (prompts.boxes().empty())
-            return {};
-        EXPECT_EQ(prompts.boxes()[0].title, u"Vellumo Designer"_s);
-        EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Warning);
-        EXPECT_TRUE(form->isVisible());
-        EXPECT_FALSE(document.ProjectChanged());
-        return prompts.boxes()[0].text;
-    }
-
-    void ExpectAccepted()
-    {
-        const PromptScript prompts;
-        Click("cmdOK");
-        EXPECT_TRUE(prompts.boxes().empty());
-        EXPECT_FALSE(form->isVisible());
-        EXPECT_EQ(form->result(), QDialog::Accepted);
-        EXPECT_TRUE(document.ProjectChanged());
-    }
-
-    ProjectDocument document;
-    std::unique_ptr<propertyForm> form;
-};
 
 TEST_F(PropertyForm, ShowsTheCurrentQuestion)
 {
@@ -265,107 +153,11 @@ TEST_F(PropertyForm, TellsAllThatIsWrongInOneBox)
     EXPECT_EQ(StoredItems().size(), 3);
 }
 
-TEST_F(PropertyForm, RunsQuotesAndNoItemsTogether)
-{
-    Open();
-    Enter("txtColumnName", u"a\"b"_s);
-    {
-        const PromptScript prompts({u"Yes"_s});
-        Click("cmd_Clear");
-    }
-    EXPECT_EQ(Objections(), u"Double quotes are not allowed in Title and Column Name."
-                            u"Please enter at least one item."_s);
-    EXPECT_EQ(StoredItems().size(), 3);
-}
-
 TEST_F(PropertyForm, RefusesPastedLineBreaks)
 {
     Open();
     Question()->setPlainText(u"Which\nkind?"_s);
     EXPECT_EQ(Objections(), u"Carriage returns are not allowed in a question.\n"_s);
-}
-
-TEST_F(PropertyForm, HidesTheListForOtherTypes)
-{
-    Open();
-    const char *const controls[] = {"lblSelections", "lstSelection", "cmdNew",   "cmdDelete",
-                                    "cmdUp",         "cmdDown",      "cmd_sort", "cmd_Clear"};
-    const struct {
-        QString type;
-        bool list, names;
-    } rows[] = {{u"Notes"_s, false, false},
-                {u"Checkboxes"_s, true, false},
-                {u"Yes/No"_s, false, false},
-                {pulldown, true, true}};
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.type.toStdString());
-        PickType(row.type);
-        for (const char *name : controls)
-            EXPECT_EQ(The<QWidget>(name)->isVisible(), row.list) << name;
-        EXPECT_EQ(The<QWidget>("cmd_AddState")->isVisible(), row.names);
-        EXPECT_EQ(The<QWidget>("cmd_AddCountry")->isVisible(), row.names);
-        EXPECT_EQ(ShownItems().size(), row.list ? 3 : 0);
-    }
-}
-
-TEST_F(PropertyForm, ShowsTheStoredItemsAgainWhenATypeIsPicked)
-{
-    Open();
-    const PromptScript prompts({u"Yes"_s});
-    Click("cmd_Clear");
-    ASSERT_EQ(ShownItems(), QStringList());
-    auto *types = The<QComboBox>("cboType");
-    types->setFocus();
-    types->showPopup();
-    QTest::keyClick(types->view(), Qt::Key_Return); // the same type
-    EXPECT_EQ(ShownItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
-}
-
-TEST_F(PropertyForm, DropsTheItemsWithTheType)
-{
-    Open();
-    PickType(u"Text"_s);
-    ExpectAccepted();
-    EXPECT_EQ(Row().Type, u"Text"_s);
-    EXPECT_EQ(StoredItems(), QStringList());
-    EXPECT_EQ(document.source().Items().Count(), 1) << "the other question's";
-}
-
-TEST_F(PropertyForm, RefusesMoreBoxesThanThereMayBe)
-{
-    Append({.Order = 3, .Question = u"?"_s, .Type = pulldown, .ColumnName = u"c"_s, .Id = 9},
-           Numbered(40));
-    Open();
-    PickType(u"Checkboxes"_s);
-    EXPECT_EQ(ShownItems(), Numbered(40));
-    EXPECT_EQ(Objections(), u"Please keep the Check Box to 32 items or less."_s);
-}
-
-TEST_F(PropertyForm, StopsAskingForItemsAt255)
-{
-    Append({.Order = 3, .Question = u"?"_s, .Type = u"Checkboxes"_s, .ColumnName = u"c"_s, .Id = 9},
-           Numbered(254));
-    Open();
-    const PromptScript prompts({u"more"_s, u"OK"_s});
-    Click("cmdNew");
-    Click("cmdNew");
-    EXPECT_EQ(prompts.questions(), QStringList{u"Please add the item to the List."_s});
-    ASSERT_EQ(prompts.boxes().size(), 1u);
-    EXPECT_EQ(prompts.boxes()[0].text, u"Please keep the list to 255 items or less."_s);
-    EXPECT_EQ(ShownItems().size(), 255);
-}
-
-TEST_F(PropertyForm, SortsUpwardsFirstEachTimeItOpens)
-{
-    for (int i = 0; i < 2; ++i) {
-        Open();
-        Click("cmd_sort");
-        EXPECT_EQ(ShownItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
-        PickType(u"Checkboxes"_s);
-        Click("cmd_sort");
-        EXPECT_EQ(ShownItems(), (QStringList{u"c"_s, u"b"_s, u"a"_s}))
-            << "a new type keeps the turn";
-    }
 }
 
 TEST_F(PropertyForm, RefusesKeysInItsBoxes)
