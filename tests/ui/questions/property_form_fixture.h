@@ -51,6 +51,7 @@ protected:
     {
         form = std::make_unique<propertyForm>(document);
         form->show();
+        form->activateWindow(); // nobody else does where no window manager runs
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     }
 
