@@ -1,14 +1,14 @@
 #include "ui/common/screen_centre.h"
 
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
 
 void CentreOnScreen(QWidget &window)
 {
-    window.ensurePolished();
     if (!window.testAttribute(Qt::WA_Resized))
         window.adjustSize();
     const QRect screen = window.screen()->geometry();
-    window.resize(window.size().boundedTo(screen.size()));
-    window.move(screen.center() - window.rect().center());
+    window.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                           window.size().boundedTo(screen.size()), screen));
 }
