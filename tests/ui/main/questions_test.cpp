@@ -1,5 +1,6 @@
 #include "editing/question_list.h"
 #include "support/print.h"
+#include "ui/common/picture_box.h"
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
 
@@ -121,7 +122,7 @@ TEST(Questions, LeaveABlankPreviewAfterTheOnlyOne)
         EXPECT_EQ(questions.Caption(label), QString());
     EXPECT_FALSE(questions.Find<QWidget>("lstCheckBox")->isVisible());
     EXPECT_FALSE(questions.Find<QLabel>("lblTitle")->autoFillBackground());
-    EXPECT_TRUE(questions.Find<QLabel>("picPalm")->pixmap(Qt::ReturnByValue).isNull());
+    EXPECT_FALSE(questions.Find<PictureBox>("picPalm")->ShowsPicture());
     for (int column = 0; column < 5; ++column)
         EXPECT_GT(questions.Grid()->columnWidth(column), 20);
 }
@@ -235,7 +236,7 @@ TEST(QuestionPreview, ForgetsTheClickWithADuplicate)
 TEST(QuestionPreview, ShowsPictureTitleAndQuestion)
 {
     const Questions questions(1, 0, u"Notes"_s);
-    EXPECT_FALSE(questions.Find<QLabel>("picPalm")->pixmap(Qt::ReturnByValue).isNull());
+    EXPECT_TRUE(questions.Find<PictureBox>("picPalm")->ShowsPicture());
     EXPECT_TRUE(questions.Find<QLabel>("lblTitle")->autoFillBackground());
     EXPECT_EQ(questions.Caption("lblQuestion"), u"Question 1"_s);
     EXPECT_FALSE(questions.Find<QWidget>("lstCheckBox")->isVisible());
