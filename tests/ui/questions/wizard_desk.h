@@ -37,6 +37,7 @@ public:
     {
         m_wizard = std::make_unique<frmWizard>(document);
         m_wizard->show();
+        m_wizard->activateWindow(); // nobody else does where no window manager runs
         EXPECT_TRUE(QTest::qWaitForWindowActive(m_wizard.get()));
         return *m_wizard;
     }
