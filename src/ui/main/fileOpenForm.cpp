@@ -17,6 +17,7 @@ fileOpenForm::fileOpenForm(QString projectsFolder, std::function<void()> hideOpe
       m_hideOpenFormNextTime(std::move(hideOpenFormNextTime))
 {
     ui->setupUi(this);
+    ui->imgWelcome->SetPicture(Drawing::Welcome);
     ui->Option1_0->installEventFilter(this);
     ui->Option1_1->installEventFilter(this);
     CentreOnScreen(*this);

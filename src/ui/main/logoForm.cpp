@@ -17,6 +17,8 @@ logoForm::logoForm(const Environment &environment, Check check, std::chrono::mil
       m_timer(new QTimer(this))
 {
     ui->setupUi(this);
+    ui->imgSplash->SetPicture(Drawing::Splash);
+    ui->imgProgram->SetPicture(ProgramPicture);
     ui->lblVersion->setText("Version "_L1 + environment.version);
     ui->lblSite->setText(environment.siteAddress);
     CentreOnScreen(*this);

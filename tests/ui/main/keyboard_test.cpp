@@ -24,6 +24,7 @@ bool ItemsAreAsked()
 
 void TypeQuestion(Typist &typist, const Project &project, const QuestionRow &question)
 {
+    typist.Key(Qt::Key_End);
     typist.Key(Qt::Key_Home);
     for (size_t type = 0; question.Type != questionTypes[type]; ++type)
         typist.Key(Qt::Key_Down);
@@ -84,10 +85,12 @@ TEST(Keyboard, DesignsSavesAndCreatesAWholeInspection)
     typist.Key(Qt::Key_Return);
     typist.TabTo("cmdReviewForm");
     typist.Key(Qt::Key_Space);
-    typist.Key(Qt::Key_Return); // validated
+    typist.Await("that it is valid", BoxAsks);
+    typist.Key(Qt::Key_Return);
     typist.TabTo("cmdCreateForm");
     typist.Key(Qt::Key_Space);
-    typist.Key(Qt::Key_Return); // created
+    typist.Await("that it was created", BoxAsks);
+    typist.Key(Qt::Key_Return);
     ASSERT_TRUE(typist.Run());
 
     EXPECT_EQ(BytesOf(designer.projects + u"/SiteVisit.vmp"_s), BytesOf(example));

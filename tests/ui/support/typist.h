@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -30,53 +31,67 @@ public:
                     return;
                 QTest::keyClick(Focus(), Qt::Key_Tab);
             }
-            ADD_FAILURE() << "Tab never reaches " << name << " in "
-                          << QApplication::activeWindow()->windowTitle().toStdString();
-            m_steps.clear();
+            GiveUp(std::string("Tab never reaches ") + name);
         }});
     }
     /// Rests the hands until the screen shows something, for ten seconds at most.
     void Await(const char *what, std::function<bool()> shown)
     {
-        m_steps.push_back({[this, what, shown = std::move(shown)] {
-                               if (!QTest::qWaitFor(shown, 10'000)) {
-                                   ADD_FAILURE() << "never seen: " << what;
-                                   m_steps.clear();
-                               }
-                           },
-                           true});
+        m_steps.push_back({{}, std::move(shown), what});
     }
 
     /// Types it all; false when the dialogs did not close at its end.
     bool Run()
     {
-        bool typed = false;
-        Next(typed);
-        return QTest::qWaitFor([&] { return typed && !QApplication::activeModalWidget(); }, 60'000);
+        Next(0);
+        return QTest::qWaitFor([&] { return m_typed && !QApplication::activeModalWidget(); },
+                               60'000);
     }
 
 private:
+    /// Either an act, or something to wait for.
     struct Step {
         std::function<void()> act;
-        bool awaits = false; ///< what comes next is typed after it, not into what it opened
+        std::function<bool()> shown = {};
+        const char *what = "";
     };
 
-    /// The next key is due even while this one keeps a dialog open.
-    void Next(bool &typed)
+    /// The next step is due even while this one keeps a dialog open.
+    void Next(int milliseconds)
     {
-        QTimer::singleShot(0, [this, &typed] {
+        QTimer::singleShot(milliseconds, [this] {
             if (m_steps.empty()) {
-                typed = true;
+                m_typed = true;
                 return;
             }
+            Activate();
+            if (m_steps.front().shown)
+                return Wait(m_steps.front());
             const Step step = std::move(m_steps.front());
             m_steps.pop_front();
-            Activate();
-            if (step.awaits)
-                return step.act(), Next(typed);
-            Next(typed);
+            Next(0);
             step.act();
         });
+    }
+
+    void Wait(const Step &step)
+    {
+        if (!m_waited.isValid())
+            m_waited.start();
+        if (!step.shown() && m_waited.elapsed() < 10'000)
+            return Next(5);
+        if (m_waited.elapsed() >= 10'000)
+            return GiveUp(std::string("never seen: ") + step.what);
+        m_waited.invalidate();
+        m_steps.pop_front();
+        Next(0);
+    }
+
+    void GiveUp(const std::string &why)
+    {
+        ADD_FAILURE() << why << ", in "
+                      << QApplication::activeWindow()->windowTitle().toStdString();
+        m_steps.clear();
     }
 
     /// What a window manager does when a dialog comes or goes.
@@ -99,4 +114,6 @@ private:
     }
 
     std::deque<Step> m_steps;
+    QElapsedTimer m_waited;
+    bool m_typed = false;
 };
