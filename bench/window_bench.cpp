@@ -69,7 +69,9 @@ void Duplicate(benchmark::State &state)
 {
     Desk desk(state);
     for (auto _ : state) {
-        desk.document.ChangeQuestions([&] { return DuplicateQuestion(desk.document.source()); });
+        if (!desk.document.ChangeQuestions(
+                [&] { return DuplicateQuestion(desk.document.source()); }))
+            state.SkipWithError("not duplicated");
         desk.step.Refresh();
         QApplication::processEvents();
 

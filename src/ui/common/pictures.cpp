@@ -37,7 +37,6 @@ constexpr DrawingFile drawingFiles[] = {
     {Drawing::Help, "help"_L1},
     {Drawing::Splash, "splash"_L1},
     {Drawing::Welcome, "welcome"_L1},
-    {Drawing::Wizard, "wizard"_L1},
 };
 
 QString PathOf(QStringView name)

@@ -33,7 +33,6 @@ enum class Drawing {
     Help,
     Splash,  ///< 480 by 240, on a ground of its own
     Welcome, ///< 120 by 240, on a ground of its own
-    Wizard,  ///< 120 by 320, on a ground of its own
 };
 
 /// The drawing's place in the resources, also for window files; empty for any other number.

@@ -80,7 +80,6 @@ TEST(Pictures, AreDrawnInEverySize)
     }
     EXPECT_TRUE(IsDrawn(Picture(Drawing::Splash), {480, 240}, 1));
     EXPECT_TRUE(IsDrawn(Picture(Drawing::Welcome), {120, 240}, 1));
-    EXPECT_TRUE(IsDrawn(Picture(Drawing::Wizard), {120, 320}, 1));
 }
 
 TEST(Pictures, OfTheTypesDiffer)

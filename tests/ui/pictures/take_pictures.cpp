@@ -1,5 +1,11 @@
 // Takes the pictures of the windows that the documentation shows and that a person looks at:
 // take_pictures FOLDER [dark]. QT_SCALE_FACTOR sets the scale.
+#include "ui/common/prompts.h"
+#include "ui/main/fileOpenForm.h"
+#include "ui/main/logoForm.h"
+#include "ui/questions/frmWizard.h"
+#include "ui/questions/item_list_editor.h"
+#include "ui/questions/propertyForm.h"
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
 
@@ -45,6 +51,57 @@ void TakeSteps(const QString &folder)
     }
 }
 
+void TakeWizard(const QString &folder)
+{
+    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    frmWizard wizard(const_cast<ProjectDocument &>(designer.window.document()), nullptr);
+    wizard.show();
+    wizard.findChild<QListWidget *>(u"lstWiz1_1"_s)->setCurrentRow(2);
+    wizard.findChild<QPlainTextEdit *>(u"txtWiz3_1"_s)
+        ->setPlainText(u"Which species did you see first?"_s);
+    for (int step = 1; step <= 5; ++step) {
+        Keep(wizard, folder + u"/wizard-%1.png"_s.arg(step));
+        if (step == 4)
+            wizard.findChild<ItemListEditor *>()->SetItems({u"Heron"_s, u"Grebe"_s, u"Tern"_s});
+        wizard.findChild<QAbstractButton *>(u"cmdNav_3"_s)->click();
+    }
+}
+
+void TakeProperties(const QString &folder)
+{
+    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    auto &document = const_cast<ProjectDocument &>(designer.window.document());
+    for (const int row : {0, 2}) {
+        document.source().SetPosition(row);
+        propertyForm properties(document, nullptr);
+        properties.show();
+        Keep(properties, folder + u"/properties-%1.png"_s.arg(row));
+    }
+}
+
+void TakeStart(const QString &folder)
+{
+    Environment environment;
+    environment.siteAddress = u"https://vellumo.example"_s;
+    environment.version = u"1.1.2"_s;
+    logoForm splash(environment, [](QWidget *) {});
+    splash.show();
+    Keep(splash, folder + u"/splash.png"_s);
+    fileOpenForm chooser(folder, [] {});
+    chooser.show();
+    Keep(chooser, folder + u"/chooser.png"_s);
+}
+
+void TakeBoxes(const QString &folder)
+{
+    for (const QMessageBox::Icon icon : {QMessageBox::Warning, QMessageBox::Question}) {
+        QMessageBox box(icon, productName, u"Are you sure you want to delete this question?"_s,
+                        QMessageBox::Yes | QMessageBox::No);
+        box.show();
+        Keep(box, folder + u"/box-%1.png"_s.arg(icon));
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -54,6 +111,11 @@ int main(int argc, char *argv[])
     const QStringList arguments = QApplication::arguments();
     if (arguments.contains(u"dark"_s))
         QApplication::setPalette(DarkPalette());
-    TakeSteps(arguments.value(1, u"."_s));
+    const QString folder = arguments.value(1, u"."_s);
+    TakeSteps(folder);
+    TakeWizard(folder);
+    TakeProperties(folder);
+    TakeStart(folder);
+    TakeBoxes(folder);
     return 0;
 }

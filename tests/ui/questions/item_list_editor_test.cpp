@@ -48,8 +48,8 @@ TEST(ItemListEditor, NamesItsControlsAsItsWindowSays)
         } buttons[] = {
             {where.names.add, u"Add"_s, u"Add item"_s},
             {where.names.remove, u"Remove"_s, u"Remove item"_s},
-            {where.names.up, u"\u25b2"_s, u"Move item up"_s},
-            {where.names.down, u"\u25bc"_s, u"Move item down"_s},
+            {where.names.up, u""_s, u"Move item up"_s},
+            {where.names.down, u""_s, u"Move item down"_s},
             {u"cmd_AddState"_s, u"States"_s, u"Add states"_s},
             {u"cmd_AddCountry"_s, u"Countries"_s, u"Add countries"_s},
             {u"cmd_Clear"_s, u"Clear"_s, u"Clear items"_s},
@@ -59,6 +59,9 @@ TEST(ItemListEditor, NamesItsControlsAsItsWindowSays)
             EXPECT_EQ(desk.Button(button.name)->text(), button.caption);
             EXPECT_EQ(desk.Button(button.name)->toolTip(), button.toolTip);
         }
+        for (const QString &name :
+             {where.names.add, where.names.remove, where.names.up, where.names.down})
+            EXPECT_FALSE(desk.Button(name)->icon().isNull());
         EXPECT_EQ(desk.Button(where.names.up)->accessibleName(), u"Move item up"_s);
         EXPECT_EQ(desk.Button(where.names.down)->accessibleName(), u"Move item down"_s);
     }
