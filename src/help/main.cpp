@@ -1,0 +1,11 @@
+#include "help/make_help.h"
+
+#include <QCoreApplication>
+
+#include <iostream>
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    return MakeHelp(application.arguments().sliced(1), std::cerr);
+}

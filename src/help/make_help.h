@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QStringList>
+
+#include <iosfwd>
+
+/// Writes a help file: OUTPUT FOLDER NAME..., the names of the files below the folder. Gives the
+/// exit status: 0 = written, 1 = not, with the reason on err.
+int MakeHelp(const QStringList &arguments, std::ostream &err);
