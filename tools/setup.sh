@@ -35,5 +35,5 @@ quietly() {
     rm -f "$log"
 }
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6)
+build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libchm-dev)
 test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl p7zip-full time)

@@ -1,6 +1,7 @@
 #include "help/make_help.h"
 
 #include "help/help_compiler.h"
+#include "help/link_check.h"
 
 #include <QFile>
 #include <QSaveFile>
@@ -38,6 +39,8 @@ Outcome Make(const QStringList &arguments)
     const auto source = ReadSource(arguments[1], arguments.sliced(2));
     if (!source)
         return source.error();
+    if (const QStringList broken = FindBrokenLinks(source->files); !broken.isEmpty())
+        return Error{u"These links lead nowhere:\n"_s + broken.join(u'\n')};
     const auto help = CompileHelp(*source);
     if (!help)
         return help.error();

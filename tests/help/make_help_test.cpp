@@ -58,6 +58,12 @@ TEST(MakeHelp, SaysWhatStoodInTheWay)
     EXPECT_TRUE(refusal(QStringList{output, folder.path(), u"gone.html"_s}).contains(u"gone.html"));
     names.removeAll(u"wizard.html"_s);
     EXPECT_TRUE(refusal(QStringList{output, folder.path()} + names).contains(u"wizard.html"_s));
+    EXPECT_TRUE(WriteBytes(folder.filePath(u"a.html"_s),
+                           R"(<a href="name.html">1</a> <a href="name.html#no">2</a>)"
+                           R"(<img src="no.png"> <a href="https://vellumo.example">3</a>)"));
+    const QString broken = refusal(QStringList{output, folder.path(), u"a.html"_s} + names);
+    EXPECT_TRUE(broken.contains(u"a.html: name.html#no\na.html: no.png\n"_s))
+        << broken.toStdString();
     EXPECT_FALSE(QFile::exists(output));
     const QString nowhere = folder.filePath(u"none/Help.chm"_s);
     EXPECT_TRUE(refusal(QStringList{nowhere, folder.path()} + WritePages(folder.path()))

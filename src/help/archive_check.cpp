@@ -1,0 +1,178 @@
+#include "help/archive_check.h"
+
+#include "help/archive_format.h"
+#include "help/little_endian.h"
+
+#include <QIODevice>
+
+#include <optional>
+#include <vector>
+
+using namespace archive;
+
+namespace {
+
+constexpr qint64 longestName = 512;
+constexpr quint32 smallestChunk = 64;
+constexpr quint32 largestChunk = 0x10000;
+constexpr qint64 largestDirectory = 64 << 20;
+constexpr int deepestIndex = 8;
+
+/// Exactly so many bytes of the file, or none.
+std::optional<QByteArray> BytesAt(QIODevice &file, quint64 offset, qint64 count)
+{
+    if (offset > quint64(file.size()) || !file.seek(qint64(offset)))
+        return std::nullopt;
+    QByteArray bytes = file.read(count);
+    return bytes.size() == count ? std::optional(bytes) : std::nullopt;
+}
+
+/// The entries of a chunk, read one number after the other.
+class EntryReader
+{
+public:
+    explicit EntryReader(QByteArrayView entries) : m_rest(entries) {}
+
+    bool AtEnd() const { return m_rest.isEmpty(); }
+
+    bool SkipName()
+    {
+        const auto length = Number();
+        if (!length || *length > quint64(longestName) || *length > quint64(m_rest.size()))
+            return false;
+        m_rest = m_rest.sliced(qsizetype(*length));
+        return true;
+    }
+
+    /// Of at most nine groups of seven bits, so that it cannot overflow.
+    std::optional<quint64> Number()
+    {
+        quint64 number = 0;
+        for (qsizetype i = 0; i < std::min<qsizetype>(9, m_rest.size()); ++i) {
+            const auto group = static_cast<unsigned char>(m_rest[i]);
+            number = number << 7 | (group & 0x7F);
+            if (group < 0x80) {
+                m_rest = m_rest.sliced(i + 1);
+                return number;
+            }
+        }
+        return std::nullopt;
+    }
+
+private:
+    QByteArrayView m_rest;
+};
+
+class DirectoryCheck
+{
+public:
+    explicit DirectoryCheck(QIODevice &file) : m_file(file) {}
+
+    bool Passes() { return ReadHeader() && ReadDirectoryHeader() && CheckChunk(m_root, 1); }
+
+private:
+    bool ReadHeader()
+    {
+        const auto header = BytesAt(m_file, 0, headerSize);
+        if (!header || !header->startsWith(headerTag))
+            return false;
+        const auto version = LittleAt<quint32>(*header, 4);
+        m_directory = LittleAt<quint64>(*header, 0x48);
+        m_directoryLength = LittleAt<quint64>(*header, 0x50);
+        m_content =
+            version == 2 ? m_directory + m_directoryLength : LittleAt<quint64>(*header, 0x58);
+        const auto size = quint64(m_file.size());
+        return (version == 2 || version == 3) && m_directory <= size &&
+               m_directoryLength <= size - m_directory && m_content <= size &&
+               m_directoryLength >= quint64(directoryHeaderSize) &&
+               m_directoryLength <= quint64(largestDirectory);
+    }
+
+    bool ReadDirectoryHeader()
+    {
+        const auto header = BytesAt(m_file, m_directory, directoryHeaderSize);
+        if (!header || !header->startsWith(directoryTag))
+            return false;
+        m_chunkSize = LittleAt<quint32>(*header, 0x10);
+        m_root = LittleAt<qint32>(*header, 0x1C);
+        if (m_root < 0)
+            m_root = LittleAt<qint32>(*header, 0x20);
+        if (LittleAt<quint32>(*header, 8) != directoryHeaderSize || m_chunkSize < smallestChunk ||
+            m_chunkSize > largestChunk)
+            return false;
+        m_seen.resize((m_directoryLength - directoryHeaderSize) / m_chunkSize);
+        return true;
+    }
+
+    bool CheckChunk(qint64 number, int depth)
+    {
+        if (number < 0 || number >= qint64(m_seen.size()) || m_seen[std::size_t(number)] ||
+            depth > deepestIndex)
+            return false;
+        m_seen[std::size_t(number)] = true;
+        const quint64 offset = m_directory + directoryHeaderSize + quint64(number) * m_chunkSize;
+        const auto chunk = BytesAt(m_file, offset, m_chunkSize);
+        if (!chunk)
+            return false;
+        if (chunk->startsWith(listingTag))
+            return CheckListing(*chunk);
+        return chunk->startsWith(indexTag) && CheckIndex(*chunk, depth);
+    }
+
+    /// What stands between the chunk's header and its free bytes.
+    static std::optional<EntryReader> EntriesOf(QByteArrayView chunk, qsizetype header)
+    {
+        const quint32 free = LittleAt<quint32>(chunk, 4);
+        if (free > quint64(chunk.size() - header))
+            return std::nullopt;
+        return EntryReader(chunk.sliced(header, chunk.size() - header - free));
+    }
+
+    bool CheckListing(QByteArrayView chunk)
+    {
+        auto entries = EntriesOf(chunk, listingHeaderSize);
+        while (entries && !entries->AtEnd()) {
+            if (!entries->SkipName())
+                return false;
+            const auto section = entries->Number(), offset = entries->Number(),
+                       length = entries->Number();
+            if (!length || *section > 1 || (*section == 0 && !IsWithinFile(*offset, *length)))
+                return false;
+        }
+        return entries.has_value();
+    }
+
+    bool IsWithinFile(quint64 offset, quint64 length) const
+    {
+        const quint64 room = quint64(m_file.size()) - m_content;
+        return offset <= room && length <= room - offset;
+    }
+
+    bool CheckIndex(QByteArrayView chunk, int depth)
+    {
+        auto entries = EntriesOf(chunk, indexHeaderSize);
+        while (entries && !entries->AtEnd()) {
+            if (!entries->SkipName())
+                return false;
+            const auto below = entries->Number();
+            if (!below || *below >= m_seen.size() || !CheckChunk(qint64(*below), depth + 1))
+                return false;
+        }
+        return entries.has_value();
+    }
+
+    QIODevice &m_file;
+    quint64 m_directory = 0;
+    quint64 m_directoryLength = 0;
+    quint64 m_content = 0;
+    quint32 m_chunkSize = 0;
+    qint64 m_root = 0;
+    std::vector<bool> m_seen;
+};
+
+} // namespace
+
+bool IsSoundArchive(QIODevice &file)
+{
+    return DirectoryCheck(file).Passes();
+}

@@ -1,0 +1,162 @@
+#include "help/help_file.h"
+
+#include "help/archive_check.h"
+#include "help/html_text.h"
+#include "help/little_endian.h"
+
+#include <QFile>
+
+#include <chm_lib.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint64 largestObject = 16 << 20;
+
+/// What the file says of itself, by the number of the item.
+enum SystemItem : quint16 { contentsItem = 0, defaultPageItem = 2, titleItem = 3 };
+
+/// The text up to a zero byte or the end of the bytes.
+QString ZeroEndedAt(const QByteArray &bytes, quint64 offset)
+{
+    if (offset >= quint64(bytes.size()))
+        return {};
+    const QByteArray rest = bytes.sliced(qsizetype(offset));
+    return DecodeHtml(rest.first(qstrnlen(rest.data(), size_t(rest.size()))));
+}
+
+std::map<quint16, QString> SystemItems(const QByteArray &bytes)
+{
+    constexpr qsizetype versionSize = 4, itemHeaderSize = 4;
+    std::map<quint16, QString> items;
+    for (qsizetype at = versionSize; at + itemHeaderSize <= bytes.size();) {
+        const auto code = LittleAt<quint16>(bytes, at), length = LittleAt<quint16>(bytes, at + 2);
+        at += itemHeaderSize;
+        items.emplace(code,
+                      ZeroEndedAt(bytes.first(std::min(bytes.size(), at + length)), quint64(at)));
+        at += length;
+    }
+    return items;
+}
+
+Error Damaged(const QString &path)
+{
+    return {u"This is not a help file, or it is damaged."_s, path};
+}
+
+} // namespace
+
+void HelpFile::Closer::operator()(chmFile *file) const
+{
+    chm_close(file);
+}
+
+HelpFile::HelpFile(QString path, chmFile *file) : m_path(std::move(path)), m_file(file) {}
+
+Result<HelpFile> HelpFile::Open(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error{file.errorString(), path};
+    if (!IsSoundArchive(file))
+        return Damaged(path);
+
+    HelpFile help(path, chm_open(QFile::encodeName(path).constData()));
+    if (!help.m_file)
+        return Damaged(path);
+    help.ReadSystem();
+    help.ReadTopics();
+    if (help.m_defaultPage.isEmpty())
+        return Damaged(path);
+    return help;
+}
+
+QString HelpFile::PageOf(quint32 context) const
+{
+    const auto found = m_topics.find(context);
+    return found == m_topics.end() ? m_defaultPage : found->second;
+}
+
+Result<QByteArray> HelpFile::Object(const QString &name) const
+{
+    chmUnitInfo unit;
+    const QByteArray full = '/' + name.toUtf8();
+    if (chm_resolve_object(m_file.get(), full.constData(), &unit) != CHM_RESOLVE_SUCCESS)
+        return Error{u"The help has no page %1."_s.arg(name), m_path};
+    if (unit.length > largestObject)
+        return Error{u"The page %1 is too large."_s.arg(name), m_path};
+    QByteArray bytes(qsizetype(unit.length), '\0');
+    const LONGINT64 read = chm_retrieve_object(
+        m_file.get(), &unit, reinterpret_cast<unsigned char *>(bytes.data()), 0, bytes.size());
+    if (read != bytes.size())
+        return Error{u"The page %1 is damaged."_s.arg(name), m_path};
+    return bytes;
+}
+
+QString HelpFile::TitleOf(const QString &page) const
+{
+    const auto bytes = Object(page);
+    const QString title = bytes ? ::TitleOf(DecodeHtml(*bytes)) : QString();
+    return title.isEmpty() ? page : title;
+}
+
+bool HelpFile::Exists(const QString &name) const
+{
+    chmUnitInfo unit;
+    return !name.isEmpty() && !name.endsWith(u'/') &&
+           chm_resolve_object(m_file.get(), ('/' + name.toUtf8()).constData(), &unit) ==
+               CHM_RESOLVE_SUCCESS;
+}
+
+/// The page that a stored path means; empty where there is none. Some compilers put the folder in
+/// which they ran in front of it, so leading folders are dropped until the page exists.
+QString HelpFile::Locate(QString stored) const
+{
+    stored.replace(u'\\', u'/');
+    const qsizetype anchor = stored.indexOf(u'#');
+    const QString suffix = anchor < 0 ? QString() : stored.sliced(anchor);
+    for (QString name = stored.first(stored.size() - suffix.size()); !name.isEmpty();) {
+        if (Exists(name))
+            return name + suffix;
+        const qsizetype slash = name.indexOf(u'/');
+        name = slash < 0 ? QString() : name.sliced(slash + 1);
+    }
+    return {};
+}
+
+/// The bytes of an object that the viewer keeps for itself; empty where there is none.
+QByteArray HelpFile::Internal(const QString &name) const
+{
+    const auto bytes = Object(name);
+    return bytes ? *bytes : QByteArray();
+}
+
+void HelpFile::ReadSystem()
+{
+    auto items = SystemItems(Internal(u"#SYSTEM"_s));
+    m_title = items[titleItem];
+    ReadContentsFile(items[contentsItem]);
+    m_defaultPage = Locate(items[defaultPageItem]);
+    for (const ContentsEntry &entry : m_contents)
+        if (m_defaultPage.isEmpty())
+            m_defaultPage = entry.page;
+}
+
+/// Pairs of a number and an offset into the texts, behind the length of all pairs.
+void HelpFile::ReadTopics()
+{
+    const QByteArray pairs = Internal(u"#IVB"_s), texts = Internal(u"#STRINGS"_s);
+    for (qsizetype at = 4; at + 8 <= pairs.size(); at += 8) {
+        const QString page = Locate(ZeroEndedAt(texts, LittleAt<quint32>(pairs, at + 4)));
+        if (!page.isEmpty())
+            m_topics.emplace(LittleAt<quint32>(pairs, at), page);
+    }
+}
+
+void HelpFile::ReadContentsFile(const QString &name)
+{
+    m_contents = ReadContents(DecodeHtml(Internal(Locate(name))));
+    for (ContentsEntry &entry : m_contents)
+        entry.page = Locate(entry.page);
+}

@@ -1,0 +1,119 @@
+#include "help/archive_writer.h"
+#include "help/help_compiler.h"
+#include "help/help_file.h"
+#include "support/files.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr HelpTopic topics[] = {{1, QLatin1StringView("page1.html")},
+                                {2, QLatin1StringView("page2.html")}};
+
+/// A help file with so many pages that its directory has an index.
+QByteArray LargeHelp()
+{
+    HelpSource source{u"Large"_s, u"page0.html"_s, u"toc.hhc"_s, topics, {}};
+    source.files[u"toc.hhc"_s] = R"(<UL><OBJECT type="text/sitemap">)"
+                                 R"(<param name="Name" value="A"></OBJECT></UL>)";
+    for (int i = 0; i < 300; ++i)
+        source.files[u"page%1.html"_s.arg(i)] = "<title>Page</title>";
+    const auto help = CompileHelp(source);
+    return help ? *help : QByteArray();
+}
+
+/// Reads everything that a viewer would ask of a help file; gives whether it opened.
+bool ReadAll(const QString &path)
+{
+    const auto help = HelpFile::Open(path);
+    if (!help)
+        return false;
+    for (quint32 context = 0; context < 4; ++context) {
+        const QString page = help->PageOf(context);
+        EXPECT_FALSE(page.isEmpty());
+        EXPECT_FALSE(help->TitleOf(page).isEmpty());
+        const auto bytes = help->Object(page);
+        EXPECT_TRUE(!bytes || bytes->size() <= 16 << 20);
+    }
+    return true;
+}
+
+TEST(DamagedHelp, IsRefusedWhereverItWasCutOff)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x.chm"_s);
+    const QByteArray whole = LargeHelp();
+    ASSERT_TRUE(WriteBytes(path, whole));
+    ASSERT_TRUE(ReadAll(path));
+
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    for (qsizetype size = whole.size() - 1; size >= 0; --size) {
+        ASSERT_TRUE(file.resize(size));
+        ASSERT_FALSE(ReadAll(path)) << size;
+    }
+}
+
+TEST(DamagedHelp, NeverLeadsTheReaderAstray)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x.chm"_s);
+    const QByteArray whole = LargeHelp();
+    std::mt19937 random(20260119);
+    int refused = 0;
+    constexpr int runs = 6000;
+    for (int run = 0; run < runs; ++run) {
+        QByteArray damaged = whole;
+        for (unsigned flips = 1 + random() % 4; flips > 0; --flips) {
+            // Every other run damages only the headers and what begins the directory.
+            const auto part = run % 2 ? quint32(0x100) : quint32(damaged.size());
+            damaged[qsizetype(random() % part)] = char(random());
+        }
+        ASSERT_TRUE(WriteBytes(path, damaged));
+        refused += !ReadAll(path);
+    }
+    EXPECT_GT(refused, runs / 10);
+    EXPECT_LT(refused, runs);
+}
+
+TEST(DamagedHelp, MayNotGoRoundInItsIndex)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x.chm"_s);
+    QByteArray help = LargeHelp();
+    const qsizetype index = help.indexOf("PMGI");
+    ASSERT_GT(index, 0);
+    const qsizetype firstName = help.at(index + 8);
+    const qsizetype chunks = (index - 0xCC) / 0x1000;
+    help[index + 9 + firstName] = char(chunks); // the index itself
+    ASSERT_TRUE(WriteBytes(path, help));
+    EXPECT_FALSE(ReadAll(path));
+}
+
+TEST(DamagedHelp, MayHaveNoPageBeyondTheBound)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x.chm"_s);
+    const QByteArray system = QByteArray("\x03\0\0\0\x02\0\x07\0", 8) + "a.html" + '\0';
+    std::map<QByteArray, QByteArray> objects{{"/#SYSTEM", system}, {"/a.html", ""}};
+    objects["/a.html"] = QByteArray(16 << 20, ' ');
+    ASSERT_TRUE(WriteBytes(path, WriteArchive(objects)));
+    const auto largest = HelpFile::Open(path);
+    ASSERT_TRUE(largest);
+    EXPECT_TRUE(largest->Object(u"a.html"_s));
+
+    objects["/a.html"] += ' ';
+    ASSERT_TRUE(WriteBytes(path, WriteArchive(objects)));
+    const auto over = HelpFile::Open(path);
+    ASSERT_TRUE(over);
+    const auto page = over->Object(u"a.html"_s);
+    ASSERT_FALSE(page);
+    EXPECT_EQ(page.error().text, u"The page a.html is too large."_s);
+}
+
+} // namespace

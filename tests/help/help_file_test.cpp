@@ -1,0 +1,119 @@
+#include "help/help_file.h"
+
+#include "help/archive_writer.h"
+#include "help/help_compiler.h"
+#include "support/files.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr HelpTopic topics[] = {{1, QLatin1StringView("a.html")},
+                                {7, QLatin1StringView("b/c.html")}};
+constexpr char contents[] = R"(<UL><LI><OBJECT type="text/sitemap"><param name="Name" value="A">)"
+                            R"(<param name="Local" value="a.html"></OBJECT></UL>)";
+
+QByteArray SmallHelp()
+{
+    const auto help = CompileHelp({u"Small"_s,
+                                   u"a.html"_s,
+                                   u"toc.hhc"_s,
+                                   topics,
+                                   {{u"a.html"_s, "<title>The A</title>"},
+                                    {u"b/c.html"_s, "<title>The C</title>"},
+                                    {u"b/untitled.html"_s, "none"},
+                                    {u"toc.hhc"_s, contents}}});
+    return help ? *help : QByteArray();
+}
+
+/// Opens help files from one temporary place.
+struct Reader {
+    Result<HelpFile> Open(const QByteArray &bytes) const
+    {
+        EXPECT_TRUE(WriteBytes(path, bytes));
+        return HelpFile::Open(path);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"x.chm"_s);
+};
+
+TEST(HelpFile, FindsWhatTheCompilerWrote)
+{
+    const Reader reader;
+    const auto help = reader.Open(SmallHelp());
+    ASSERT_TRUE(help) << Describe(help.error()).toStdString();
+    EXPECT_EQ(help->Title(), u"Small"_s);
+    EXPECT_EQ(help->DefaultPage(), u"a.html"_s);
+    EXPECT_EQ(help->PageOf(1), u"a.html"_s);
+    EXPECT_EQ(help->PageOf(7), u"b/c.html"_s);
+    EXPECT_EQ(help->PageOf(2), u"a.html"_s) << "a number that it does not know";
+    EXPECT_EQ(help->TitleOf(u"b/c.html"_s), u"The C"_s);
+    EXPECT_EQ(help->TitleOf(u"b/untitled.html"_s), u"b/untitled.html"_s);
+
+    const auto page = help->Object(u"b/untitled.html"_s);
+    ASSERT_TRUE(page);
+    EXPECT_EQ(*page, "none");
+    ASSERT_EQ(help->Contents().size(), 1u);
+    EXPECT_EQ(help->Contents()[0].title, u"A"_s);
+    EXPECT_EQ(help->Contents()[0].page, u"a.html"_s);
+}
+
+TEST(HelpFile, HasAnErrorForWhatIsNotThere)
+{
+    const Reader reader;
+    const auto absent = HelpFile::Open(reader.path);
+    ASSERT_FALSE(absent);
+    EXPECT_EQ(absent.error().text, u"No such file or directory"_s);
+    EXPECT_EQ(absent.error().file, reader.path);
+    EXPECT_FALSE(HelpFile::Open(reader.folder.path()));
+
+    const auto help = reader.Open(SmallHelp());
+    ASSERT_TRUE(help);
+    const auto page = help->Object(u"gone.html"_s);
+    ASSERT_FALSE(page);
+    EXPECT_EQ(page.error().text, u"The help has no page gone.html."_s);
+}
+
+/// Objects of a help file as another compiler might write them: stored paths with folders before.
+std::map<QByteArray, QByteArray> ForeignObjects()
+{
+    const QByteArray page = "/home/someone/build/Sub\\c.html";
+    const QByteArray system = QByteArray("\x03\0\0\0", 4) + QByteArray("\x02\0\x0F\0", 4) +
+                              "C:\\old\\start.hm" + QByteArray("\x00\0\x08\0", 4) + "toc.hhc" +
+                              '\0';
+    return {{"/Sub/c.html", "<title>C</title>"},
+            {"/toc.hhc", R"(<UL><OBJECT type="text/sitemap"><param name="Name" value="C">)"
+                         R"(<param name="Local" value="x/Sub/c.html#part"></OBJECT>)"},
+            {"/#SYSTEM", system},
+            {"/#STRINGS", '\0' + page + '\0'},
+            {"/#IVB", QByteArray("\x10\0\0\0\x05\0\0\0\x01\0\0\0\x06\0\0\0\xFF\xFF\0\0", 20)}};
+}
+
+TEST(HelpFile, DropsLeadingFoldersOfStoredPaths)
+{
+    const Reader reader;
+    const auto help = reader.Open(WriteArchive(ForeignObjects()));
+    ASSERT_TRUE(help) << Describe(help.error()).toStdString();
+    EXPECT_EQ(help->PageOf(5), u"Sub/c.html"_s);
+    ASSERT_EQ(help->Contents().size(), 1u);
+    EXPECT_EQ(help->Contents()[0].page, u"Sub/c.html#part"_s);
+}
+
+TEST(HelpFile, BeginsWithTheContentsWhereTheDefaultPageIsGone)
+{
+    const Reader reader;
+    const auto help = reader.Open(WriteArchive(ForeignObjects()));
+    ASSERT_TRUE(help);
+    EXPECT_EQ(help->DefaultPage(), u"Sub/c.html#part"_s);
+    EXPECT_EQ(help->PageOf(6), u"Sub/c.html#part"_s) << "its text lies beyond the texts";
+
+    auto objects = ForeignObjects();
+    objects.erase("/toc.hhc");
+    EXPECT_FALSE(reader.Open(WriteArchive(objects))) << "no page to begin with";
+}
+
+} // namespace
