@@ -1,6 +1,7 @@
 #include "help/archive_check.h"
 
 #include "help/archive_format.h"
+#include "help/compression_check.h"
 #include "help/little_endian.h"
 
 #include <QIODevice>
@@ -17,6 +18,12 @@ constexpr quint32 smallestChunk = 64;
 constexpr quint32 largestChunk = 0x10000;
 constexpr qint64 largestDirectory = 64 << 20;
 constexpr int deepestIndex = 8;
+
+// The objects that steer the decompression.
+constexpr QByteArrayView controlDataName = "::DataSpace/Storage/MSCompressed/ControlData";
+constexpr QByteArrayView resetTableName =
+    "::DataSpace/Storage/MSCompressed/Transform/{7FC28940-9D31-11D0-9B27-00A0C91E9C7C}"
+    "/InstanceData/ResetTable";
 
 /// Exactly so many bytes of the file, or none.
 std::optional<QByteArray> BytesAt(QIODevice &file, quint64 offset, qint64 count)
@@ -35,13 +42,14 @@ public:
 
     bool AtEnd() const { return m_rest.isEmpty(); }
 
-    bool SkipName()
+    std::optional<QByteArrayView> Name()
     {
         const auto length = Number();
         if (!length || *length > quint64(longestName) || *length > quint64(m_rest.size()))
-            return false;
-        m_rest = m_rest.sliced(qsizetype(*length));
-        return true;
+            return std::nullopt;
+        const QByteArrayView name = m_rest.first(qsizetype(*length));
+        m_rest = m_rest.sliced(name.size());
+        return name;
     }
 
     /// Of at most nine groups of seven bits, so that it cannot overflow.
@@ -68,7 +76,11 @@ class DirectoryCheck
 public:
     explicit DirectoryCheck(QIODevice &file) : m_file(file) {}
 
-    bool Passes() { return ReadHeader() && ReadDirectoryHeader() && CheckChunk(m_root, 1); }
+    bool Passes()
+    {
+        return ReadHeader() && ReadDirectoryHeader() && CheckChunk(m_root, 1) &&
+               IsSoundCompression(m_controlData, m_resetTable);
+    }
 
 private:
     bool ReadHeader()
@@ -132,11 +144,12 @@ private:
     {
         auto entries = EntriesOf(chunk, listingHeaderSize);
         while (entries && !entries->AtEnd()) {
-            if (!entries->SkipName())
-                return false;
+            const auto name = entries->Name();
             const auto section = entries->Number(), offset = entries->Number(),
                        length = entries->Number();
-            if (!length || *section > 1 || (*section == 0 && !IsWithinFile(*offset, *length)))
+            if (!name || !length || *section > 1)
+                return false;
+            if (*section == 0 && !(IsWithinFile(*offset, *length) && Keep(*name, *offset, *length)))
                 return false;
         }
         return entries.has_value();
@@ -148,14 +161,30 @@ private:
         return offset <= room && length <= room - offset;
     }
 
+    /// Keeps what steers the decompression; there may be only one of each.
+    bool Keep(QByteArrayView name, quint64 offset, quint64 length)
+    {
+        constexpr qint64 enough = 64;
+        QByteArray *kept = name.compare(controlDataName, Qt::CaseInsensitive) == 0  ? &m_controlData
+                           : name.compare(resetTableName, Qt::CaseInsensitive) == 0 ? &m_resetTable
+                                                                                    : nullptr;
+        if (!kept)
+            return true;
+        const auto bytes = BytesAt(m_file, m_content + offset, std::min(enough, qint64(length)));
+        if (!kept->isEmpty() || !bytes || bytes->isEmpty())
+            return false;
+        *kept = *bytes;
+        return true;
+    }
+
     bool CheckIndex(QByteArrayView chunk, int depth)
     {
         auto entries = EntriesOf(chunk, indexHeaderSize);
         while (entries && !entries->AtEnd()) {
-            if (!entries->SkipName())
-                return false;
+            const auto name = entries->Name();
             const auto below = entries->Number();
-            if (!below || *below >= m_seen.size() || !CheckChunk(qint64(*below), depth + 1))
+            if (!name || !below || *below >= m_seen.size() ||
+                !CheckChunk(qint64(*below), depth + 1))
                 return false;
         }
         return entries.has_value();
@@ -168,6 +197,8 @@ private:
     quint32 m_chunkSize = 0;
     qint64 m_root = 0;
     std::vector<bool> m_seen;
+    QByteArray m_controlData;
+    QByteArray m_resetTable;
 };
 
 } // namespace

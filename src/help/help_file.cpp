@@ -8,6 +8,8 @@
 
 #include <chm_lib.h>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -43,6 +45,20 @@ std::map<quint16, QString> SystemItems(const QByteArray &bytes)
 Error Damaged(const QString &path)
 {
     return {u"This is not a help file, or it is damaged."_s, path};
+}
+
+bool Find(chmFile *file, const QByteArray &fullName, chmUnitInfo &unit)
+{
+    return chm_resolve_object(file, fullName.constData(), &unit) == CHM_RESOLVE_SUCCESS;
+}
+
+/// All bytes of an object that is not too large, or none of them.
+std::optional<QByteArray> Read(chmFile *file, chmUnitInfo &unit)
+{
+    QByteArray bytes(qsizetype(unit.length), '\0');
+    const LONGINT64 read = chm_retrieve_object(
+        file, &unit, reinterpret_cast<unsigned char *>(bytes.data()), 0, bytes.size());
+    return read == bytes.size() ? std::optional(bytes) : std::nullopt;
 }
 
 } // namespace
@@ -81,17 +97,14 @@ QString HelpFile::PageOf(quint32 context) const
 Result<QByteArray> HelpFile::Object(const QString &name) const
 {
     chmUnitInfo unit;
-    const QByteArray full = '/' + name.toUtf8();
-    if (chm_resolve_object(m_file.get(), full.constData(), &unit) != CHM_RESOLVE_SUCCESS)
+    if (!Find(m_file.get(), '/' + name.toUtf8(), unit))
         return Error{u"The help has no page %1."_s.arg(name), m_path};
     if (unit.length > largestObject)
         return Error{u"The page %1 is too large."_s.arg(name), m_path};
-    QByteArray bytes(qsizetype(unit.length), '\0');
-    const LONGINT64 read = chm_retrieve_object(
-        m_file.get(), &unit, reinterpret_cast<unsigned char *>(bytes.data()), 0, bytes.size());
-    if (read != bytes.size())
+    const auto bytes = Read(m_file.get(), unit);
+    if (!bytes)
         return Error{u"The page %1 is damaged."_s.arg(name), m_path};
-    return bytes;
+    return *bytes;
 }
 
 QString HelpFile::TitleOf(const QString &page) const
@@ -104,9 +117,7 @@ QString HelpFile::TitleOf(const QString &page) const
 bool HelpFile::Exists(const QString &name) const
 {
     chmUnitInfo unit;
-    return !name.isEmpty() && !name.endsWith(u'/') &&
-           chm_resolve_object(m_file.get(), ('/' + name.toUtf8()).constData(), &unit) ==
-               CHM_RESOLVE_SUCCESS;
+    return !name.isEmpty() && !name.endsWith(u'/') && Find(m_file.get(), '/' + name.toUtf8(), unit);
 }
 
 /// The page that a stored path means; empty where there is none. Some compilers put the folder in

@@ -59,14 +59,13 @@ TEST(DamagedHelp, IsRefusedWhereverItWasCutOff)
     }
 }
 
-TEST(DamagedHelp, NeverLeadsTheReaderAstray)
+/// Damages a help file in a few bytes, many times over; gives how often it was refused.
+int RefusedOf(int runs, const QByteArray &whole)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"x.chm"_s);
-    const QByteArray whole = LargeHelp();
     std::mt19937 random(20260119);
     int refused = 0;
-    constexpr int runs = 6000;
     for (int run = 0; run < runs; ++run) {
         QByteArray damaged = whole;
         for (unsigned flips = 1 + random() % 4; flips > 0; --flips) {
@@ -74,11 +73,49 @@ TEST(DamagedHelp, NeverLeadsTheReaderAstray)
             const auto part = run % 2 ? quint32(0x100) : quint32(damaged.size());
             damaged[qsizetype(random() % part)] = char(random());
         }
-        ASSERT_TRUE(WriteBytes(path, damaged));
+        EXPECT_TRUE(WriteBytes(path, damaged));
         refused += !ReadAll(path);
     }
+    return refused;
+}
+
+TEST(DamagedHelp, NeverLeadsTheReaderAstray)
+{
+    constexpr int runs = 6000;
+    const int refused = RefusedOf(runs, LargeHelp());
     EXPECT_GT(refused, runs / 10);
     EXPECT_LT(refused, runs);
+}
+
+TEST(DamagedHelp, NeverLeadsTheDecompressionAstray)
+{
+    constexpr int runs = 3000;
+    const int refused = RefusedOf(runs, BytesOf(DataFile(u"help/compressed.chm"_s)));
+    EXPECT_GT(refused, runs / 10);
+    EXPECT_LT(refused, runs);
+}
+
+TEST(DamagedHelp, MayNotSteerTheDecompressionWrongly)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"x.chm"_s);
+    const QByteArray whole = BytesOf(DataFile(u"help/compressed.chm"_s));
+    const qsizetype control = whole.indexOf("LZXC");
+    ASSERT_GT(control, 0);
+    const struct {
+        const char *what;
+        qsizetype offset;
+        char value;
+    } rows[] = {{"version", 4, 3},      {"reset interval", 8, 0}, {"window size", 12, 0},
+                {"window size", 12, 3}, {"window size", 13, 1},   {"windows for a reset", 16, 0}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        QByteArray damaged = whole;
+        ASSERT_NE(damaged.at(control + row.offset), row.value);
+        damaged[control + row.offset] = row.value;
+        ASSERT_TRUE(WriteBytes(path, damaged));
+        EXPECT_FALSE(ReadAll(path));
+    }
 }
 
 TEST(DamagedHelp, MayNotGoRoundInItsIndex)

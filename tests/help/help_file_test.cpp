@@ -103,6 +103,21 @@ TEST(HelpFile, DropsLeadingFoldersOfStoredPaths)
     EXPECT_EQ(help->Contents()[0].page, u"Sub/c.html#part"_s);
 }
 
+TEST(HelpFile, ReadsWhatAnotherProgramCompressed)
+{
+    const auto help = HelpFile::Open(DataFile(u"help/compressed.chm"_s));
+    ASSERT_TRUE(help) << Describe(help.error()).toStdString();
+    EXPECT_EQ(help->Title(), u"Compressed"_s);
+    EXPECT_EQ(help->DefaultPage(), u"p1.html"_s);
+    EXPECT_EQ(help->PageOf(2), u"p2.html"_s);
+    EXPECT_EQ(help->TitleOf(u"p2.html"_s), u"Page 2"_s);
+    const auto page = help->Object(u"p3.html"_s);
+    ASSERT_TRUE(page);
+    EXPECT_TRUE(page->startsWith("<html><head><title>Page 3</title>"));
+    EXPECT_TRUE(page->endsWith("a</body></html>"));
+    EXPECT_GT(page->size(), 40000);
+}
+
 TEST(HelpFile, BeginsWithTheContentsWhereTheDefaultPageIsGone)
 {
     const Reader reader;
