@@ -36,4 +36,4 @@ quietly() {
 }
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libchm-dev)
-test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl p7zip-full time)
+test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl openbox p7zip-full time xdotool xvfb)

@@ -1,0 +1,99 @@
+#!/usr/bin/env bash
+# The designer as a person starts it, on a screen of its own and from nothing: first start, new
+# project, save, quit; then again with a project named, review and create.
+# window_test.sh VELLUMO PROJECT
+set -euo pipefail
+
+programs=$(dirname -- "$1") project=$2
+work=$(mktemp -d)
+mkdir "$work/app" "$work/home"
+for program in vellumo-designer pilrc build-prc Vellumo_Help.chm; do
+    cp "$programs/$program" "$work/app/"
+done
+cp "$project" "$work/inspection.vmp"
+export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_RUNTIME_DIR=$work
+export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='*.debug=false'
+unset WAYLAND_DISPLAY
+
+exec {display_pipe}<> <(:)
+Xvfb -displayfd "$display_pipe" -screen 0 1280x1024x24 -nolisten tcp 2>"$work/xvfb.log" &
+started=($!)
+cleanup() {
+    kill "${started[@]}" 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+read -r -t 20 -u "$display_pipe" number
+export DISPLAY=:$number
+openbox 2>/dev/null &
+started+=($!)
+
+fail() {
+    printf 'FAILED: %s\n' "$*" >&2
+    xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
+    exit 1
+}
+
+# await SECONDS WHAT COMMAND...: until the command succeeds.
+await() {
+    local deadline=$((SECONDS + $1)) what=$2
+    shift 2
+    until "$@" >/dev/null 2>&1; do
+        [ "$SECONDS" -lt "$deadline" ] || fail "$what"
+        sleep 0.1
+    done
+}
+
+has_focus() { [ "$(xdotool getactivewindow getwindowname)" = "$1" ]; }
+window() { await 20 "no window '$1'" has_focus "$1"; }
+keys() { xdotool key --clearmodifiers --delay 60 "$@"; }
+ended() { ! kill -0 "$designer" 2>/dev/null; }
+
+start() {
+    "$work/app/vellumo-designer" "$@" 2>"$work/designer.log" &
+    designer=$!
+}
+quit() {
+    window 'Vellumo Designer'
+    keys ctrl+q
+    await 10 'the designer does not end' ended
+    wait "$designer" || fail "the designer ended with status $?"
+}
+
+begun=$SECONDS
+start
+window 'Welcome'
+[ $((SECONDS - begun)) -ge 3 ] || fail 'the splash was gone within 3 seconds'
+printf '<Vmdesigner>\r\n<ShowOpenForm>1</ShowOpenForm>\r\n</Vmdesigner>' |
+    cmp - "$work/app/settings.ini" || fail 'the settings file'
+[ -d "$HOME/Documents/My Vellumo" ] || fail 'no projects folder'
+keys Return
+
+window 'Vellumo Designer'
+xdotool type --delay 40 'Survey'
+keys ctrl+s
+window 'Save File As '
+xdotool type --delay 40 'first'
+keys Return
+saved="$HOME/Documents/My Vellumo/first.vmp"
+await 10 'nothing was saved' test -s "$saved"
+grep -q '<FormName><!\[CDATA\[Survey\]\]></FormName>' "$saved" || fail 'the name was not saved'
+quit
+
+begun=$SECONDS
+start "$work/inspection.vmp"
+window 'Vellumo Designer'
+[ $((SECONDS - begun)) -lt 3 ] || fail 'a project that is named needs no splash'
+keys ctrl+Tab ctrl+Tab ctrl+Tab
+keys Tab space
+sleep 0.5
+keys Return
+sleep 0.3
+keys Tab space
+await 20 'no database' test -s "$HOME/Documents/My Vellumo/SiteVisit.prc"
+sleep 0.5
+keys Return
+quit
+cmp "$project" "$work/inspection.vmp" || fail 'the project was changed'
+printf 'passed\n'
