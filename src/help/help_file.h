@@ -20,6 +20,7 @@ public:
     /// Fails for what is no help file, or a damaged one, or one without a page to begin with.
     static Result<HelpFile> Open(const QString &path);
 
+    QString Path() const { return m_path; }
     QString Title() const { return m_title; }
     QString DefaultPage() const { return m_defaultPage; }
     /// The default page for a number that the file does not know.

@@ -1,0 +1,58 @@
+#include "ui/about/help_browser.h"
+
+#include "help/html_text.h"
+
+#include <QImage>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString helpScheme = u"help"_s;
+
+} // namespace
+
+HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
+{
+    setOpenLinks(false);
+    document()->setDocumentMargin(12);
+}
+
+void HelpBrowser::ShowPage(const QString &page)
+{
+    setSource(AddressOf(page));
+}
+
+QVariant HelpBrowser::loadResource(int type, const QUrl &url)
+{
+    const QString name = NameIn(url);
+    if (!m_file || name.isEmpty())
+        return {};
+    const auto bytes = m_file->Object(name);
+    if (type == QTextDocument::ImageResource)
+        return bytes ? QImage::fromData(*bytes) : QImage();
+    if (!bytes)
+        return u"<p>%1</p>"_s.arg(bytes.error().text.toHtmlEscaped());
+    return DecodeHtml(*bytes);
+}
+
+QUrl HelpBrowser::AddressOf(const QString &page)
+{
+    const qsizetype anchor = page.indexOf(u'#');
+    QUrl address;
+    address.setScheme(helpScheme);
+    address.setPath(u'/' + (anchor < 0 ? page : page.first(anchor)));
+    if (anchor >= 0)
+        address.setFragment(page.sliced(anchor + 1));
+    return address;
+}
+
+QString HelpBrowser::NameIn(const QUrl &address)
+{
+    // Pages made for the platform's viewer may name the file as well: ms-its:some.chm::/page.html.
+    const QString path = address.path();
+    const qsizetype inner = path.indexOf("::/"_L1);
+    if (inner >= 0)
+        return path.sliced(inner + 3);
+    return address.scheme() == helpScheme && path.startsWith(u'/') ? path.sliced(1) : QString();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "help/help_file.h"
+
+#include <QTextBrowser>
+
+/// Shows pages of a help file, and takes nothing from anywhere else. Links are only reported.
+class HelpBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit HelpBrowser(QWidget *parent = nullptr);
+
+    /// The file must live as long as the browser.
+    void SetFile(const HelpFile &file) { m_file = &file; }
+
+    /// A page by its name, with or without an anchor.
+    void ShowPage(const QString &page);
+
+    QVariant loadResource(int type, const QUrl &url) override;
+
+    /// The address of a page in the browser.
+    static QUrl AddressOf(const QString &page);
+    /// What an address means in the help file; empty for one that leads out of it.
+    static QString NameIn(const QUrl &address);
+
+private:
+    const HelpFile *m_file = nullptr;
+};
