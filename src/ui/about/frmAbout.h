@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/common/environment.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmAbout;
+}
+
+/// Says which program this is, whose it is, and where to find its maker.
+class frmAbout : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmAbout(const Environment &environment, QWidget *parent = nullptr);
+    ~frmAbout() override;
+
+private:
+    std::unique_ptr<Ui::frmAbout> ui;
+};
