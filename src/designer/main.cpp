@@ -1,5 +1,6 @@
+#include "designer/help_links.h"
 #include "designer/real_environment.h"
-
+#include "ui/about/myHelp.h"
 #include "ui/common/pictures.h"
 #include "ui/main/appInfoForm.h"
 #include "ui/main/start_windows.h"
@@ -15,6 +16,8 @@ int main(int argc, char *argv[])
     const Start start = StartUp(StartWithWindows(environment, QApplication::arguments().sliced(1)));
 
     appInfoForm window(environment);
+    myHelp help(environment);
+    ConnectHelp(window, help, environment);
     if (start.choice == existingProject)
         window.OpenProject(start.path);
     window.FinishSetUp();

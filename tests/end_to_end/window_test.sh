@@ -85,6 +85,16 @@ begun=$SECONDS
 start "$work/inspection.vmp"
 window 'Vellumo Designer'
 [ $((SECONDS - begun)) -lt 3 ] || fail 'a project that is named needs no splash'
+keys F1
+window 'Welcome to Vellumo Designer - Vellumo Designer Help'
+keys Escape
+window 'Vellumo Designer'
+keys alt+h
+sleep 0.3
+keys a
+window 'About Vellumo Designer'
+keys Return
+window 'Vellumo Designer'
 keys ctrl+Tab ctrl+Tab ctrl+Tab
 keys Tab space
 sleep 0.5
