@@ -36,6 +36,7 @@ frmAbout::frmAbout(const Environment &environment, QWidget *parent)
     ui->lblDescription->setText(TrademarkNotice());
     ui->lblDisclaimer->setText(disclaimer);
     ui->lblurl->setText(environment.siteAddress);
+    ui->cmdOK->setFocus(); // not on the link, which Enter would follow
 
     connect(ui->lblurl, &LinkLabel::Followed, this,
             [open = environment.open, address = environment.siteAddress] { open(address); });

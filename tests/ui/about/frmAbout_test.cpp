@@ -77,9 +77,12 @@ TEST(frmAbout, OpensTheSiteByMouseAndByKeyboard)
     EXPECT_TRUE(about.box->isVisible()) << "Enter followed the link, it did not press OK";
 }
 
-TEST(frmAbout, GoesWithOkAndWithEscape)
+TEST(frmAbout, GoesWithOkEnterAndEscape)
 {
-    const About about, another;
+    const About about, another, third;
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(third.box->isVisible());
+    EXPECT_TRUE(third.opened.isEmpty());
     QTest::mouseClick(about.box->findChild<QPushButton *>(u"cmdOK"_s), Qt::LeftButton);
     EXPECT_FALSE(about.box->isVisible());
     QTest::keyClick(another.box.get(), Qt::Key_Escape);
