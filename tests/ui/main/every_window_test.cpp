@@ -1,7 +1,7 @@
 #include "support/print.h"
+#include "ui/about/frmAbout.h"
 #include "ui/common/link_label.h"
 #include "ui/main/fileOpenForm.h"
-#include "ui/main/logoForm.h"
 #include "ui/questions/frmWizard.h"
 #include "ui/questions/propertyForm.h"
 #include "ui/support/designer.h"
@@ -134,6 +134,13 @@ TEST(EveryWindow, IsUsableWithoutMouseAndWithoutSight)
         SCOPED_TRACE("chooser");
         fileOpenForm chooser(designer.projects, [] {});
         ExpectUsable(chooser);
+    }
+    {
+        SCOPED_TRACE("about box");
+        Environment environment;
+        environment.siteAddress = u"https://vellumo.example"_s;
+        frmAbout about(environment);
+        ExpectUsable(about);
     }
     for (const int row : {0, 2, 7}) {
         SCOPED_TRACE("properties of question " + std::to_string(row));

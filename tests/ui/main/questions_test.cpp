@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QTableView>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -280,6 +281,39 @@ TEST(QuestionKeys, DoWhatTheButtonsDo)
     QTest::keyClick(questions.Grid(), Qt::Key_Delete);
     EXPECT_EQ(questions.ColumnNames(), (QStringList{u"q1"_s, u"q3"_s}));
     EXPECT_EQ(prompts.boxes().size(), 1u);
+}
+
+TEST(QuestionWizard, PassesItsHelpLinksOn)
+{
+    const Questions questions(1, 0);
+    QList<int> asked;
+    QObject::connect(&questions.window, &appInfoForm::HelpAsked, [&](int id) { asked += id; });
+    QTimer::singleShot(0, [] {
+        auto *wizard = QApplication::activeModalWidget();
+        ASSERT_TRUE(wizard);
+        QTest::mouseClick(wizard->findChild<QLabel *>(u"lblLkWzType"_s), Qt::LeftButton);
+        QTest::keyClick(wizard, Qt::Key_Escape);
+    });
+    questions.Click("cmdAdd");
+    EXPECT_EQ(asked, QList{15});
+}
+
+TEST(QuestionProperties, ChangeTheCurrentQuestionAndItsPreview)
+{
+    const Questions questions(2, 1);
+    QTimer::singleShot(0, [] {
+        auto *properties = QApplication::activeModalWidget();
+        ASSERT_TRUE(properties);
+        auto *title = properties->findChild<QLineEdit *>(u"txtTitle"_s);
+        title->selectAll();
+        QTest::keyClicks(title, u"Changed"_s);
+        QTest::mouseClick(properties->findChild<QAbstractButton *>(u"cmdOK"_s), Qt::LeftButton);
+    });
+    questions.Click("cmdView");
+    EXPECT_EQ(questions.Caption("lblTitle"), u"Changed"_s);
+    EXPECT_EQ(questions.Grid()->model()->index(1, 1).data().toString(), u"Changed"_s);
+    EXPECT_EQ(questions.Row(), 1);
+    EXPECT_TRUE(questions.ProjectChanged());
 }
 
 } // namespace

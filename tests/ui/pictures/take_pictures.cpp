@@ -1,5 +1,8 @@
 // Takes the pictures of the windows that the documentation shows and that a person looks at:
 // take_pictures FOLDER [dark]. QT_SCALE_FACTOR sets the scale.
+#include "ui/about/frmAbout.h"
+#include "ui/about/help_window.h"
+#include "ui/about/myHelp.h"
 #include "ui/common/prompts.h"
 #include "ui/main/fileOpenForm.h"
 #include "ui/main/logoForm.h"
@@ -92,6 +95,23 @@ void TakeStart(const QString &folder)
     Keep(chooser, folder + u"/chooser.png"_s);
 }
 
+void TakeHelp(const QString &folder)
+{
+    Environment environment;
+    environment.siteAddress = u"https://vellumo.example"_s;
+    environment.version = u"1.1.2"_s;
+    environment.helpFile = QStringLiteral(HELP_FILE);
+    frmAbout about(environment);
+    about.show();
+    Keep(about, folder + u"/about.png"_s);
+
+    myHelp help(environment);
+    help.ShowHelp(HH_HELP_CONTEXT, 5, nullptr);
+    for (const QWidget *window : QApplication::topLevelWidgets())
+        if (qobject_cast<const HelpWindow *>(window))
+            Keep(*window, folder + u"/help.png"_s);
+}
+
 void TakeBoxes(const QString &folder)
 {
     for (const QMessageBox::Icon icon : {QMessageBox::Warning, QMessageBox::Question}) {
@@ -116,6 +136,7 @@ int main(int argc, char *argv[])
     TakeWizard(folder);
     TakeProperties(folder);
     TakeStart(folder);
+    TakeHelp(folder);
     TakeBoxes(folder);
     return 0;
 }
