@@ -4,6 +4,9 @@
 # window_test.sh VELLUMO PROJECT
 set -euo pipefail
 
+for needed in Xvfb openbox xdotool; do
+    command -v "$needed" >/dev/null || { printf 'skipped: no %s\n' "$needed"; exit 77; }
+done
 programs=$(dirname -- "$1") project=$2
 work=$(mktemp -d)
 mkdir "$work/app" "$work/home"
@@ -32,6 +35,7 @@ started+=($!)
 fail() {
     printf 'FAILED: %s\n' "$*" >&2
     xdotool search --onlyvisible --name . getwindowname %@ >&2 2>/dev/null || true
+    cat "$work/designer.log" >&2
     exit 1
 }
 
@@ -48,6 +52,13 @@ await() {
 has_focus() { [ "$(xdotool getactivewindow getwindowname)" = "$1" ]; }
 window() { await 20 "no window '$1'" has_focus "$1"; }
 keys() { xdotool key --clearmodifiers --delay 60 "$@"; }
+
+# windows COUNT: until so many windows with the designer's title are up, boxes among them.
+counted() { [ "$(xdotool search --onlyvisible --name '^Vellumo Designer$' | wc -l)" -eq "$1" ]; }
+windows() {
+    await 20 "not $1 windows" counted "$1"
+    window 'Vellumo Designer'
+}
 ended() { ! kill -0 "$designer" 2>/dev/null; }
 
 start() {
@@ -97,13 +108,14 @@ keys Return
 window 'Vellumo Designer'
 keys ctrl+Tab ctrl+Tab ctrl+Tab
 keys Tab space
-sleep 0.5
+windows 2
 keys Return
-sleep 0.3
+windows 1
 keys Tab space
 await 20 'no database' test -s "$HOME/Documents/My Vellumo/SiteVisit.prc"
-sleep 0.5
+windows 2
 keys Return
+windows 1
 quit
 cmp "$project" "$work/inspection.vmp" || fail 'the project was changed'
 printf 'passed\n'
