@@ -63,6 +63,10 @@ void QuestionPreviewBox::ShowItems(const QuestionPreview::ItemBox &box)
 {
     ui->lstCheckBox->setFixedWidth(box.width / twipsPerPixel);
     ui->lstCheckBox->clear();
-    ui->lstCheckBox->addItems(box.items);
+    for (const QString &text : box.items) {
+        auto *item = new QListWidgetItem(text, ui->lstCheckBox);
+        item->setFlags(Qt::ItemIsEnabled); // a look at boxes that are ticked elsewhere
+        item->setCheckState(Qt::Unchecked);
+    }
     ui->lstCheckBox->show();
 }

@@ -14,6 +14,7 @@
 
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTableView>
 
 #include <iostream>
 
@@ -45,6 +46,11 @@ void TakeSteps(const QString &folder)
     const PromptScript prompts({u"OK"_s});
     for (int step = 1; step <= 4; ++step) {
         designer.ClickTab(step);
+        if (step == 2) {
+            auto *grid = designer.Find<QTableView>("DataGrid1");
+            const QRect hazards = grid->visualRect(grid->model()->index(7, 1));
+            QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, hazards.center());
+        }
         if (step == 4) {
             designer.Find<QLineEdit>("txtAppVersion")->setText(u"1.0 beta"_s);
             designer.Find<QLineEdit>("txt3_appDir")->setText(u"C:"_s);
