@@ -81,7 +81,7 @@ int RefusedOf(int runs, const QByteArray &whole)
 
 TEST(DamagedHelp, NeverLeadsTheReaderAstray)
 {
-    constexpr int runs = 6000;
+    constexpr int runs = 2000;
     const int refused = RefusedOf(runs, LargeHelp());
     EXPECT_GT(refused, runs / 10);
     EXPECT_LT(refused, runs);
@@ -89,7 +89,7 @@ TEST(DamagedHelp, NeverLeadsTheReaderAstray)
 
 TEST(DamagedHelp, NeverLeadsTheDecompressionAstray)
 {
-    constexpr int runs = 3000;
+    constexpr int runs = 1000;
     const int refused = RefusedOf(runs, BytesOf(DataFile(u"help/compressed.chm"_s)));
     EXPECT_GT(refused, runs / 10);
     EXPECT_LT(refused, runs);
