@@ -6,8 +6,8 @@
 
 void ConnectHelp(appInfoForm &window, myHelp &help, const Environment &environment)
 {
-    QObject::connect(&window, &appInfoForm::HelpAsked, &window, [&](int contextId) {
-        help.ShowHelp(HH_HELP_CONTEXT, quint32(contextId), &window);
+    QObject::connect(&window, &appInfoForm::HelpAsked, &window, [&](quint32 contextId) {
+        help.ShowHelp(HH_HELP_CONTEXT, contextId, &window);
     });
     QObject::connect(&window, &appInfoForm::ContentsAsked, &window,
                      [&] { help.ShowHelp(HH_DISPLAY_TOPIC, 0, &window); });

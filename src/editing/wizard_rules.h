@@ -16,9 +16,6 @@ struct NewQuestion {
     QStringList items = {};
 };
 
-/// A project has at most so many questions.
-inline constexpr int mostQuestions = 128;
-
 /// Which navigation buttons a step enables.
 struct StepButtons {
     std::optional<bool> back; ///< none = it stays as it is

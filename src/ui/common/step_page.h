@@ -17,12 +17,13 @@ public:
 signals:
     void BackAsked();
     void NextAsked();
-    void HelpAsked(int contextId);
+    /// The number of a page of the help.
+    void HelpAsked(quint32 contextId);
 
 protected:
     struct HelpLink {
         LinkLabel *label;
-        int contextId;
+        quint32 contextId;
     };
     void ConnectHelp(std::initializer_list<HelpLink> links)
     {

@@ -35,7 +35,7 @@ public:
     const ProjectDocument &document() const { return m_document; }
 
 signals:
-    void HelpAsked(int contextId);
+    void HelpAsked(quint32 contextId);
     void ContentsAsked();
     void AboutAsked();
     /// The window is being closed by its user, who may yet keep it open: help has to go.

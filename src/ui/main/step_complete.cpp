@@ -1,5 +1,6 @@
 #include "ui/main/step_complete.h"
 
+#include "help/help_topics.h"
 #include "ui_step_complete.h"
 
 #include <QShortcut>
@@ -8,7 +9,8 @@ StepComplete::StepComplete(QWidget *parent)
     : StepPage(parent), ui(std::make_unique<Ui::StepComplete>())
 {
     ui->setupUi(this);
-    ConnectHelp({{ui->Label17, 13}, {ui->lblErrorList, 14}});
+    ConnectHelp(
+        {{ui->Label17, HelpContext::finalReview}, {ui->lblErrorList, HelpContext::errorList}});
     connect(ui->cmdReviewForm, &QPushButton::clicked, this, &StepComplete::ReviewAsked);
     connect(ui->cmdCreateForm, &QPushButton::clicked, this, &StepComplete::CreationAsked);
     connect(ui->cmd4_back, &QPushButton::clicked, this, &StepComplete::BackAsked);

@@ -1,5 +1,6 @@
 #include "ui/main/step_data.h"
 
+#include "help/help_topics.h"
 #include "platform/folders.h"
 #include "ui/common/key_filter.h"
 #include "ui_step_data.h"
@@ -12,7 +13,7 @@ StepData::StepData(ProjectDocument &document, QWidget *parent)
     : StepPage(parent), ui(std::make_unique<Ui::StepData>()), m_document(document)
 {
     ui->setupUi(this);
-    ConnectHelp({{ui->Label15, 11}, {ui->Label16, 12}});
+    ConnectHelp({{ui->Label15, HelpContext::uploadingData}, {ui->Label16, HelpContext::csvFile}});
     RefuseKeys(ui->txt3_appDir, u"\""_s, u"Double quotes are not allowed."_s);
     connect(ui->txt3_appDir, &QLineEdit::textChanged, this, [this](const QString &text) {
         m_document.project().FormPath = text;

@@ -1,5 +1,6 @@
 #include "ui/main/step_info.h"
 
+#include "help/help_topics.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/plain_text.h"
 #include "ui_step_info.h"
@@ -10,8 +11,10 @@ StepInfo::StepInfo(ProjectDocument &document, QWidget *parent)
     : StepPage(parent), ui(std::make_unique<Ui::StepInfo>()), m_document(document)
 {
     ui->setupUi(this);
-    ConnectHelp(
-        {{ui->Label13, 1}, {ui->lblLinkName, 2}, {ui->lblLinkVersion, 3}, {ui->Label14, 4}});
+    ConnectHelp({{ui->Label13, HelpContext::formInformation},
+                 {ui->lblLinkName, HelpContext::formName},
+                 {ui->lblLinkVersion, HelpContext::formVersion},
+                 {ui->Label14, HelpContext::formDescription}});
     RefuseKeys(ui->txtAppName, u"\"*/:<>?\\|"_s, u"\"\\/:*?<>|are not allowed for file name"_s);
     RefuseKeys(ui->txtAppVersion, u"\""_s, u"Double quotes are not allowed."_s);
     RefuseKeys(ui->txtAppDesc, u"\r\n"_s, u"Carriage returns are not allowed."_s);

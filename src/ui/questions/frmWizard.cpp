@@ -1,22 +1,23 @@
 #include "ui/questions/frmWizard.h"
 
+#include "editing/question_list.h"
 #include "editing/title_history.h"
+#include "help/help_topics.h"
 #include "model/question_types.h"
 #include "model/texts.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/plain_text.h"
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
+#include "ui/common/screen_centre.h"
 #include "ui/questions/ui_frmWizard.h"
 
 #include <QEvent>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int questionHelp = 15;
 constexpr int longestText = 16777216;
 
 } // namespace
@@ -46,7 +47,7 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     ConnectControls();
     PlaceTypeLink();
     ShowStep();
-    CentreOnScreen();
+    CentreOnScreen(*this);
 }
 
 frmWizard::~frmWizard() = default;
@@ -73,7 +74,8 @@ void frmWizard::ConnectControls()
     connect(ui->lstWiz1_1, &QListWidget::itemDoubleClicked, this, &frmWizard::GoNext);
     for (const LinkLabel *link :
          {ui->lblLkWzType, ui->lblLkWzTitle, ui->lblLkWzColumn, ui->lblLkWzText})
-        connect(link, &LinkLabel::Followed, this, [this] { emit HelpAsked(questionHelp); });
+        connect(link, &LinkLabel::Followed, this,
+                [this] { emit HelpAsked(HelpContext::questionWizard); });
 }
 
 /// The link lies over its words in the label.
@@ -83,15 +85,6 @@ void frmWizard::PlaceTypeLink()
     const QString before = text.first(text.indexOf(ui->lblLkWzType->text()));
     const int left = ui->lblWiz1_2->fontMetrics().horizontalAdvance(before);
     ui->overQuestion->setContentsMargins(left, 0, 0, 0);
-}
-
-void frmWizard::CentreOnScreen()
-{
-    adjustSize();
-    const QScreen *on = parentWidget() ? parentWidget()->screen() : screen();
-    QRect shown = rect();
-    shown.moveCenter(on->availableGeometry().center());
-    move(shown.topLeft());
 }
 
 void frmWizard::changeEvent(QEvent *event)
@@ -192,7 +185,7 @@ void frmWizard::Finish()
     Append(entered);
 
     const QString created = u"You have successfully created a question.\r\n"_s;
-    if (m_document.source().QuestionCount() >= mostQuestions) {
+    if (m_document.source().QuestionCount() >= maxQuestions) {
         ShowExclamation(this, created + u"The maximum number of questions is 128.\r\n"
                                         "You can't create more questions."_s);
         accept();

@@ -27,7 +27,7 @@ public:
 
 signals:
     /// A help link was followed; contextId is the number of a help topic.
-    void HelpAsked(int contextId);
+    void HelpAsked(quint32 contextId);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -37,7 +37,6 @@ private:
     void ConfigureTitleBox();
     void ConnectControls();
     void PlaceTypeLink();
-    void CentreOnScreen();
 
     void ShowStep();
     void ShowPanel();

@@ -5,13 +5,12 @@
 #include "ui/common/plain_text.h"
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
+#include "ui/common/screen_centre.h"
 #include "ui/questions/ui_propertyForm.h"
 
 #include <QFontMetricsF>
 #include <QListView>
-#include <QScreen>
 #include <QShowEvent>
-#include <QStyle>
 #include <QtMath>
 
 using namespace Qt::StringLiterals;
@@ -66,8 +65,7 @@ propertyForm::~propertyForm() = default;
 void propertyForm::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous())
-        setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size(),
-                                        screen()->availableGeometry()));
+        CentreOnScreen(*this);
     QDialog::showEvent(event);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/questions/step_questions.h"
 
 #include "editing/question_list.h"
+#include "help/help_topics.h"
 #include "ui/common/pictures.h"
 #include "ui/common/prompts.h"
 #include "ui/questions/frmWizard.h"
@@ -24,11 +25,11 @@ StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
     ui->setupUi(this);
     ui->scrollArea->viewport()->setAutoFillBackground(false); // the tab's ground, as on other steps
     ui->content->setAutoFillBackground(false);
-    ConnectHelp({{ui->lblAdd, 5},
-                 {ui->lblEdit, 5},
-                 {ui->lblDelete, 5},
-                 {ui->lblReorder, 5},
-                 {ui->Label10, 10}});
+    ConnectHelp({{ui->lblAdd, HelpContext::questions},
+                 {ui->lblEdit, HelpContext::questions},
+                 {ui->lblDelete, HelpContext::questions},
+                 {ui->lblReorder, HelpContext::questions},
+                 {ui->Label10, HelpContext::questionPreview}});
     ConnectButtons();
     ConnectGrid();
     LayOutColumns();
