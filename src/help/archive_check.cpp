@@ -17,6 +17,7 @@ constexpr qint64 longestName = 512;
 constexpr quint32 smallestChunk = 64;
 constexpr quint32 largestChunk = 0x10000;
 constexpr qint64 largestDirectory = 64 << 20;
+constexpr qint64 largestTable = 16 << 20;
 constexpr int deepestIndex = 8;
 
 // The objects that steer the decompression.
@@ -79,7 +80,7 @@ public:
     bool Passes()
     {
         return ReadHeader() && ReadDirectoryHeader() && CheckChunk(m_root, 1) &&
-               IsSoundCompression(m_controlData, m_resetTable);
+               IsCompressionSound();
     }
 
 private:
@@ -93,9 +94,9 @@ private:
         m_directoryLength = LittleAt<quint64>(*header, 0x50);
         m_content =
             version == 2 ? m_directory + m_directoryLength : LittleAt<quint64>(*header, 0x58);
-        const auto size = quint64(m_file.size());
-        return (version == 2 || version == 3) && m_directory <= size &&
-               m_directoryLength <= size - m_directory && m_content <= size &&
+        m_size = quint64(m_file.size());
+        return (version == 2 || version == 3) && m_directory <= m_size &&
+               m_directoryLength <= m_size - m_directory && m_content <= m_size &&
                m_directoryLength >= quint64(directoryHeaderSize) &&
                m_directoryLength <= quint64(largestDirectory);
     }
@@ -147,34 +148,51 @@ private:
             const auto name = entries->Name();
             const auto section = entries->Number(), offset = entries->Number(),
                        length = entries->Number();
-            if (!name || !length || *section > 1)
-                return false;
-            if (*section == 0 && !(IsWithinFile(*offset, *length) && Keep(*name, *offset, *length)))
+            if (!name || !length || !IsSoundObject(*name, *section, *offset, *length))
                 return false;
         }
         return entries.has_value();
     }
 
+    bool IsSoundObject(QByteArrayView name, quint64 section, quint64 offset, quint64 length)
+    {
+        if (section == 0)
+            return IsWithinFile(offset, length) && Keep(name, offset, length);
+        // Both are numbers of at most 63 bits.
+        m_compressedEnd = std::max(m_compressedEnd, offset + length);
+        return section == 1;
+    }
+
     bool IsWithinFile(quint64 offset, quint64 length) const
     {
-        const quint64 room = quint64(m_file.size()) - m_content;
+        const quint64 room = m_size - m_content;
         return offset <= room && length <= room - offset;
     }
 
     /// Keeps what steers the decompression; there may be only one of each.
     bool Keep(QByteArrayView name, quint64 offset, quint64 length)
     {
-        constexpr qint64 enough = 64;
         QByteArray *kept = name.compare(controlDataName, Qt::CaseInsensitive) == 0  ? &m_controlData
                            : name.compare(resetTableName, Qt::CaseInsensitive) == 0 ? &m_resetTable
                                                                                     : nullptr;
         if (!kept)
             return true;
-        const auto bytes = BytesAt(m_file, m_content + offset, std::min(enough, qint64(length)));
+        const auto bytes = length <= quint64(largestTable)
+                               ? BytesAt(m_file, m_content + offset, qint64(length))
+                               : std::nullopt;
         if (!kept->isEmpty() || !bytes || bytes->isEmpty())
             return false;
         *kept = *bytes;
         return true;
+    }
+
+    /// A reader that finds neither of the two objects decompresses nothing.
+    bool IsCompressionSound() const
+    {
+        if (m_controlData.isEmpty() && m_resetTable.isEmpty())
+            return true;
+        const auto size = SizeBeforeCompression(m_controlData, m_resetTable);
+        return size && m_compressedEnd <= *size;
     }
 
     bool CheckIndex(QByteArrayView chunk, int depth)
@@ -191,12 +209,14 @@ private:
     }
 
     QIODevice &m_file;
+    quint64 m_size = 0;
     quint64 m_directory = 0;
     quint64 m_directoryLength = 0;
     quint64 m_content = 0;
     quint32 m_chunkSize = 0;
     qint64 m_root = 0;
     std::vector<bool> m_seen;
+    quint64 m_compressedEnd = 0; ///< among all compressed objects
     QByteArray m_controlData;
     QByteArray m_resetTable;
 };

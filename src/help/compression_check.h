@@ -2,7 +2,11 @@
 
 #include <QByteArray>
 
-/// Whether the two objects that steer the decompression of a help file hold numbers that belong
-/// together: the size of the decoder's window and how often it starts anew, and the size of the
-/// blocks. Both empty is sound as well: nothing is compressed.
-bool IsSoundCompression(const QByteArray &controlData, const QByteArray &resetTable);
+#include <optional>
+
+/// How many bytes the compressed objects of a help file have together, before they were compressed,
+/// as the two objects that steer the decompression tell: the size of the decoder's window and how
+/// often it starts anew, and where each block begins. None where their numbers do not belong
+/// together or a block is longer than a reader makes room for.
+std::optional<quint64> SizeBeforeCompression(const QByteArray &controlData,
+                                             const QByteArray &resetTable);
