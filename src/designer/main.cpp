@@ -13,10 +13,10 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(ProgramIcon());
 
     const Environment environment = RealEnvironment();
-    const Start start = StartUp(StartWithWindows(environment, QApplication::arguments().sliced(1)));
+    const Start start = StartUp(StartWithWindows(environment, QApplication::arguments().mid(1)));
 
-    appInfoForm window(environment);
     myHelp help(environment);
+    appInfoForm window(environment);
     ConnectHelp(window, help, environment);
     if (start.choice == existingProject)
         window.OpenProject(start.path);

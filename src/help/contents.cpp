@@ -49,12 +49,15 @@ private:
     void End()
     {
         if (m_entry && !m_entry->title.isEmpty()) {
-            const int deepest = m_entries.empty() ? 0 : m_entries.back().level + 1;
-            m_entry->level = std::clamp(m_depth - 1, 0, deepest);
+            const int below = m_entries.empty() ? 0 : m_entries.back().level + 1;
+            m_entry->level = std::clamp(m_depth - 1, 0, std::min(below, deepestLevel));
             m_entries.push_back(*m_entry);
         }
         m_entry.reset();
     }
+
+    /// Trees of windows are walked by recursion, and a file may nest without end.
+    static constexpr int deepestLevel = 31;
 
     int m_depth = 0;
     std::optional<ContentsEntry> m_entry;

@@ -15,16 +15,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr quint64 largestObject = 16 << 20;
+constexpr qsizetype longestName = 512;   // as archive_check has it, in bytes
+constexpr qsizetype longestText = 1024;  // of a stored text, in bytes; the rest is left out
+constexpr qsizetype mostTopics = 65'536; // with a number; the rest are left out
 
 /// What the file says of itself, by the number of the item.
 enum SystemItem : quint16 { contentsItem = 0, defaultPageItem = 2, titleItem = 3 };
 
-/// The text up to a zero byte or the end of the bytes.
+/// The text up to a zero byte or the end of the bytes, at most longestText of them.
 QString ZeroEndedAt(const QByteArray &bytes, quint64 offset)
 {
     if (offset >= quint64(bytes.size()))
         return {};
-    const QByteArray rest = bytes.sliced(qsizetype(offset));
+    const QByteArray rest = bytes.mid(qsizetype(offset), longestText);
     return DecodeHtml(rest.first(qstrnlen(rest.data(), size_t(rest.size()))));
 }
 
@@ -124,6 +127,8 @@ bool HelpFile::Exists(const QString &name) const
 /// which they ran in front of it, so leading folders are dropped until the page exists.
 QString HelpFile::Locate(QString stored) const
 {
+    if (stored.size() > longestName)
+        return {};
     stored.replace(u'\\', u'/');
     const qsizetype anchor = stored.indexOf(u'#');
     const QString suffix = anchor < 0 ? QString() : stored.sliced(anchor);
@@ -158,7 +163,8 @@ void HelpFile::ReadSystem()
 void HelpFile::ReadTopics()
 {
     const QByteArray pairs = Internal(u"#IVB"_s), texts = Internal(u"#STRINGS"_s);
-    for (qsizetype at = 4; at + 8 <= pairs.size(); at += 8) {
+    const qsizetype end = std::min(pairs.size(), 4 + 8 * mostTopics);
+    for (qsizetype at = 4; at + 8 <= end; at += 8) {
         const QString page = Locate(ZeroEndedAt(texts, LittleAt<quint32>(pairs, at + 4)));
         if (!page.isEmpty())
             m_topics.emplace(LittleAt<quint32>(pairs, at), page);

@@ -41,6 +41,17 @@ TEST(Contents, NeverSkipsALevel)
     EXPECT_EQ(entries[2].level, 2);
 }
 
+TEST(Contents, NestsNoDeeperThanAWindowCanWalk)
+{
+    QString html;
+    for (int n = 0; n < 10'000; ++n)
+        html += u"<UL>"_s + Line(u"deeper"_s);
+    const auto entries = ReadContents(html);
+    ASSERT_EQ(entries.size(), 10'000u);
+    EXPECT_EQ(entries[31].level, 31);
+    EXPECT_EQ(entries.back().level, 31);
+}
+
 TEST(Contents, IgnoresWhatIsNoLine)
 {
     EXPECT_TRUE(ReadContents(u""_s).empty());

@@ -52,7 +52,8 @@ QString HelpBrowser::NameIn(const QUrl &address)
     // Pages made for the platform's viewer may name the file as well: ms-its:some.chm::/page.html.
     const QString path = address.path();
     const qsizetype inner = path.indexOf("::/"_L1);
-    if (inner >= 0)
+    const bool isWeb = address.scheme().startsWith("http"_L1);
+    if (inner >= 0 && !isWeb)
         return path.sliced(inner + 3);
     return address.scheme() == helpScheme && path.startsWith(u'/') ? path.sliced(1) : QString();
 }
