@@ -2,8 +2,8 @@
 
 #include "model/question_types.h"
 
-using namespace Qt::Literals::StringLiterals;
-
+using namespace Qt::StringLiterals;
+namespace vellumo {
 namespace {
 
 /// A text of so many characters, different for each number.
@@ -67,3 +67,5 @@ Project ProjectOfItems(int items)
         AddQuestion(project, u"Pulldown List"_s, 250);
     return project;
 }
+
+} // namespace vellumo

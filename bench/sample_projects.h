@@ -2,6 +2,8 @@
 
 #include "model/project.h"
 
+namespace vellumo {
+
 /// A project of so many questions, all ten types in turn, with all texts of the largest length: 255
 /// items in each pulldown list, 32 in each checkbox list. 128 questions are the largest project of
 /// mixed types.
@@ -13,3 +15,5 @@ Project LargestProject();
 
 /// A project of pulldown lists of 250 items each that has so many items in all.
 Project ProjectOfItems(int items);
+
+} // namespace vellumo

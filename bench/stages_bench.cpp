@@ -10,6 +10,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace vellumo;
+
 namespace {
 
 using MakeProject = Project (*)(int size);

@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
+using namespace vellumo;
+
 namespace {
 
 Project OfLists(int questions, int items)

@@ -3,8 +3,9 @@
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 const QCommandLineOption output = {{u"o"_s, u"output"_s}, {}, u"NAME"_s};
@@ -61,3 +62,5 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
     }
     return Checked(line, shape);
 }
+
+} // namespace vellumo

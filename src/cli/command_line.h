@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace vellumo {
+
 /// Which words a command takes besides --help and --json.
 struct CommandShape {
     int mostInputs = 1;
@@ -24,3 +26,5 @@ struct CommandLine {
 
 /// Reads the words after the command's name. Everything after "--" is an input.
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape);
+
+} // namespace vellumo

@@ -1,7 +1,8 @@
 #include "cli/console.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 void WriteLine(std::ostream &stream, const QByteArray &line)
@@ -67,3 +68,5 @@ Exit Refuse(const Console &console, Exit exit, const Error &error)
                       .line = error.line});
     return exit;
 }
+
+} // namespace vellumo

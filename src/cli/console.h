@@ -5,6 +5,8 @@
 #include <istream>
 #include <ostream>
 
+namespace vellumo {
+
 /// How a command ended; the program's exit status.
 enum class Exit {
     Fine = 0,
@@ -36,3 +38,5 @@ struct Console {
 
 /// Complains of an error and passes the exit on. The exit gives the notice its code.
 Exit Refuse(const Console &console, Exit exit, const Error &error);
+
+} // namespace vellumo

@@ -14,8 +14,9 @@
 #include <QHash>
 #include <QTemporaryDir>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// The Create pass with a private folder in place of application and projects folder, so that it
@@ -149,3 +150,5 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
         return Creation(input, line, console, made).Run(folder);
     });
 }
+
+} // namespace vellumo

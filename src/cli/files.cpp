@@ -5,8 +5,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 bool IsStream(const QString &name)
@@ -72,3 +73,5 @@ Exit ForEachInput(const CommandLine &line, const Console &console,
     }
     return worst;
 }
+
+} // namespace vellumo

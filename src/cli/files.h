@@ -6,6 +6,8 @@
 
 #include <functional>
 
+namespace vellumo {
+
 /// The bytes of an input, "-" being standard input; an error names it and why it cannot be read.
 Result<QByteArray> ReadInput(const QString &name, const Console &console);
 
@@ -22,3 +24,5 @@ Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console 
 /// worst exit is returned.
 Exit ForEachInput(const CommandLine &line, const Console &console,
                   const std::function<Exit(const QString &input)> &act);
+
+} // namespace vellumo

@@ -10,8 +10,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// What is told of either kind of file: facts with their names, then the questions.
@@ -120,3 +121,5 @@ Exit TellInfo(const CommandLine &line, const Console &console)
         TellPerson(*info, console);
     return Exit::Fine;
 }
+
+} // namespace vellumo

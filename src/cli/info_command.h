@@ -3,6 +3,10 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 
+namespace vellumo {
+
 /// Tells what is in a project or a database: names, counts, sizes, and the questions with their
 /// types, column names and titles.
 Exit TellInfo(const CommandLine &line, const Console &console);
+
+} // namespace vellumo

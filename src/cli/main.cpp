@@ -5,6 +5,8 @@
 
 #include <iostream>
 
+using namespace vellumo;
+
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);

@@ -3,7 +3,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 QByteArray ToJson(const Notice &notice)
 {
@@ -31,3 +33,5 @@ QString Visible(const QString &text)
     }
     return visible;
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+namespace vellumo {
+
 /// Something that a command has to tell, for a person and for a program.
 struct Notice {
     QLatin1StringView kind; ///< "result", "finding", "warning" or "error"
@@ -23,3 +25,5 @@ QByteArray ToJson(const Notice &notice);
 /// A text with its control characters made visible, so that it stays on one line and none of them
 /// reaches a terminal.
 QString Visible(const QString &text);
+
+} // namespace vellumo

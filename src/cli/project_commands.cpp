@@ -5,8 +5,9 @@
 #include "palmgen/script_generator.h"
 #include "platform/identifier.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// Writes the output and, to a program, tells of it.
@@ -60,3 +61,5 @@ Exit RewriteProject(const CommandLine &line, const Console &console)
         return Refuse(console, Exit::NotWritten, {bytes.error().text, InputName(input)});
     return Deliver(target, *bytes, "rewritten"_L1, console);
 }
+
+} // namespace vellumo

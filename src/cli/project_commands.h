@@ -3,8 +3,12 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 
+namespace vellumo {
+
 /// Writes the resource script of a project to the output file or to standard output.
 Exit WriteScript(const CommandLine &line, const Console &console);
 
 /// Reads a project and saves it as the designer would: to the output file, or in its place.
 Exit RewriteProject(const CommandLine &line, const Console &console);
+
+} // namespace vellumo

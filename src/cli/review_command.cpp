@@ -6,8 +6,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 Exit Review(const QString &input, bool oneOfSeveral, const Console &console)
@@ -66,3 +67,5 @@ Exit ReviewProjects(const CommandLine &line, const Console &console)
         return Review(input, line.inputs.size() > 1, console);
     });
 }
+
+} // namespace vellumo

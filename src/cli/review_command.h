@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace vellumo {
+
 /// What is wrong with a project, as the designer's error list has it (kind "finding"), and after
 /// that what would not arrive on the handheld as typed (kind "warning"). The project's form
 /// information is left without the blanks at its ends.
@@ -16,3 +18,5 @@ bool Passes(const std::vector<Notice> &notices);
 
 /// Tells the notices of each project. Findings and warnings alike give Exit::NotPassed.
 Exit ReviewProjects(const CommandLine &line, const Console &console);
+
+} // namespace vellumo

@@ -9,8 +9,9 @@
 #include <algorithm>
 #include <limits>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 struct Command {
@@ -122,3 +123,5 @@ int RunVellumo(const QStringList &words, Console console)
         std::max(exit, Refuse(console, Exit::NotWritten,
                               {u"Standard output cannot be written."_s, u"vellumo"_s})));
 }
+
+} // namespace vellumo

@@ -4,8 +4,9 @@
 #include "readback/database_check.h"
 #include "validation/project_review.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 Notice NoticeOf(const Finding &finding, const QString &inputName)
@@ -67,3 +68,5 @@ Exit VerifyDatabase(const CommandLine &line, const Console &console)
     ReviewProject(*project); // takes the blanks from the form information, as before a creation
     return TellFindings(CheckDatabase(*database, *project), InputName(input), console);
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 #include "cli/console.h"
 #include "model/project.h"
 
+namespace vellumo {
+
 /// Whether a database's bytes are what its project asks for. Complains of each thing that is not,
 /// with the input's name in front.
 bool Agrees(const QByteArray &database, const Project &project, const QString &inputName,
@@ -12,3 +14,5 @@ bool Agrees(const QByteArray &database, const Project &project, const QString &i
 /// Reads a database back and tells what is wrong with it, by itself or, where a project is named
 /// after it, against that.
 Exit VerifyDatabase(const CommandLine &line, const Console &console);
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 #include "ui/about/myHelp.h"
 #include "ui/main/appInfoForm.h"
 
+namespace vellumo {
+
 void ConnectHelp(appInfoForm &window, myHelp &help, const Environment &environment)
 {
     QObject::connect(&window, &appInfoForm::HelpAsked, &window, [&](quint32 contextId) {
@@ -16,3 +18,5 @@ void ConnectHelp(appInfoForm &window, myHelp &help, const Environment &environme
     QObject::connect(&window, &appInfoForm::AboutAsked, &window,
                      [&] { frmAbout(environment, &window).exec(); });
 }
+
+} // namespace vellumo

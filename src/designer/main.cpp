@@ -7,6 +7,8 @@
 
 #include <QApplication>
 
+using namespace vellumo;
+
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 void OpenWithDefaultAction(const QString &target)
@@ -35,3 +36,5 @@ Environment RealEnvironment()
                 },
             .open = OpenWithDefaultAction};
 }
+
+} // namespace vellumo

@@ -2,8 +2,9 @@
 
 #include <QFile>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QStringList ReadNames(const QString &resource)
@@ -27,3 +28,5 @@ const QStringList &CountryNames()
     static const QStringList names = ReadNames(u":/lists/countries.txt"_s);
     return names;
 }
+
+} // namespace vellumo

@@ -6,8 +6,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr qsizetype longestItem = 32;
@@ -137,3 +138,5 @@ void ItemList::Sort()
     SortBetween(m_items, 0, m_items.size() - 1, m_sortDescending ? descending : ascending);
     m_sortDescending = !m_sortDescending;
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 #include <span>
 
+namespace vellumo {
+
 /// In what the places where a list of items is edited differ.
 struct ItemListHost {
     struct AddLimit {
@@ -67,3 +69,5 @@ private:
     QStringList m_items;
     bool m_sortDescending = false;
 };
+
+} // namespace vellumo

@@ -4,8 +4,9 @@
 #include "model/question_types.h"
 #include "model/texts.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 using Edited = const EditedQuestion &;
@@ -93,3 +94,5 @@ QStringList ItemsOf(const clsDataSource &source, int questionId)
             items += row.Item;
     return items;
 }
+
+} // namespace vellumo

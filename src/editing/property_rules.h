@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+namespace vellumo {
+
 class clsDataSource;
 
 /// What a user can change of a question.
@@ -25,3 +27,5 @@ void ReplaceCurrentQuestion(clsDataSource &source, const EditedQuestion &edited)
 
 /// The items of the question with this Id in table order, whatever filter is set.
 QStringList ItemsOf(const clsDataSource &source, int questionId);
+
+} // namespace vellumo

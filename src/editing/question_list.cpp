@@ -9,6 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr qsizetype maxColumnName = 255;
@@ -124,3 +125,5 @@ Outcome DuplicateQuestion(clsDataSource &source)
     questions.SetPosition(position);
     return done;
 }
+
+} // namespace vellumo

@@ -3,6 +3,8 @@
 #include "model/clsDataSource.h"
 #include "model/result.h"
 
+namespace vellumo {
+
 // What can be done with the list of questions. The current question is the one on which the cursor
 // of the question table stands; every operation leaves it on a row where there is one.
 
@@ -28,3 +30,5 @@ bool MoveQuestionDown(clsDataSource &source);
 /// NAME(1), NAME(2), ... that is free; a name that grows too long is the error. The current
 /// question stays so.
 Outcome DuplicateQuestion(clsDataSource &source);
+
+} // namespace vellumo

@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 struct TypePicture {
@@ -68,3 +69,5 @@ std::optional<QuestionPreview> PreviewOf(const clsDataSource &source)
         preview.itemBox = ItemBoxOf(source, current.Id);
     return preview;
 }
+
+} // namespace vellumo

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace vellumo {
+
 /// The current question as the handheld will show it.
 struct QuestionPreview {
     QString position;      ///< such as "3 of 7"
@@ -23,3 +25,5 @@ struct QuestionPreview {
 
 /// The preview of the current question; nothing where there is none.
 std::optional<QuestionPreview> PreviewOf(const clsDataSource &source);
+
+} // namespace vellumo

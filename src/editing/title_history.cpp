@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+namespace vellumo {
 namespace {
 
 constexpr qsizetype places = 10;
@@ -19,3 +20,5 @@ void RememberTitle(const QString &title, QStringList &titleList, QStringList &of
         std::shift_left(titleList.begin(), titleList.begin() + places, 1);
     titleList[used - 1] = title;
 }
+
+} // namespace vellumo

@@ -5,8 +5,9 @@
 
 #include <span>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr StepButtons stepButtons[][2] = {
@@ -153,3 +154,5 @@ void AppendQuestion(clsDataSource &source, const NewQuestion &question)
     for (const QString &item : question.items)
         source.Items().Append({row.Id, item});
 }
+
+} // namespace vellumo

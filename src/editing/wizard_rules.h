@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace vellumo {
+
 /// A question as it is entered in the wizard. The steps ask for its parts in the order of the
 /// members: steps 1 to 5.
 struct NewQuestion {
@@ -41,3 +43,5 @@ QString ProposedColumnName(const clsDataSource &source);
 
 /// Appends the question under a fresh Id, and its items if its type has any; it becomes current.
 void AppendQuestion(clsDataSource &source, const NewQuestion &question);
+
+} // namespace vellumo

@@ -9,6 +9,8 @@
 #include <optional>
 #include <vector>
 
+namespace vellumo {
+
 using namespace archive;
 
 namespace {
@@ -227,3 +229,5 @@ bool IsSoundArchive(QIODevice &file)
 {
     return DirectoryCheck(file).Passes();
 }
+
+} // namespace vellumo

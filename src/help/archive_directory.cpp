@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace vellumo {
+
 using namespace archive;
 
 namespace {
@@ -139,3 +141,5 @@ QByteArray WriteDirectory(std::vector<ArchiveEntry> entries)
         chunks += WriteIndex(listings);
     return WriteHeader(count, qint32(chunks.size() / chunkSize)) + chunks;
 }
+
+} // namespace vellumo

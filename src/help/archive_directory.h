@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace vellumo {
+
 /// Where an object lies; a folder has a name that ends with a slash and no bytes.
 struct ArchiveEntry {
     QByteArray path;
@@ -15,3 +17,5 @@ struct ArchiveEntry {
 /// names is at most 512 bytes, and all of them are few enough for one index (some hundred
 /// thousand).
 QByteArray WriteDirectory(std::vector<ArchiveEntry> entries);
+
+} // namespace vellumo

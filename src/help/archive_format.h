@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace vellumo {
+
 // The outer form of a compiled help file: a header, a directory of chunks that names every object,
 // and the objects one after the other. All numbers are little-endian.
 
@@ -38,3 +40,5 @@ inline constexpr Guid chunksGuid = {0x6A, 0x92, 0x02, 0x5D, 0x2E, 0x21, 0xD0, 0x
                                     0x9D, 0xF9, 0x00, 0xA0, 0xC9, 0x22, 0xE6, 0xEC};
 
 } // namespace archive
+
+} // namespace vellumo

@@ -8,6 +8,8 @@
 
 #include <set>
 
+namespace vellumo {
+
 using namespace archive;
 
 namespace {
@@ -85,3 +87,5 @@ QByteArray WriteArchive(const std::map<QByteArray, QByteArray> &objects)
     const QByteArray directory = WriteDirectory(std::move(entries));
     return WriteHeader(directory.size(), content.size()) + directory + content;
 }
+
+} // namespace vellumo

@@ -4,6 +4,7 @@
 
 #include <bit>
 
+namespace vellumo {
 namespace {
 
 constexpr quint32 blockSize = 0x8000;
@@ -56,3 +57,5 @@ std::optional<quint64> SizeBeforeCompression(const QByteArray &controlData,
         return std::nullopt;
     return quint64(count) * blockSize;
 }
+
+} // namespace vellumo

@@ -7,6 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// Gathers lines from the tags of a file: lists give the level, objects the lines.
@@ -73,3 +74,5 @@ std::vector<ContentsEntry> ReadContents(const QString &html)
         reader.Read(tag);
     return reader.TakeEntries();
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace vellumo {
+
 /// A line of the tree of contents.
 struct ContentsEntry {
     int level = 0; ///< 0 = top; never more than one below the entry before
@@ -13,3 +15,5 @@ struct ContentsEntry {
 
 /// The lines of a contents file (.hhc), from top to bottom.
 std::vector<ContentsEntry> ReadContents(const QString &html);
+
+} // namespace vellumo

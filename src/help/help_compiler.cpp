@@ -8,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QByteArray ZeroEnded(QAnyStringView text)
@@ -74,3 +75,5 @@ Result<QByteArray> CompileHelp(const HelpSource &source)
     AddTopics(objects, source.topics);
     return WriteArchive(objects);
 }
+
+} // namespace vellumo

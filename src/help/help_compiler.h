@@ -9,6 +9,8 @@
 #include <map>
 #include <span>
 
+namespace vellumo {
+
 /// What a help file is made of.
 struct HelpSource {
     QString title;
@@ -21,3 +23,5 @@ struct HelpSource {
 
 /// The compiled help file. Fails where a page that the source names is not among its files.
 Result<QByteArray> CompileHelp(const HelpSource &source);
+
+} // namespace vellumo

@@ -12,6 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr quint64 largestObject = 16 << 20;
@@ -113,7 +114,7 @@ Result<QByteArray> HelpFile::Object(const QString &name) const
 QString HelpFile::TitleOf(const QString &page) const
 {
     const auto bytes = Object(page);
-    const QString title = bytes ? ::TitleOf(DecodeHtml(*bytes)) : QString();
+    const QString title = bytes ? TitleIn(DecodeHtml(*bytes)) : QString();
     return title.isEmpty() ? page : title;
 }
 
@@ -177,3 +178,5 @@ void HelpFile::ReadContentsFile(const QString &name)
     for (ContentsEntry &entry : m_contents)
         entry.page = Locate(entry.page);
 }
+
+} // namespace vellumo

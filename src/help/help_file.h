@@ -12,6 +12,8 @@
 
 struct chmFile;
 
+namespace vellumo {
+
 /// A compiled help file, open for reading. Pages go by their names in it, without a slash before
 /// them: "pictures/103.png".
 class HelpFile
@@ -53,3 +55,5 @@ private:
     std::map<quint32, QString> m_topics;
     std::vector<ContentsEntry> m_contents;
 };
+
+} // namespace vellumo

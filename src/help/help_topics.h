@@ -2,6 +2,8 @@
 
 #include <QLatin1StringView>
 
+namespace vellumo {
+
 // What the windows and the help file must agree on: which number leads to which page.
 
 namespace HelpContext {
@@ -42,3 +44,5 @@ inline constexpr HelpTopic helpTopics[] = {
 inline constexpr QLatin1StringView helpTitle{"Vellumo Designer Help"};
 inline constexpr QLatin1StringView helpDefaultPage{"index.html"};
 inline constexpr QLatin1StringView helpContents{"contents.hhc"};
+
+} // namespace vellumo

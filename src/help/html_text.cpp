@@ -9,6 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr struct {
@@ -94,7 +95,7 @@ std::vector<HtmlTag> TagsOf(const QString &html)
     return tags;
 }
 
-QString TitleOf(const QString &html)
+QString TitleIn(const QString &html)
 {
     const std::vector<HtmlTag> tags = TagsOf(html);
     const auto title = std::ranges::find(tags, u"title"_s, &HtmlTag::name);
@@ -104,3 +105,5 @@ QString TitleOf(const QString &html)
         return {};
     return ReadEntities(html.sliced(title->end, end->start - title->end)).simplified();
 }
+
+} // namespace vellumo

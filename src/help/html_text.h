@@ -5,6 +5,8 @@
 #include <map>
 #include <vector>
 
+namespace vellumo {
+
 // As much of HTML as the help needs to know beside the viewer: tags, their attributes, the title.
 
 struct HtmlTag {
@@ -23,4 +25,6 @@ QString DecodeHtml(const QByteArray &bytes);
 std::vector<HtmlTag> TagsOf(const QString &html);
 
 /// The text with its white space made single; empty where the page has no title.
-QString TitleOf(const QString &html);
+QString TitleIn(const QString &html);
+
+} // namespace vellumo

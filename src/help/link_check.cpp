@@ -8,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// What the pages offer and what they ask for.
@@ -48,3 +49,5 @@ QStringList FindBrokenLinks(const std::map<QString, QByteArray> &files)
     }
     return broken;
 }
+
+} // namespace vellumo

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QtEndian>
 
+namespace vellumo {
+
 /// Appends the value, its lowest byte first.
 template <typename Number> void AppendLittle(QByteArray &bytes, Number value)
 {
@@ -16,3 +18,5 @@ template <typename Number> Number LittleAt(QByteArrayView bytes, qsizetype offse
     Q_ASSERT(offset >= 0 && bytes.size() - offset >= qsizetype(sizeof(Number)));
     return qFromLittleEndian<Number>(bytes.data() + offset);
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <iostream>
 
+using namespace vellumo;
+
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);

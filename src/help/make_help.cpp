@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 Result<HelpSource> ReadSource(const QString &folder, const QStringList &names)
@@ -57,3 +58,5 @@ int MakeHelp(const QStringList &arguments, std::ostream &err)
     err << "make-help: " << Describe(made.error()).toStdString() << '\n';
     return 1;
 }
+
+} // namespace vellumo

@@ -8,8 +8,9 @@
 
 #include <optional>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr char firstContent[] = "<Vmdesigner>\r\n"
@@ -141,3 +142,5 @@ void HideOpenFormNextTime(const QString &applicationFolder)
     const QByteArray document = settings->withZero.trimmed().replace("\n", "\r\n") + "\r\n";
     static_cast<void>(ReplaceFile(path, document));
 }
+
+} // namespace vellumo

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace vellumo {
+
 // The settings file keeps one preference between runs, in the application folder: whether the
 // start-up chooser is shown. Nothing here ever stops a start; nothing switches the chooser on again
 // but deleting the file.
@@ -25,3 +27,5 @@ ShowOpenForm ReadShowOpenForm(const QString &applicationFolder);
 /// Sets the value to 0 and keeps what else the document holds. A file that is not understood or
 /// cannot be replaced stays as it is.
 void HideOpenFormNextTime(const QString &applicationFolder);
+
+} // namespace vellumo

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+namespace vellumo {
 namespace {
 
 template <typename OptionalTable> auto &Available(OptionalTable &table)
@@ -146,3 +147,5 @@ int clsDataSource::IssueId()
         ++m_maxId;
     return id;
 }
+
+} // namespace vellumo

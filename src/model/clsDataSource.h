@@ -7,6 +7,8 @@
 #include <optional>
 #include <stdexcept>
 
+namespace vellumo {
+
 /// A question. Order is its position from 1; Id never changes and links it to its items.
 struct QuestionRow {
     int Order = 0;
@@ -95,3 +97,5 @@ private:
     std::optional<Table<ItemRow>> m_rcChilds;
     int m_maxId = 1;
 };
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace vellumo {
+
 /// One Vellsheet under design. A new one has both tables, empty, and nothing in its texts.
 struct Project {
     QString FormName = {};
@@ -23,3 +25,5 @@ struct Project {
         return created;
     }();
 };
+
+} // namespace vellumo

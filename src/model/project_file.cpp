@@ -7,8 +7,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// Writes on after a part, so that what stopped it shows as the file's error.
@@ -74,3 +75,5 @@ Outcome ReplaceFile(const QString &path, const QByteArray &bytes)
         return Error{file.errorString(), path};
     return done;
 }
+
+} // namespace vellumo

@@ -3,6 +3,8 @@
 #include "model/project.h"
 #include "model/result.h"
 
+namespace vellumo {
+
 /// What the user is told of a file that cannot be read as a project, whatever the reason.
 inline constexpr QLatin1StringView invalidProjectFile{"This file is not a valid VMP file."};
 
@@ -26,3 +28,5 @@ Result<QByteArray> ReadWholeFile(const QString &path);
 
 /// Puts bytes in the place of a file, which stays whole until they are all on disk.
 Outcome ReplaceFile(const QString &path, const QByteArray &bytes);
+
+} // namespace vellumo

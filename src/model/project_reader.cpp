@@ -8,8 +8,9 @@
 #include <algorithm>
 #include <array>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 bool IsKnownCompany(QStringView tag)
@@ -229,3 +230,5 @@ Result<Project> ReadProject(const QByteArray &bytes)
 {
     return Reader(bytes).Read();
 }
+
+} // namespace vellumo

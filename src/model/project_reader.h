@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+namespace vellumo {
+
 /// The project that a file's bytes hold; its path is empty.
 ///
 /// The elements may stand in any order; of one that stands twice the first counts, and one that is
@@ -12,3 +14,5 @@
 /// company tag is missing or another's, entities are declared, an element is missing, or a number
 /// is no 32-bit decimal.
 Result<Project> ReadProject(const QByteArray &bytes);
+
+} // namespace vellumo

@@ -8,8 +8,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// Every reader of XML takes a line's end for a line feed; written as one it stays the same.
@@ -143,3 +144,5 @@ Result<QByteArray> WriteProject(const Project &project)
     writer.Line("</root>");
     return writer.Finish();
 }
+
+} // namespace vellumo

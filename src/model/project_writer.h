@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+namespace vellumo {
+
 /// The bytes of a project's file: XML in windows-1252 with CR LF, one element a line, every value
 /// without the blanks at its ends and in a CDATA section. A value that holds "]]>" is written as it
 /// stands, and the file cannot be read again. Line ends within values are written as line feeds.
@@ -12,3 +14,5 @@
 /// Fails at the first character that windows-1252 or XML does not have, and on a project whose file
 /// would be larger than largestFile.
 Result<QByteArray> WriteProject(const Project &project);
+
+} // namespace vellumo

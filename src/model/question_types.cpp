@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 const std::array<QLatin1StringView, 10> questionTypes = {
     "Text"_L1,  "Numeric"_L1,   "Pulldown List"_L1, "Yes/No"_L1,          "Signature"_L1,
@@ -48,3 +50,5 @@ QLatin1StringView FieldDataCode(QStringView type)
 {
     return CodesOf(type).data;
 }
+
+} // namespace vellumo

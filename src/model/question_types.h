@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace vellumo {
+
 /// The names of the ten question types, in the order in which every chooser offers them.
 /// A type is held as its name and compared exactly.
 extern const std::array<QLatin1StringView, 10> questionTypes;
@@ -18,3 +20,5 @@ QLatin1StringView QuestionKindCode(QStringView type);
 
 /// The kind of value that the handheld stores for a type, written likewise.
 QLatin1StringView FieldDataCode(QStringView type);
+
+} // namespace vellumo

@@ -1,6 +1,8 @@
 #include "model/result.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 QString Describe(const Error &error)
 {
@@ -9,3 +11,5 @@ QString Describe(const Error &error)
         where += u":%1"_s.arg(error.line);
     return where.isEmpty() ? error.text : where + ": "_L1 + error.text;
 }
+
+} // namespace vellumo

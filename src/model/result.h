@@ -5,6 +5,8 @@
 #include <utility>
 #include <variant>
 
+namespace vellumo {
+
 /// What went wrong, ready to show; line counts from 1, 0 = none applies.
 struct Error {
     QString text;
@@ -36,3 +38,5 @@ private:
 /// Done, or the Error that stood in the way.
 using Outcome = Result<std::monostate>;
 inline const Outcome done = Outcome(std::monostate());
+
+} // namespace vellumo

@@ -7,6 +7,8 @@
 #include <functional>
 #include <ranges>
 
+namespace vellumo {
+
 /// Rows in the order in which they were added, with a cursor and a filter.
 ///
 /// While a filter is set the table behaves as if it held only the rows that pass. The cursor stands
@@ -115,3 +117,5 @@ private:
     Filter m_filter;
     Position m_cursor = -1;
 };
+
+} // namespace vellumo

@@ -2,7 +2,9 @@
 
 #include "platform/code_page.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 QString Describe(const TextPlace &place)
 {
@@ -28,3 +30,5 @@ QStringView TrimBlanks(QStringView text)
         text.chop(1);
     return text;
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QLatin1StringView>
 
+namespace vellumo {
+
 /// Where a text stands in a project, for messages.
 struct TextPlace {
     QLatin1StringView field; ///< its name to a user, such as "title" or "form name"
@@ -21,3 +23,5 @@ Outcome AppendEncoded(QByteArray &bytes, QStringView text, const TextPlace &plac
 
 /// A text without the blanks (U+0020 alone) at its ends; tabs and line breaks stay.
 QStringView TrimBlanks(QStringView text);
+
+} // namespace vellumo

@@ -2,8 +2,9 @@
 
 #include <QDir>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// The files of one build. A separator stands before the database's name although the projects
@@ -70,3 +71,5 @@ BuildReport Build(const QString &name, const BuildPlace &place)
     report.fault = DeleteBoth(files.resources, files.script);
     return report;
 }
+
+} // namespace vellumo

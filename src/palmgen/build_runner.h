@@ -8,6 +8,8 @@
 #include <functional>
 #include <optional>
 
+namespace vellumo {
+
 /// Where a build takes place and what it uses.
 struct BuildPlace {
     QString applicationFolder; ///< holds the script; without a separator at its end
@@ -26,3 +28,5 @@ struct BuildReport {
 /// Turns <applicationFolder>/<name>.rcp into <projectsFolder>/<name>.prc with pilrc and build-prc.
 /// Deletes an earlier database and an earlier resource file first, resource file and script last.
 BuildReport Build(const QString &name, const BuildPlace &place);
+
+} // namespace vellumo

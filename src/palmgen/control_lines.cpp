@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// What a type's lines are, in two parts where its items stand between them.
@@ -69,3 +70,5 @@ QString ControlLines(QStringView type, QStringView items)
         return block->beforeItems;
     return block->beforeItems + QuotedItems(items) + block->afterItems;
 }
+
+} // namespace vellumo

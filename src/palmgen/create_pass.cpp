@@ -6,8 +6,9 @@
 #include <QDir>
 #include <QFileInfo>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr QLatin1StringView creationError = "Error in Vellsheet Creation!"_L1;
@@ -69,3 +70,5 @@ CreateReport CreateVellsheet(const Project &project, const CreateSurroundings &s
     surroundings.open(folder);
     return report;
 }
+
+} // namespace vellumo

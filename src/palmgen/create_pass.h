@@ -4,6 +4,8 @@
 #include "model/result.h"
 #include "palmgen/build_runner.h"
 
+namespace vellumo {
+
 /// What a Create pass needs from outside. The texts that it hands over are ready to show.
 struct CreateSurroundings {
     BuildPlace place;
@@ -29,3 +31,5 @@ struct CreateReport {
 /// by the platform's words where permission was denied. A script that failed is left as far as it
 /// was written.
 CreateReport CreateVellsheet(const Project &project, const CreateSurroundings &surroundings);
+
+} // namespace vellumo

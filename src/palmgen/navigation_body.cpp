@@ -1,7 +1,8 @@
 #include "palmgen/navigation_body.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 bool HasSecondControl(QStringView type)
@@ -26,3 +27,5 @@ QString NavigationBody(QStringView type)
            "ID 100 BELOW 2 ABOVE 101\r\n"
            "END\r\n"_L1;
 }
+
+} // namespace vellumo

@@ -7,8 +7,9 @@
 
 #include <QHash>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr int largestCount = 255;
@@ -203,3 +204,5 @@ QString EscapeScriptString(QStringView text)
     }
     return escaped;
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+namespace vellumo {
+
 /// A resource script in windows-1252 with CR LF, and how its writing ended. After a failure the
 /// bytes are those that were written until then.
 struct Script {
@@ -26,3 +28,5 @@ QString IdentifierDigits(QString registryForm);
 /// A text as it stands between quotes in the script: each quote has one backslash in front,
 /// however many stood there. Other backslashes stay as they are.
 QString EscapeScriptString(QStringView text);
+
+} // namespace vellumo

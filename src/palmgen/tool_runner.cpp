@@ -6,8 +6,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr qsizetype mostMessages = 64 * 1024; // in bytes
@@ -68,3 +69,5 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
     run.messages = QString::fromLocal8Bit(messages.isEmpty() ? output : messages);
     return run;
 }
+
+} // namespace vellumo

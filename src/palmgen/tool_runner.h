@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace vellumo {
+
 /// A tool to be run: its arguments are handed over one by one and never pass through a shell.
 struct ToolCall {
     QString name; ///< without a folder, such as "pilrc"
@@ -32,3 +34,5 @@ struct ToolLimits {
 /// events other than keys and clicks are processed once after the start. Of what the tool writes
 /// the first 64 KiB of each stream are kept.
 ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits);
+
+} // namespace vellumo

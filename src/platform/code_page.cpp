@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 // Bytes 0x80 to 0x9F; all others stand for the character of the same number.
@@ -58,3 +59,5 @@ QString DescribeCharacter(QStringView text, qsizetype index)
     const QString name = u"U+%1"_s.arg(QString::number(code, 16).toUpper(), 4, u'0');
     return QChar::isPrint(code) ? u"'%1' (%2)"_s.arg(QString::fromUcs4(&code, 1), name) : name;
 }
+
+} // namespace vellumo

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <system_error>
 
+namespace vellumo {
 namespace {
 
 FileFault Fault(const std::error_code &code)
@@ -39,3 +40,5 @@ std::optional<FileFault> RemoveFile(const QString &path)
         return std::nullopt;
     return Fault(code);
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace vellumo {
+
 /// Why the platform refused to write or delete a file.
 struct FileFault {
     QString description; ///< the platform's own words
@@ -16,3 +18,5 @@ std::optional<FileFault> WriteNewFile(const QString &path, const QByteArray &byt
 
 /// Deletes a file; one that does not exist is no fault.
 std::optional<FileFault> RemoveFile(const QString &path);
+
+} // namespace vellumo

@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QStandardPaths>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 QString ApplicationFolder()
 {
@@ -29,3 +31,5 @@ QString DataFolderOf(const QString &folder)
     const bool hasDrive = path.size() >= 2 && path[1] == u':';
     return hasDrive ? path : "Z:"_L1 + path;
 }
+
+} // namespace vellumo

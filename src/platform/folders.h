@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace vellumo {
+
 /// The folder of the running program, without a separator at its end.
 QString ApplicationFolder();
 
@@ -17,3 +19,5 @@ bool MakeProjectsFolder();
 /// folders have no drive letters, drive Z: is the root, as under the common Windows compatibility
 /// layer.
 QString DataFolderOf(const QString &folder);
+
+} // namespace vellumo

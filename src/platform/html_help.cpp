@@ -8,6 +8,8 @@
 #include <htmlhelp.h>
 #endif
 
+namespace vellumo {
+
 bool CallHelpViewer([[maybe_unused]] quintptr owner, [[maybe_unused]] const QString &file,
                     [[maybe_unused]] int command, [[maybe_unused]] quint32 data)
 {
@@ -18,3 +20,5 @@ bool CallHelpViewer([[maybe_unused]] quintptr owner, [[maybe_unused]] const QStr
     return false;
 #endif
 }
+
+} // namespace vellumo

@@ -2,7 +2,11 @@
 
 #include <QUuid>
 
+namespace vellumo {
+
 QString MakeIdentifier()
 {
     return QUuid::createUuid().toString().toUpper();
 }
+
+} // namespace vellumo

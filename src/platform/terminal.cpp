@@ -8,6 +8,8 @@
 #include <unistd.h>
 #endif
 
+namespace vellumo {
+
 bool StandardErrorIsTerminal()
 {
 #ifdef _WIN32
@@ -16,3 +18,5 @@ bool StandardErrorIsTerminal()
     return isatty(fileno(stderr)) != 0;
 #endif
 }
+
+} // namespace vellumo

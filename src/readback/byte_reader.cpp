@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 QByteArrayView ByteReader::Take(qsizetype count)
 {
@@ -70,3 +72,5 @@ void ByteReader::Refuse(const QString &fault)
     if (!Failed())
         m_fault = fault;
 }
+
+} // namespace vellumo

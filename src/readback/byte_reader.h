@@ -3,6 +3,8 @@
 #include <QByteArrayView>
 #include <QString>
 
+namespace vellumo {
+
 /// Takes big-endian values from the front of some bytes, which must outlive it.
 ///
 /// Never reads outside. The first thing that does not add up is kept as the fault; from then on
@@ -37,3 +39,5 @@ private:
     qsizetype m_offset = 0;
     QString m_fault;
 };
+
+} // namespace vellumo

@@ -6,8 +6,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr QLatin1StringView valueList = "list of value kinds"_L1;
@@ -174,3 +175,5 @@ std::span<const DataResource> DataResources()
 {
     return dataResources;
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <span>
 
+namespace vellumo {
+
 /// A resource that every database has once, whatever its questions are.
 struct DataResource {
     QByteArrayView type;
@@ -15,3 +17,5 @@ struct DataResource {
 };
 
 std::span<const DataResource> DataResources();
+
+} // namespace vellumo

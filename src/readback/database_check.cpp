@@ -6,8 +6,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr QByteArrayView formType = "tFRM";
@@ -120,3 +121,5 @@ QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &projec
     CheckForOthers(database, texts.questions.size(), findings);
     return findings;
 }
+
+} // namespace vellumo

@@ -6,6 +6,8 @@
 
 #include <QList>
 
+namespace vellumo {
+
 /// Holds a database against the project that it should have been made from: its header, which
 /// resources it has, and every resource to its last byte. Empty when nothing differs.
 ///
@@ -16,3 +18,5 @@ QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &projec
 /// Checks a database by itself: whether it is of the kind that we make, every resource of it can be
 /// decoded, and all of them tell the same number of questions.
 QList<Finding> CheckDatabase(const PalmDatabase &database);
+
+} // namespace vellumo

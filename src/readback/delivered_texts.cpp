@@ -6,8 +6,9 @@
 #include <QHash>
 #include <QStringList>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QByteArray Encoded(QStringView text, const TextPlace &place, QList<Finding> &findings)
@@ -72,3 +73,5 @@ DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings)
     }
     return texts;
 }
+
+} // namespace vellumo

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QList>
 
+namespace vellumo {
+
 /// The texts of a question as the handheld must have them, in windows-1252.
 struct DeliveredQuestion {
     QString type; ///< as the project has it
@@ -31,3 +33,5 @@ struct DeliveredTexts {
 /// A text with a character that windows-1252 lacks is a finding; what stands before the character
 /// is delivered then.
 DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings);
+
+} // namespace vellumo

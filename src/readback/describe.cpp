@@ -7,8 +7,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QByteArray DataOf(const PalmDatabase &database, QByteArrayView type, quint32 number)
@@ -85,3 +86,5 @@ ProjectSummary Summarize(const Project &project)
     }
     return summary;
 }
+
+} // namespace vellumo

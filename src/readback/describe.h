@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace vellumo {
+
 /// What is in a database, told by itself. Texts are as stored and may hold any character. What a
 /// database does not have, or has in no shape that can be read, is left out.
 struct DatabaseSummary {
@@ -30,3 +32,5 @@ struct ProjectSummary {
     QStringList titles = {};
 };
 ProjectSummary Summarize(const Project &project);
+
+} // namespace vellumo

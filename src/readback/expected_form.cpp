@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr quint32 usable = 0x8000;
@@ -184,3 +185,5 @@ Navigation ExpectedNavigation(QStringView type)
             .initialObject = 2,
             .items = answer + QList<NavigationItem>{{101, 99, 100}, {100, 101, 2}}};
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 #include "readback/form_reader.h"
 #include "readback/navigation_reader.h"
 
+namespace vellumo {
+
 /// The form that a question must have, object by object; a question of an unknown type has only
 /// what every form has. The width of a list is the least that it can be: it grows with the widths
 /// of the items' letters in the handheld's font, which are not known here.
@@ -11,3 +13,5 @@ Form ExpectedForm(quint32 number, const DeliveredQuestion &question);
 
 /// The navigation that goes with the form of a question of a type.
 Navigation ExpectedNavigation(QStringView type);
+
+} // namespace vellumo

@@ -2,7 +2,9 @@
 
 #include "readback/shown_text.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 Finding OtherText(QLatin1StringView code, const TextPlace &place, QByteArrayView found,
                   QByteArrayView expected)
@@ -14,3 +16,5 @@ Finding DamagedResource(const TextPlace &place, const QString &damage)
 {
     return {"resource-damaged"_L1, place, u"%1 is damaged: %2."_s.arg(Describe(place), damage)};
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 #include <QByteArrayView>
 #include <QString>
 
+namespace vellumo {
+
 /// Something in which a database is not what its project asks for.
 struct Finding {
     QLatin1StringView code; ///< for machines, such as "item-count"; never changes
@@ -19,3 +21,5 @@ Finding OtherText(QLatin1StringView code, const TextPlace &place, QByteArrayView
 /// The finding "resource-damaged" for a resource that cannot be decoded; the damage goes on after
 /// "... is damaged: ".
 Finding DamagedResource(const TextPlace &place, const QString &damage);
+
+} // namespace vellumo

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 using FormPart = Part<Form>;
@@ -232,3 +233,5 @@ Result<Form> ReadForm(const QByteArray &resource)
         return Error{reader.Fault()};
     return form;
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QList>
 
+namespace vellumo {
+
 enum class ObjectKind : quint32 {
     Field = 0,
     Control = 1, ///< button, check box, popup trigger, selector trigger: its style tells
@@ -52,3 +54,5 @@ QString Describe(const FormObject &object);
 /// where the directory, an object, its padding or the end do not add up, or a byte that is always
 /// zero is not. Numbers and flags are taken as they are. Any bytes may be given.
 Result<Form> ReadForm(const QByteArray &resource);
+
+} // namespace vellumo

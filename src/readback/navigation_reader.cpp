@@ -2,6 +2,7 @@
 
 #include "readback/parts.h"
 
+namespace vellumo {
 namespace {
 
 constexpr quint32 version = 1;
@@ -38,3 +39,5 @@ Result<Navigation> ReadNavigation(const QByteArray &resource)
         return Error{reader.Fault()};
     return navigation;
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QList>
 
+namespace vellumo {
+
 /// Where the focus goes from an object of a form; each is the number of an object, 0 = nowhere.
 struct NavigationItem {
     quint32 number = 0;
@@ -25,3 +27,5 @@ struct Navigation {
 
 /// Decodes the navigation of a form ('fnav') to its last byte. Fails as ReadForm does.
 Result<Navigation> ReadNavigation(const QByteArray &resource);
+
+} // namespace vellumo

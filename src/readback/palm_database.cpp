@@ -6,8 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr qsizetype nameSize = 32;
@@ -116,3 +117,5 @@ Result<PalmDatabase> ReadDatabase(const QByteArray &bytes)
         return Error{u"This is no sound Palm database: %1."_s.arg(reader.Fault())};
     return database;
 }
+
+} // namespace vellumo

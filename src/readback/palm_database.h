@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QList>
 
+namespace vellumo {
+
 struct PalmResource {
     QByteArray type; ///< 4 bytes
     quint32 number = 0;
@@ -37,3 +39,5 @@ QString Describe(const PalmResource &resource);
 /// The last resource reaches to the end of the file, so that bytes too many or too few there can
 /// only be told from its content.
 Result<PalmDatabase> ReadDatabase(const QByteArray &bytes);
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <span>
 
+namespace vellumo {
+
 /// What stands at one place of a binary layout: the value of a member, or without a member a
 /// constant of up to 4 bytes, or zeros of any size.
 template <typename T> struct Part {
@@ -23,3 +25,5 @@ template <typename T> void TakeParts(ByteReader &reader, std::span<const Part<T>
             reader.PassZeros(part.size);
     }
 }
+
+} // namespace vellumo

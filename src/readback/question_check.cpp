@@ -6,8 +6,9 @@
 #include <algorithm>
 #include <span>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr quint32 questionLabel = 1;
@@ -178,3 +179,5 @@ void CheckNavigation(const QByteArray &resource, const DeliveredQuestion &questi
         findings.append(
             {"navigation"_L1, place, u"%1 is not that of its type."_s.arg(Describe(place))});
 }
+
+} // namespace vellumo

@@ -2,6 +2,8 @@
 
 #include "readback/delivered_texts.h"
 
+namespace vellumo {
+
 // Both hold one resource of a question, whose number counts from 1, against what it must be, and
 // append what differs. A resource that cannot be decoded is one finding, "resource-damaged".
 
@@ -10,3 +12,5 @@ void CheckForm(const QByteArray &resource, const DeliveredQuestion &question, in
 
 void CheckNavigation(const QByteArray &resource, const DeliveredQuestion &question, int number,
                      QList<Finding> &findings);
+
+} // namespace vellumo

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+namespace vellumo {
 namespace {
 
 constexpr int endOfText = 0400; // as an octal escape it ends the text where it stands
@@ -96,3 +97,5 @@ QByteArray WithEscapedQuotes(QByteArrayView text)
     }
     return escaped;
 }
+
+} // namespace vellumo

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+namespace vellumo {
+
 /// What a text stands for that is written between the quotes of a resource script, where a
 /// backslash starts an escape. The result has no zero byte unless the text has one. A quote without
 /// a backslash and a backslash at the end stand in no sound script; here the one stands for itself
@@ -11,3 +13,5 @@ QByteArray InterpretScriptText(QByteArrayView written);
 /// A text as those with free wording are written into a script: a backslash before every quote, in
 /// place of those that stand before it already. Other backslashes stay single.
 QByteArray WithEscapedQuotes(QByteArrayView text);
+
+} // namespace vellumo

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QString Printable(QByteArrayView bytes)
@@ -44,3 +45,5 @@ QString ShownDifference(QByteArrayView found, QByteArrayView expected)
     const qsizetype place = first - found.begin();
     return u"%1 instead of %2"_s.arg(ShownAround(found, place), ShownAround(expected, place));
 }
+
+} // namespace vellumo

@@ -8,8 +8,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// The finding of a resource that cannot be decoded, if it is of a type that can.
@@ -109,3 +110,5 @@ QList<Finding> CheckDatabase(const PalmDatabase &database)
         CheckResource(resource, findings);
     return findings;
 }
+
+} // namespace vellumo

@@ -2,6 +2,8 @@
 
 #include "readback/byte_reader.h"
 
+namespace vellumo {
+
 Result<QByteArray> ReadTextResource(const QByteArray &resource, Padding padding)
 {
     ByteReader reader(resource);
@@ -27,3 +29,5 @@ Result<StringTable> ReadStringTable(const QByteArray &resource)
         return Error{reader.Fault()};
     return table;
 }
+
+} // namespace vellumo

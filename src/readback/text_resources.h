@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QList>
 
+namespace vellumo {
+
 /// What follows the zero byte of a text: nothing, or a second one where the size would be odd.
 enum class Padding { None, ToEven };
 
@@ -19,3 +21,5 @@ struct StringTable {
 
 /// Decodes a string table ('tSTL') to its last byte. Fails as ReadForm does.
 Result<StringTable> ReadStringTable(const QByteArray &resource);
+
+} // namespace vellumo

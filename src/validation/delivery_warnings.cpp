@@ -7,8 +7,9 @@
 #include <algorithm>
 #include <span>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 struct TextCheck {
@@ -174,3 +175,5 @@ std::vector<DeliveryWarning> FindDeliveryWarnings(const Project &project)
 {
     return Walk(project).Run();
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace vellumo {
+
 /// A text of a project that does not arrive on the handheld as typed, although the review may pass.
 struct DeliveryWarning {
     QLatin1StringView code; ///< for machines, such as "backslash"; never changes
@@ -22,3 +24,5 @@ QString Describe(const DeliveryWarning &warning);
 ///
 /// Takes time in proportion to questions and items.
 std::vector<DeliveryWarning> FindDeliveryWarnings(const Project &project);
+
+} // namespace vellumo

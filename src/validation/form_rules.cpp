@@ -5,8 +5,9 @@
 #include <algorithm>
 #include <span>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 template <typename Subject> struct Check {
@@ -119,3 +120,5 @@ void ValidateQuestionCount(int count, bool &failed, QString &message)
 {
     Apply<int>(countChecks, count, failed, message);
 }
+
+} // namespace vellumo

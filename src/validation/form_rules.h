@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace vellumo {
+
 // What the form information and the size of the question list must satisfy before a Vellsheet can
 // be created. Every rule stops at its first failing check: then it sets the flag and stores that
 // check's message. A rule that passes leaves both as they were, so one flag can serve several.
@@ -22,3 +24,5 @@ void ValidateAppDesc(QString &description, bool &failed, QString &message);
 void ValidateAppDir(QString &folder, bool &failed, QString &message);
 
 void ValidateQuestionCount(int count, bool &failed, QString &message);
+
+} // namespace vellumo

@@ -8,8 +8,9 @@
 #include <algorithm>
 #include <functional>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// A rule as the review applies it.
@@ -90,3 +91,5 @@ EntryTarget TargetOfEntry(QStringView listText)
         return {3, "txt3_appDir"_L1};
     return {};
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 #include <array>
 #include <vector>
 
+namespace vellumo {
+
 /// What one rule objects to.
 struct ReviewEntry {
     int step;                ///< the step of the designer that can mend it, 1 to 3
@@ -46,3 +48,5 @@ struct EntryTarget {
 /// The target of the entry that the list shows as this text, which may have blanks around it.
 /// An entry on the description leads to the name.
 EntryTarget TargetOfEntry(QStringView listText);
+
+} // namespace vellumo

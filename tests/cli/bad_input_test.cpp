@@ -4,7 +4,8 @@
 
 #include <random>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

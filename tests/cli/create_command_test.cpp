@@ -1,7 +1,8 @@
 #include "platform/code_page.h"
 #include "vellumo_run.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -2,7 +2,8 @@
 
 #include <QJsonArray>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 using InfoCommand = VellumoRun;

@@ -12,6 +12,8 @@
 
 #include <sstream>
 
+namespace vellumo {
+
 /// The headless command run in a folder of its own, with what it printed.
 class VellumoRun : public testing::Test
 {
@@ -51,3 +53,5 @@ private:
     int m_count = 1;
     QCoreApplication m_application{m_count, m_arguments};
 };
+
+} // namespace vellumo

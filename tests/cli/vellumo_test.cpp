@@ -1,6 +1,7 @@
 #include "vellumo_run.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

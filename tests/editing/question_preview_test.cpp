@@ -8,6 +8,7 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include <random>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 
@@ -25,7 +26,7 @@ TEST(HtmlText, FindsTheTitle)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        EXPECT_EQ(TitleOf(row.html), row.title);
+        EXPECT_EQ(TitleIn(row.html), row.title);
     }
 }
 

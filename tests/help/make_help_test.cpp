@@ -9,6 +9,7 @@
 #include <sstream>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

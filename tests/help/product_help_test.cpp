@@ -11,6 +11,7 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

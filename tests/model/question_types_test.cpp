@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 TEST(QuestionTypes, AreOfferedInTheirOrder)
 {

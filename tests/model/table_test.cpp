@@ -4,6 +4,8 @@
 
 #include <initializer_list>
 
+using namespace vellumo;
+
 namespace {
 
 using Numbers = Table<int>;

@@ -5,7 +5,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

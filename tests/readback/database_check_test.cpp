@@ -2,7 +2,8 @@
 
 #include "readback/findings.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 TEST(DatabaseCheck, FindsNothingInASoundDatabase)
 {

@@ -8,6 +8,8 @@
 
 #include <functional>
 
+namespace vellumo {
+
 /// The names of all databases of tests/data/palm.
 inline QStringList GoldenNames()
 {
@@ -71,3 +73,5 @@ inline QByteArray WithData(const QByteArray &bytes, QByteArrayView type, quint32
     }
     return WithResources(bytes, resources);
 }
+
+} // namespace vellumo

@@ -3,7 +3,8 @@
 #include "readback/databases.h"
 #include "readback/projects.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 TEST(Describe, TellsWhatIsInADatabase)
 {

@@ -4,6 +4,8 @@
 #include "readback/databases.h"
 #include "readback/projects.h"
 
+namespace vellumo {
+
 /// Findings as lines of code, field, question where there is one, and text.
 inline QStringList Lines(const QList<Finding> &findings)
 {
@@ -82,3 +84,5 @@ inline QStringList CodesOf(const QStringList &lines)
         codes += line.first(line.indexOf(u']') + 1);
     return codes;
 }
+
+} // namespace vellumo

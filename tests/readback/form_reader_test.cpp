@@ -2,7 +2,8 @@
 
 #include "readback/databases.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

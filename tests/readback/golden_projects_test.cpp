@@ -3,7 +3,8 @@
 #include "platform/code_page.h"
 #include "readback/findings.h"
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace vellumo {
+
 /// Appends a question under an Id that no other has, with its items.
 inline void AddQuestion(Project &project, const QuestionRow &question,
                         const QStringList &items = {})
@@ -19,7 +21,7 @@ inline void AddQuestion(Project &project, const QuestionRow &question,
 /// A project with what most of the golden databases have.
 inline Project GoldenProject(const QString &name)
 {
-    using namespace Qt::Literals::StringLiterals;
+    using namespace Qt::StringLiterals;
     return {.FormName = name,
             .FormVersion = u"1.0"_s,
             .Description = u"One question"_s,
@@ -37,7 +39,7 @@ inline Project OneQuestionProject(const QString &name, const QuestionRow &questi
 
 inline Project TextProject()
 {
-    using namespace Qt::Literals::StringLiterals;
+    using namespace Qt::StringLiterals;
     return OneQuestionProject(u"text"_s, {.Title = u"Finder"_s,
                                           .Question = u"Who found it?"_s,
                                           .Type = u"Text"_s,
@@ -47,7 +49,7 @@ inline Project TextProject()
 /// The project of tentypes, which has a question of each type.
 inline Project TenTypesProject()
 {
-    using namespace Qt::Literals::StringLiterals;
+    using namespace Qt::StringLiterals;
     const struct {
         QuestionRow question;
         QStringList items = {};
@@ -73,3 +75,5 @@ inline Project TenTypesProject()
         AddQuestion(project, row.question, row.items);
     return project;
 }
+
+} // namespace vellumo

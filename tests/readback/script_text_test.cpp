@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace vellumo;
+
 TEST(ScriptText, StandsForItselfWithoutABackslash)
 {
     EXPECT_EQ(InterpretScriptText(""), "");

@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr int pictureSize = 64;
@@ -44,3 +45,5 @@ frmAbout::frmAbout(const Environment &environment, QWidget *parent)
 }
 
 frmAbout::~frmAbout() = default;
+
+} // namespace vellumo

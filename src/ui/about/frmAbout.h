@@ -6,6 +6,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace Ui {
 class frmAbout;
 }
@@ -22,3 +23,5 @@ public:
 private:
     std::unique_ptr<Ui::frmAbout> ui;
 };
+
+} // namespace vellumo

@@ -6,6 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 const QString helpScheme = u"help"_s;
@@ -57,3 +58,5 @@ QString HelpBrowser::NameIn(const QUrl &address)
         return path.sliced(inner + 3);
     return address.scheme() == helpScheme && path.startsWith(u'/') ? path.sliced(1) : QString();
 }
+
+} // namespace vellumo

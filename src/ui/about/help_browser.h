@@ -4,6 +4,8 @@
 
 #include <QTextBrowser>
 
+namespace vellumo {
+
 /// Shows pages of a help file, and takes nothing from anywhere else. Links are only reported.
 class HelpBrowser : public QTextBrowser
 {
@@ -28,3 +30,5 @@ public:
 private:
     const HelpFile *m_file = nullptr;
 };
+
+} // namespace vellumo

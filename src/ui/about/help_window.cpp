@@ -7,6 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr int pageRole = Qt::UserRole;
@@ -151,3 +152,5 @@ void HelpWindow::CloseBarOrWindow()
     ui->findBar->hide();
     ui->txtPage->setFocus();
 }
+
+} // namespace vellumo

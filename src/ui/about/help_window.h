@@ -8,10 +8,12 @@
 #include <functional>
 #include <memory>
 
+class QTreeWidgetItem;
+
+namespace vellumo {
 namespace Ui {
 class HelpWindow;
 }
-class QTreeWidgetItem;
 
 /// A window of its own that shows a help file: its contents, a page, a bar to find words on it.
 /// It stays usable beside a modal owner.
@@ -43,3 +45,5 @@ private:
     HelpFile m_file;
     std::function<void(const QString &)> m_openLink;
 };
+
+} // namespace vellumo

@@ -9,6 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QWidget *OwnerFor(QWidget *asker)
@@ -77,3 +78,5 @@ HelpWindow *myHelp::WindowOf(const QWidget *owner) const
             return window;
     return nullptr;
 }
+
+} // namespace vellumo

@@ -6,8 +6,11 @@
 
 #include <vector>
 
-class HelpWindow;
 class QWidget;
+
+namespace vellumo {
+
+class HelpWindow;
 
 // Commands of help files and what their data are.
 inline constexpr int HH_DISPLAY_TOPIC = 0; ///< 0: the default page
@@ -37,3 +40,5 @@ private:
     const Environment &m_environment;
     std::vector<QPointer<HelpWindow>> m_windows;
 };
+
+} // namespace vellumo

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+namespace vellumo {
+
 /// What the windows need from outside; handed in, so that a test decides all of it.
 struct Environment {
     QString applicationFolder; ///< without a separator at its end
@@ -19,3 +21,5 @@ struct Environment {
     /// Opens a file, a folder or a web address with the platform's default action.
     std::function<void(const QString &target)> open;
 };
+
+} // namespace vellumo

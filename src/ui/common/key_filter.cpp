@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+namespace vellumo {
 namespace {
 
 class KeyFilter : public QObject
@@ -58,3 +59,5 @@ void RefuseKeys(QWidget *box, const QString &characters, const QString &message)
 {
     box->installEventFilter(new KeyFilter(box, characters, message));
 }
+
+} // namespace vellumo

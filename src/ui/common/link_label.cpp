@@ -5,6 +5,8 @@
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
+namespace vellumo {
+
 LinkLabel::LinkLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
@@ -52,3 +54,5 @@ void LinkLabel::paintEvent(QPaintEvent *event)
     focus.backgroundColor = palette().color(backgroundRole());
     painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
 }
+
+} // namespace vellumo

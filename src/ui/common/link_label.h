@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+namespace vellumo {
+
 /// Words of a text that lead to a page of the help: underlined, in the palette's link colour, with
 /// a hand cursor, and reached by Tab; a click, Enter or the space bar follow the link. Its text is
 /// shown as it stands.
@@ -21,3 +23,5 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 };
+
+} // namespace vellumo

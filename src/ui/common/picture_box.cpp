@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QStyle>
 
+namespace vellumo {
+
 PictureBox::PictureBox(QWidget *parent) : QLabel(parent) {}
 
 void PictureBox::SetPicture(int number)
@@ -58,3 +60,5 @@ void PictureBox::Show(const QIcon &picture, const QString &path)
     updateGeometry();
     update();
 }
+
+} // namespace vellumo

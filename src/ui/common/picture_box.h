@@ -4,6 +4,8 @@
 
 #include <QLabel>
 
+namespace vellumo {
+
 /// Shows a picture as large as the box lets it, in the middle and in its own proportions, sharp at
 /// any device pixel ratio. It asks for the picture's own size, and keeps that place when cleared.
 class PictureBox : public QLabel
@@ -35,3 +37,5 @@ private:
     QIcon m_picture;
     QSize m_ownSize;
 };
+
+} // namespace vellumo

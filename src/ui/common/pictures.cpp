@@ -7,6 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 struct DrawingFile {
@@ -94,3 +95,5 @@ QPalette ScreenPalette()
     palette.setColor(QPalette::HighlightedText, ground);
     return palette;
 }
+
+} // namespace vellumo

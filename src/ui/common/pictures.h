@@ -5,6 +5,8 @@
 
 class QPalette;
 
+namespace vellumo {
+
 // The program's own pictures, drawings that are sharp in every size. Numbers: the step marks, the
 // handheld's screens 103 to 112, one for each type of question, and the program's picture 113.
 
@@ -50,3 +52,5 @@ QIcon ProgramIcon();
 /// The palette for what is laid over a screen of the handheld: its ink on its grey-green ground,
 /// which are the same whatever the colours of the desktop.
 QPalette ScreenPalette();
+
+} // namespace vellumo

@@ -3,6 +3,8 @@
 #include <QPlainTextEdit>
 #include <QTextDocument>
 
+namespace vellumo {
+
 QString TextOf(const QPlainTextEdit &box)
 {
     QString text = box.document()->toRawText();
@@ -10,3 +12,5 @@ QString TextOf(const QPlainTextEdit &box)
     text.replace(QChar::LineSeparator, u'\n');
     return text;
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+namespace vellumo {
+
 /// The one open project, and whether it holds edits that were not saved. What shows the questions
 /// learns of their changes here.
 class ProjectDocument : public QObject
@@ -47,3 +49,5 @@ private:
     Project m_project;
     bool m_changed = false;
 };
+
+} // namespace vellumo

@@ -2,6 +2,8 @@
 
 #include <QInputDialog>
 
+namespace vellumo {
+
 QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box)
 {
     QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
@@ -58,3 +60,5 @@ QString AskText(QWidget *parent, const QString &title, const QString &prompt)
         return {};
     return input.textValue();
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 class QWidget;
 
+namespace vellumo {
+
 // Every box that tells or asks the user something. All of them are modal over their parent and show
 // their text as it stands, never as markup.
 
@@ -36,3 +38,5 @@ QString AskYesNoCancel(QWidget *parent, const QString &message);
 
 /// A line of text that the user types, as typed; empty when the box was cancelled.
 QString AskText(QWidget *parent, const QString &title, const QString &prompt);
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 #include <QStyle>
 #include <QWidget>
 
+namespace vellumo {
+
 void CentreOnScreen(QWidget &window)
 {
     if (!window.testAttribute(Qt::WA_Resized))
@@ -12,3 +14,5 @@ void CentreOnScreen(QWidget &window)
     window.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
                                            window.size().boundedTo(screen.size()), screen));
 }
+
+} // namespace vellumo

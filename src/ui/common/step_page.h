@@ -6,6 +6,8 @@
 
 #include <initializer_list>
 
+namespace vellumo {
+
 /// One of the four steps of the main window: what it asks of the window.
 class StepPage : public QWidget
 {
@@ -32,3 +34,5 @@ protected:
                     [this, id = link.contextId] { emit HelpAsked(id); });
     }
 };
+
+} // namespace vellumo

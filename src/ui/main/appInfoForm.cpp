@@ -19,6 +19,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// The first of a command's keys that the platform names, or else the given one.
@@ -70,7 +71,7 @@ void appInfoForm::ConnectSteps()
         connect(page, &StepPage::HelpAsked, this, &appInfoForm::HelpAsked);
         ++step;
     }
-    connect(m_complete, &StepComplete::ReviewAsked, this, [this] { ReviewProject(true); });
+    connect(m_complete, &StepComplete::ReviewAsked, this, [this] { Review(true); });
     connect(m_complete, &StepComplete::CreationAsked, this,
             [this] { CreateDatabase(m_document.project(), m_environment, this); });
     connect(m_complete, &StepComplete::ErrorChosen, this, &appInfoForm::GoToError);
@@ -141,7 +142,7 @@ void appInfoForm::OpenProject(const QString &path)
     if (!loaded)
         ShowCritical(this, invalidProjectFile);
     ShowTexts();
-    ReviewProject(false);
+    Review(false);
     SelectStep(1);
     m_document.SetProjectChanged(false);
 }
@@ -259,9 +260,9 @@ void appInfoForm::ShowTexts()
     m_data->ShowTexts();
 }
 
-void appInfoForm::ReviewProject(bool showResults)
+void appInfoForm::Review(bool showResults)
 {
-    const ReviewResult result = ::ReviewProject(m_document.project());
+    const ReviewResult result = ReviewProject(m_document.project());
     ShowTexts();
     for (int step = 1; step <= 3; ++step)
         MarkStep(step, !result.stepFailed[static_cast<size_t>(step - 1)]);
@@ -291,3 +292,5 @@ void appInfoForm::GoToError(const QString &listText)
     if (!target.textBox.isEmpty())
         findChild<QWidget *>(target.textBox)->setFocus();
 }
+
+} // namespace vellumo

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace vellumo {
+
 class StepComplete;
 class StepData;
 class StepInfo;
@@ -66,7 +68,7 @@ private:
     void ShowTexts();
     void LayOutIfLargeEnough();
 
-    void ReviewProject(bool showResults);
+    void Review(bool showResults);
     void GoToError(const QString &listText);
 
     Environment m_environment;
@@ -80,3 +82,5 @@ private:
     int m_step = 1;           ///< the one that is shown, 1 to 4
     bool m_formReady = false; ///< set-up is complete
 };
+
+} // namespace vellumo

@@ -7,6 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// The window does not repaint while a tool runs; the cursor says so.
@@ -39,3 +40,5 @@ void CreateDatabase(const Project &project, const Environment &environment, QWid
          .tellFailure = [=](const QString &message) { ShowCritical(window, message); },
          .open = environment.open});
 }
+
+} // namespace vellumo

@@ -7,7 +7,9 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 fileOpenForm::fileOpenForm(QString projectsFolder, std::function<void()> hideOpenFormNextTime,
                            QWidget *parent)
@@ -79,3 +81,5 @@ void fileOpenForm::Finish()
         m_hideOpenFormNextTime();
     accept();
 }
+
+} // namespace vellumo

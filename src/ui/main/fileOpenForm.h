@@ -6,6 +6,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace Ui {
 class fileOpenForm;
 }
@@ -46,3 +47,5 @@ private:
     QString m_path;
     bool m_dialogSeen = false; ///< since the second option was selected
 };
+
+} // namespace vellumo

@@ -7,7 +7,9 @@
 #include <QShowEvent>
 #include <QTimer>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
 
 logoForm::logoForm(const Environment &environment, Check check, std::chrono::milliseconds duration,
                    QWidget *parent)
@@ -47,3 +49,5 @@ void logoForm::CheckAndClose()
     m_check(this);
     accept();
 }
+
+} // namespace vellumo

@@ -6,6 +6,8 @@
 #include <functional>
 #include <memory>
 
+namespace vellumo {
+
 struct Environment;
 
 namespace Ui {
@@ -40,3 +42,5 @@ private:
     Check m_check;
     QTimer *m_timer;
 };
+
+} // namespace vellumo

@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// Empty when the dialog is cancelled.
@@ -92,3 +93,5 @@ QString ProjectFiles::ChooseTarget(const QString &folder, const QString &fileNam
     dialog.selectFile(fileName);
     return ChosenFile(dialog);
 }
+
+} // namespace vellumo

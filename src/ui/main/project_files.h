@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+namespace vellumo {
+
 /// The open project and its file: saving it, asking for another, and the question that comes before
 /// unsaved work is lost.
 class ProjectFiles : public QObject
@@ -40,3 +42,5 @@ private:
     QWidget *m_window;
     bool m_saveCancelled = false; ///< the last save did not happen
 };
+
+} // namespace vellumo

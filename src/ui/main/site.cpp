@@ -1,5 +1,7 @@
 #include "ui/main/site.h"
 
+namespace vellumo {
+
 QString SiteAddress()
 {
     QString address = QStringLiteral(VELLUMO_SITE);
@@ -7,3 +9,5 @@ QString SiteAddress()
         address.chop(1);
     return address;
 }
+
+} // namespace vellumo

@@ -2,8 +2,9 @@
 
 #include <QDir>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 QString PathOf(const QString &commandLine, const QString &applicationFolder)
@@ -37,3 +38,5 @@ Start StartUp(const StartSurroundings &surroundings)
     surroundings.showSplash();
     return ChooseProject(surroundings);
 }
+
+} // namespace vellumo

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+namespace vellumo {
+
 // What happens before the main window is shown. The program hands the outcome on to it:
 //
 //     const Start start = StartUp(StartWithWindows(environment, application.arguments().mid(1)));
@@ -37,3 +39,5 @@ struct StartSurroundings {
 /// shows the splash and, where the settings say so, the chooser. An existing project without a path
 /// becomes a new one.
 Start StartUp(const StartSurroundings &surroundings);
+
+} // namespace vellumo

@@ -7,6 +7,8 @@
 
 #include <QDir>
 
+namespace vellumo {
+
 StartSurroundings StartWithWindows(const Environment &environment, const QStringList &arguments)
 {
     const auto showSplash = [&environment] {
@@ -28,3 +30,5 @@ StartSurroundings StartWithWindows(const Environment &environment, const QString
             .showChooser = showChooser,
             .tell = [](const QString &message) { ShowBox(nullptr, {.text = message}); }};
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 #include <QShortcut>
 
+namespace vellumo {
+
 StepComplete::StepComplete(QWidget *parent)
     : StepPage(parent), ui(std::make_unique<Ui::StepComplete>())
 {
@@ -40,3 +42,5 @@ void StepComplete::ChooseError()
     if (!selected.isEmpty())
         emit ErrorChosen(selected.constFirst()->text());
 }
+
+} // namespace vellumo

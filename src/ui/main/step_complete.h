@@ -6,6 +6,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace Ui {
 class StepComplete;
 }
@@ -34,3 +35,5 @@ private:
 
     std::unique_ptr<Ui::StepComplete> ui;
 };
+
+} // namespace vellumo

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
+
 StepData::StepData(ProjectDocument &document, QWidget *parent)
     : StepPage(parent), ui(std::make_unique<Ui::StepData>()), m_document(document)
 {
@@ -39,3 +41,5 @@ void StepData::Browse()
     if (picker.exec() == QDialog::Accepted)
         ui->txt3_appDir->setText(DataFolderOf(picker.selectedFiles().constFirst()));
 }
+
+} // namespace vellumo

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace Ui {
 class StepData;
 }
@@ -28,3 +29,5 @@ private:
     std::unique_ptr<Ui::StepData> ui;
     ProjectDocument &m_document;
 };
+
+} // namespace vellumo

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
+
 StepInfo::StepInfo(ProjectDocument &document, QWidget *parent)
     : StepPage(parent), ui(std::make_unique<Ui::StepInfo>()), m_document(document)
 {
@@ -55,3 +57,5 @@ void StepInfo::ShowTexts()
     ui->txtAppDesc->setPlainText(description);
     m_document.project().Description = m_shownDescription = description;
 }
+
+} // namespace vellumo

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace Ui {
 class StepInfo;
 }
@@ -31,3 +32,5 @@ private:
     QString
         m_shownDescription; ///< as the project has it; the box knows only one kind of line break
 };
+
+} // namespace vellumo

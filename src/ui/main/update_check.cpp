@@ -8,8 +8,9 @@
 
 #include <optional>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr qsizetype bytesLookedAt = 4096;
@@ -66,3 +67,5 @@ void CheckForUpdate(QWidget *parent, const Environment &environment,
         UserWantsIt(parent))
         environment.open(environment.siteAddress + "/download"_L1);
 }
+
+} // namespace vellumo

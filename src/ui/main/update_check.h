@@ -8,6 +8,8 @@
 
 class QWidget;
 
+namespace vellumo {
+
 /// How long the start waits for the maker's web site at most.
 inline constexpr std::chrono::milliseconds updateTimeOut{4000};
 
@@ -23,3 +25,5 @@ bool IsNewer(QByteArrayView log, const QString &runningVersion);
 /// user has. Events are handled meanwhile. The parent of the box may be null.
 void CheckForUpdate(QWidget *parent, const Environment &environment,
                     std::chrono::milliseconds timeOut = updateTimeOut);
+
+} // namespace vellumo

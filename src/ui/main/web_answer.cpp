@@ -10,6 +10,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace {
 
 class SystemProxies : public QNetworkProxyFactory
@@ -62,3 +63,5 @@ QByteArray StartOfAnswer(const QUrl &address, qint64 size, std::chrono::millisec
     reply->abort();
     return start;
 }
+
+} // namespace vellumo

@@ -10,12 +10,13 @@
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
-#include "ui/questions/ui_frmWizard.h"
+#include "ui_frmWizard.h"
 
 #include <QEvent>
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr int longestText = 16777216;
@@ -241,3 +242,5 @@ void frmWizard::ShowTrimmed(const NewQuestion &entered)
     if (TextOf(*ui->txtWiz3_1) != entered.question)
         ui->txtWiz3_1->setPlainText(entered.question);
 }
+
+} // namespace vellumo

@@ -6,8 +6,11 @@
 
 #include <memory>
 
-class ProjectDocument;
 class QPushButton;
+
+namespace vellumo {
+
+class ProjectDocument;
 
 namespace Ui {
 class frmWizard;
@@ -60,3 +63,5 @@ private:
     ProjectDocument &m_document;
     int m_step = 1;
 };
+
+} // namespace vellumo

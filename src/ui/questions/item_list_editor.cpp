@@ -3,7 +3,7 @@
 #include "editing/built_in_names.h"
 #include "model/texts.h"
 #include "ui/common/prompts.h"
-#include "ui/questions/ui_item_list_editor.h"
+#include "ui_item_list_editor.h"
 
 #include <QShortcut>
 #include <QStyledItemDelegate>
@@ -12,6 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// Shows each item on one line as wide as the list, however long or broken its text from a file is.
@@ -199,3 +200,5 @@ void ItemListEditor::ShowAll(const ItemList::Rows &selection, qsizetype current)
     if (current >= 0)
         chosen->setCurrentIndex(indexOf(current), QItemSelectionModel::NoUpdate);
 }
+
+} // namespace vellumo

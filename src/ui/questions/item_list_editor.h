@@ -9,6 +9,7 @@
 
 class QListView;
 
+namespace vellumo {
 namespace Ui {
 class ItemListEditor;
 }
@@ -60,3 +61,5 @@ private:
     ItemList m_items;
     QStringListModel m_shown;
 };
+
+} // namespace vellumo

@@ -6,7 +6,7 @@
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
-#include "ui/questions/ui_propertyForm.h"
+#include "ui_propertyForm.h"
 
 #include <QFontMetricsF>
 #include <QListView>
@@ -15,6 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// The height of a box that shows so many lines of text.
@@ -119,3 +120,5 @@ void propertyForm::SaveUnlessRefused()
     m_document.SetProjectChanged(true);
     accept();
 }
+
+} // namespace vellumo

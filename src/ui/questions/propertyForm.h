@@ -6,6 +6,8 @@
 
 #include <memory>
 
+namespace vellumo {
+
 class ProjectDocument;
 
 namespace Ui {
@@ -35,3 +37,5 @@ private:
     std::unique_ptr<Ui::propertyForm> ui;
     ProjectDocument &m_document;
 };
+
+} // namespace vellumo

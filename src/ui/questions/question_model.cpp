@@ -4,6 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 /// A cell shows no more, and a project that can be created has no longer texts; those of others
@@ -61,3 +62,5 @@ QVariant QuestionModel::headerData(int section, Qt::Orientation orientation, int
         return QAbstractTableModel::headerData(section, orientation, role);
     return QString(columns[section].caption);
 }
+
+} // namespace vellumo

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace vellumo {
+
 /// The questions of a project as a table to look at: Order, Title, Question, Type and Column Name,
 /// a row a question, in table order. Nothing in it is edited.
 class QuestionModel : public QAbstractTableModel
@@ -23,3 +25,5 @@ public:
 private:
     const ProjectDocument &m_document;
 };
+
+} // namespace vellumo

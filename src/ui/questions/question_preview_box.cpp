@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
 namespace {
 
 constexpr int twipsPerPixel = 15;
@@ -70,3 +71,5 @@ void QuestionPreviewBox::ShowItems(const QuestionPreview::ItemBox &box)
     }
     ui->lstCheckBox->show();
 }
+
+} // namespace vellumo

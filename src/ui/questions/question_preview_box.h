@@ -6,6 +6,7 @@
 
 #include <memory>
 
+namespace vellumo {
 namespace Ui {
 class QuestionPreviewBox;
 }
@@ -28,3 +29,5 @@ private:
 
     std::unique_ptr<Ui::QuestionPreviewBox> ui;
 };
+
+} // namespace vellumo

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace vellumo {
+
 StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
     : StepPage(parent),
       ui(std::make_unique<Ui::StepQuestions>()),
@@ -41,12 +43,12 @@ void StepQuestions::ConnectButtons()
 {
     connect(ui->cmd2_Back, &QPushButton::clicked, this, &StepQuestions::BackAsked);
     connect(ui->cmd2_Next, &QPushButton::clicked, this, &StepQuestions::NextAsked);
-    connect(ui->cmdAdd, &QToolButton::clicked, this, &StepQuestions::NewQuestion);
-    connect(ui->cmdView, &QToolButton::clicked, this, &StepQuestions::EditQuestion);
-    connect(ui->cmdDel, &QToolButton::clicked, this, &StepQuestions::RemoveQuestion);
-    connect(ui->cmdUp, &QToolButton::clicked, this, [this] { MoveQuestion(MoveQuestionUp); });
-    connect(ui->cmdDown, &QToolButton::clicked, this, [this] { MoveQuestion(MoveQuestionDown); });
-    connect(ui->cmdDuplic, &QToolButton::clicked, this, &StepQuestions::DuplicateQuestion);
+    connect(ui->cmdAdd, &QToolButton::clicked, this, &StepQuestions::Add);
+    connect(ui->cmdView, &QToolButton::clicked, this, &StepQuestions::Edit);
+    connect(ui->cmdDel, &QToolButton::clicked, this, &StepQuestions::Remove);
+    connect(ui->cmdUp, &QToolButton::clicked, this, [this] { Move(MoveQuestionUp); });
+    connect(ui->cmdDown, &QToolButton::clicked, this, [this] { Move(MoveQuestionDown); });
+    connect(ui->cmdDuplic, &QToolButton::clicked, this, &StepQuestions::Duplicate);
 
     const std::pair<QKeySequence, QToolButton *> keys[] = {
         {Qt::Key_Insert, ui->cmdAdd},      {Qt::Key_Delete, ui->cmdDel},
@@ -65,7 +67,7 @@ void StepQuestions::ConnectGrid()
     connect(ui->DataGrid1->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &StepQuestions::FollowGrid);
     connect(ui->DataGrid1, &QTableView::clicked, this, &StepQuestions::RefreshAfterClick);
-    connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::EditQuestion);
+    connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::Edit);
     connect(&m_document, &ProjectDocument::QuestionsChanged, this,
             &StepQuestions::SelectCurrentRow);
 }
@@ -81,7 +83,7 @@ bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
     return StepPage::eventFilter(watched, event);
 }
 
-void StepQuestions::NewQuestion()
+void StepQuestions::Add()
 {
     const QString refusal = RefusalWhenFull(m_document.source());
     if (!refusal.isEmpty())
@@ -94,7 +96,7 @@ void StepQuestions::NewQuestion()
     RefreshPreview();
 }
 
-void StepQuestions::EditQuestion()
+void StepQuestions::Edit()
 {
     if (RefusesWithoutSelection())
         return;
@@ -102,20 +104,20 @@ void StepQuestions::EditQuestion()
     RefreshPreview();
 }
 
-void StepQuestions::RemoveQuestion()
+void StepQuestions::Remove()
 {
     if (RefusesWithoutSelection())
         return;
     if (AskYesNo(window(), u"Are you sure you want to delete this question?"_s) == "No"_L1)
         return;
-    m_document.ChangeQuestions([this] { ::RemoveQuestion(m_document.source()); });
+    m_document.ChangeQuestions([this] { RemoveQuestion(m_document.source()); });
     if (m_document.source().QuestionCount() == 0)
         LayOutColumns();
     RefreshPreview();
     m_document.SetProjectChanged(true);
 }
 
-void StepQuestions::MoveQuestion(bool (*moveRow)(clsDataSource &source))
+void StepQuestions::Move(bool (*moveRow)(clsDataSource &source))
 {
     if (RefusesWithoutSelection())
         return;
@@ -125,7 +127,7 @@ void StepQuestions::MoveQuestion(bool (*moveRow)(clsDataSource &source))
     RefreshPreview();
 }
 
-void StepQuestions::DuplicateQuestion()
+void StepQuestions::Duplicate()
 {
     if (RefusesWithoutSelection())
         return;
@@ -137,7 +139,7 @@ void StepQuestions::DuplicateQuestion()
 
     m_previewPending = false;
     const Outcome duplicated =
-        m_document.ChangeQuestions([this] { return ::DuplicateQuestion(m_document.source()); });
+        m_document.ChangeQuestions([this] { return DuplicateQuestion(m_document.source()); });
     if (!duplicated)
         return ShowExclamation(window(), duplicated.error().text);
     RefreshPreview(); // the project counts as unchanged, on purpose
@@ -208,3 +210,5 @@ void StepQuestions::LayOutColumns()
             header->resizeSection(column, widths[column] * digits);
     ui->DataGrid1->verticalHeader()->hide();
 }
+
+} // namespace vellumo

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+namespace vellumo {
+
 class QuestionModel;
 namespace Ui {
 class StepQuestions;
@@ -32,11 +34,11 @@ private:
     void ConnectButtons();
     void ConnectGrid();
 
-    void NewQuestion();
-    void EditQuestion();
-    void RemoveQuestion();
-    void MoveQuestion(bool (*moveRow)(clsDataSource &source));
-    void DuplicateQuestion();
+    void Add();
+    void Edit();
+    void Remove();
+    void Move(bool (*moveRow)(clsDataSource &source));
+    void Duplicate();
 
     bool RefusesWithoutSelection();
     void SelectCurrentRow();
@@ -51,3 +53,5 @@ private:
     /// A click refreshed the preview, and the grid may yet report a change of its row for it.
     bool m_previewPending = false;
 };
+
+} // namespace vellumo

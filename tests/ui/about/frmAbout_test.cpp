@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

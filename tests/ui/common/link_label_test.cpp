@@ -4,6 +4,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace vellumo;
+
 namespace {
 
 TEST(LinkLabel, IsFollowedByMouseAndKeyboard)

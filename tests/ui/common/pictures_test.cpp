@@ -13,6 +13,7 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

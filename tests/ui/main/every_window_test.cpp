@@ -20,6 +20,7 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

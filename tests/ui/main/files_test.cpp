@@ -4,6 +4,7 @@
 #include "ui/support/prompt_script.h"
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

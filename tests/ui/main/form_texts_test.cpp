@@ -6,6 +6,7 @@
 #include <QClipboard>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

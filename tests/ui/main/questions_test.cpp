@@ -9,6 +9,7 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

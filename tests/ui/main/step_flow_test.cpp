@@ -6,6 +6,7 @@
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

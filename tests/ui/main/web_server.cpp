@@ -9,6 +9,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+namespace vellumo {
 
 WebServer::WebServer(Answer answer, After after)
     : WebServer(std::move(answer), after, std::make_unique<QTcpServer>(), u"http"_s)
@@ -94,3 +95,5 @@ QByteArray Page(const QByteArray &body)
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" +
            body;
 }
+
+} // namespace vellumo

@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+namespace vellumo {
+
 /// A web server on the loopback that answers each request as the test says. It runs in the test's
 /// own thread, whenever events are handled.
 class WebServer
@@ -50,3 +52,5 @@ private:
 
 /// A successful answer with this body.
 QByteArray Page(const QByteArray &body);
+
+} // namespace vellumo

@@ -19,6 +19,7 @@
 #include <iostream>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+namespace vellumo {
+
 /// What a window that holds the editor makes of it.
 struct EditorWindow {
     const ItemListHost &host;
@@ -84,3 +86,5 @@ public:
     ItemListEditor editor;
     ItemListControls names;
 };
+
+} // namespace vellumo

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

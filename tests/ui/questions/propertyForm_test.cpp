@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -15,6 +15,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+namespace vellumo {
+
 /// A project whose second question is open in the form: Kind, a pulldown list of a, b and c.
 class PropertyFormTest : public testing::Test
 {
@@ -114,3 +116,5 @@ protected:
     ProjectDocument document;
     std::unique_ptr<propertyForm> form;
 };
+
+} // namespace vellumo

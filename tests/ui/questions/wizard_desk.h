@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+namespace vellumo {
+
 enum Nav { help, cancel, back, next, finish };
 
 /// The wizard in front of a user, over a project with so many Text questions.
@@ -141,3 +143,5 @@ inline QStringList Exclamations(const PromptScript &prompts)
     }
     return texts;
 }
+
+} // namespace vellumo

@@ -3,6 +3,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

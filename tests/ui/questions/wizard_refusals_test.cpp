@@ -1,6 +1,7 @@
 #include "ui/questions/wizard_desk.h"
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

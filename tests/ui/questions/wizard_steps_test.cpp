@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
 

@@ -16,6 +16,8 @@
 
 #include <qtestspontaneevent.h>
 
+namespace vellumo {
+
 /// The designer's window on screen, in folders of its own, and the hands of a user. Controls are
 /// found by objectName.
 class Designer
@@ -122,3 +124,5 @@ private:
                 .open = [this](const QString &target) { opened += target; }};
     }
 };
+
+} // namespace vellumo

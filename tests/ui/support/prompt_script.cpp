@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+namespace vellumo {
 namespace {
 
 QString CaptionOf(const QAbstractButton *button)
@@ -106,3 +107,5 @@ QString PromptScript::NextAnswer()
 {
     return m_answers.isEmpty() ? QString() : m_answers.takeFirst();
 }
+
+} // namespace vellumo

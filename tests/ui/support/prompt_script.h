@@ -9,6 +9,8 @@
 
 class QDialog;
 
+namespace vellumo {
+
 /// What a box showed.
 struct SeenBox {
     QString title;
@@ -55,3 +57,5 @@ private:
     QStringList m_fileDialogs;
     QStringList m_fileNames;
 };
+
+} // namespace vellumo

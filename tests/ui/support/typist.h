@@ -9,6 +9,8 @@
 #include <deque>
 #include <functional>
 
+namespace vellumo {
+
 /// Types a prepared text on the keyboard and nothing else, also into the dialogs that open on the
 /// way: each key goes to whatever has the focus then.
 class Typist
@@ -117,3 +119,5 @@ private:
     QElapsedTimer m_waited;
     bool m_typed = false;
 };
+
+} // namespace vellumo
