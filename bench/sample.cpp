@@ -12,17 +12,16 @@ namespace {
 
 Outcome Write(const QString &kind, const QString &path)
 {
-    Project project = kind == "mixed"_L1     ? MixedProject(128)
-                      : kind == "largest"_L1 ? LargestProject()
-                                             : ProjectOfItems(kind.toInt());
+    const Project project = kind == "mixed"_L1     ? MixedProject(128)
+                            : kind == "largest"_L1 ? LargestProject()
+                                                   : ProjectOfItems(kind.toInt());
     return SaveProject(project, path);
 }
 
 Outcome Load(const QString &path)
 {
-    Project project;
-    project.path = path;
-    return LoadProject(project);
+    const Result<Project> project = LoadProject(path);
+    return project ? done : Outcome(project.error());
 }
 
 } // namespace

@@ -35,15 +35,12 @@ Project OfLists(int questions, int items)
 struct Desk {
     explicit Desk(const benchmark::State &state)
     {
-        document.ChangeQuestions([&] {
-            document.project() =
-                OfLists(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
-            return true;
-        });
+        document.Replace(
+            OfLists(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))), {});
         step.resize(800, 500);
         step.LayOut();
         step.show();
-        step.Refresh();
+        step.Enter();
         QApplication::processEvents();
     }
 
@@ -71,15 +68,14 @@ void Duplicate(benchmark::State &state)
 {
     Desk desk(state);
     for (auto _ : state) {
-        if (!desk.document.ChangeQuestions(
-                [&] { return DuplicateQuestion(desk.document.source()); }))
+        if (!desk.document.ChangeQuestions(DuplicateQuestion))
             state.SkipWithError("not duplicated");
-        desk.step.Refresh();
+        desk.step.Enter();
         QApplication::processEvents();
 
         state.PauseTiming();
         desk.document.source().MoveLast();
-        desk.document.ChangeQuestions([&] { RemoveQuestion(desk.document.source()); });
+        desk.document.ChangeQuestions(RemoveQuestion);
         desk.document.source().MoveFirst();
         state.ResumeTiming();
     }
@@ -89,7 +85,7 @@ void RefreshPreview(benchmark::State &state)
 {
     Desk desk(state);
     for (auto _ : state) {
-        desk.step.Refresh();
+        desk.step.Enter();
         QApplication::processEvents();
     }
 }
@@ -98,16 +94,15 @@ void RefreshGrid(benchmark::State &state)
 {
     Desk desk(state);
     for (auto _ : state) {
-        desk.document.ChangeQuestions([] {});
+        desk.document.ChangeQuestions([](clsDataSource &) {});
         QApplication::processEvents();
     }
 }
 
 QString LargestFile(const QTemporaryDir &folder)
 {
-    Project largest = LargestProject();
-    return SaveProject(largest, folder.filePath(QStringLiteral("largest.vmp"))) ? largest.path
-                                                                                : QString();
+    const QString path = folder.filePath(QStringLiteral("largest.vmp"));
+    return SaveProject(LargestProject(), path) ? path : QString();
 }
 
 void LoadAndReview(benchmark::State &state)
@@ -115,10 +110,10 @@ void LoadAndReview(benchmark::State &state)
     const QTemporaryDir folder;
     const QString path = LargestFile(folder);
     for (auto _ : state) {
-        Project project{.path = path};
-        if (!LoadProject(project))
-            state.SkipWithError("not loaded");
-        benchmark::DoNotOptimize(ReviewProject(project));
+        Result<Project> project = LoadProject(path);
+        if (!project)
+            return state.SkipWithError("not loaded");
+        benchmark::DoNotOptimize(ReviewProject(*project));
     }
 }
 

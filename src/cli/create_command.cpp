@@ -3,11 +3,13 @@
 #include "cli/files.h"
 #include "cli/review_command.h"
 #include "cli/verify_command.h"
-#include "model/project_file.h"
 #include "model/texts.h"
+#include "palmgen/build_with_tools.h"
 #include "palmgen/create_pass.h"
+#include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/identifier.h"
+#include "readback/palm_database.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,32 +21,32 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// The Create pass with a private folder in place of application and projects folder, so that it
-/// runs from a read-only installation and many times at once. Nobody is told anything: the report
-/// has it all.
-CreateSurroundings PrivateSurroundings(const QString &folder, const CommandLine &line)
+/// A private folder in place of application and projects folder, so that a creation runs from a
+/// read-only installation and many times at once.
+CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
 {
-    const auto nobody = [](const QString &) {};
     const ToolLimits limits = {{ApplicationFolder()}, line.timeoutSeconds};
-    return {
-        .place = {.applicationFolder = folder,
-                  .projectsFolder = folder + QDir::separator(),
-                  .runTool = [limits](const ToolCall &call) { return RunAndWait(call, limits); },
-                  .reportNotStarted = nobody},
-        .makeIdentifier =
-            [given = line.identifier] { return given.isEmpty() ? MakeIdentifier() : given; },
-        .tellSuccess = nobody,
-        .tellFailure = nobody,
-        .open = nobody,
-    };
+    return {{.work = folder, .databases = folder + QDir::separator()},
+            BuildWithTools([limits](const ToolCall &call) { return RunAndWait(call, limits); })};
 }
 
-/// How a tool failed, with its own words where it had any.
-QString ToolFault(const ToolRun &run)
+/// How a tool failed, with its own words where it had any; empty where it succeeded.
+QString ToolFault(const ToolRun &run, int timeoutSeconds)
 {
-    const QString fault = u"failed (%1): %2"_s.arg(run.ending, run.commandLine);
-    const QString words = run.messages.trimmed();
-    return words.isEmpty() ? fault : fault + u'\n' + words;
+    switch (run.end) {
+    case ToolEnd::Succeeded:
+        break;
+    case ToolEnd::NotStarted:
+        return u"cannot start %1: %2"_s.arg(run.commandLine, run.reason);
+    case ToolEnd::TimedOut:
+        return u"did not end within %1 s: %2"_s.arg(QString::number(timeoutSeconds),
+                                                    run.commandLine);
+    case ToolEnd::Failed:
+        const QString fault = u"failed (%1): %2"_s.arg(run.reason, run.commandLine);
+        const QString words = run.messages.trimmed();
+        return words.isEmpty() ? fault : fault + u'\n' + words;
+    }
+    return {};
 }
 
 /// What became of one project, told with the project's name in front.
@@ -90,22 +92,16 @@ private:
 
     Exit Build(const Project &project, const QString &folder) const
     {
-        const CreateReport report = CreateVellsheet(project, PrivateSurroundings(folder, m_line));
-        if (report.projectFault)
-            return Fail(Exit::NotPassed, report.projectFault->text);
-        if (report.fileFault)
-            return Refuse(m_console, Exit::NotWritten, {report.fileFault->description, folder});
-        for (const ToolRun &run : report.runs) {
-            if (!run.started)
-                return Fail(Exit::ToolFailed,
-                            u"cannot start %1: %2"_s.arg(run.commandLine, run.whyNotStarted));
-            if (run.timedOut)
-                return Fail(Exit::ToolFailed,
-                            u"did not end within %1 s: %2"_s.arg(
-                                QString::number(m_line.timeoutSeconds), run.commandLine));
-            if (!run.succeeded)
-                return Fail(Exit::ToolFailed, ToolFault(run));
-        }
+        const QString identifier =
+            m_line.identifier.isEmpty() ? MakeIdentifier() : m_line.identifier;
+        const CreateReport report = MakeDatabase(project, PrivatePlace(folder, m_line), identifier);
+        if (report.end == CreateEnd::ProjectRefused)
+            return Fail(Exit::NotPassed, report.error.text);
+        if (report.end == CreateEnd::FileRefused)
+            return Refuse(m_console, Exit::NotWritten, {report.error.text, folder});
+        for (const ToolRun &run : report.runs)
+            if (const QString fault = ToolFault(run, m_line.timeoutSeconds); !fault.isEmpty())
+                return Fail(Exit::ToolFailed, fault);
         return Exit::Fine;
     }
 
@@ -113,7 +109,7 @@ private:
     {
         if (!QFileInfo::exists(made))
             return Fail(Exit::ToolFailed, u"the tools left no database"_s);
-        const Result<QByteArray> bytes = ReadWholeFile(made);
+        const Result<QByteArray> bytes = ReadWholeFile(made, databaseLimit);
         if (!bytes)
             return Fail(Exit::ToolFailed, bytes.error().text);
         if (!Agrees(*bytes, project, InputName(m_input), m_console))

@@ -1,6 +1,6 @@
 #include "cli/files.h"
 
-#include "model/project_file.h"
+#include "model/project_format.h"
 #include "model/project_reader.h"
 
 #include <algorithm>
@@ -15,34 +15,33 @@ bool IsStream(const QString &name)
     return name == "-"_L1;
 }
 
-Result<QByteArray> ReadStream(const Console &console)
+Result<QByteArray> ReadStream(const FileLimit &limit, const Console &console)
 {
-    QByteArray bytes(largestFile + 1, Qt::Uninitialized);
+    QByteArray bytes(limit.bytes + 1, Qt::Uninitialized);
     console.in.read(bytes.data(), bytes.size());
     bytes.truncate(console.in.gcount());
     if (console.in.bad())
         return Error{u"Standard input cannot be read"_s, InputName(u"-"_s)};
-    if (bytes.size() > largestFile)
-        return Error{u"The file is larger than any project can be"_s, InputName(u"-"_s)};
+    if (bytes.size() > limit.bytes)
+        return TooLarge(InputName(u"-"_s), limit);
     return bytes;
 }
 
 } // namespace
 
-Result<QByteArray> ReadInput(const QString &name, const Console &console)
+Result<QByteArray> ReadInput(const QString &name, const FileLimit &limit, const Console &console)
 {
-    return IsStream(name) ? ReadStream(console) : ReadWholeFile(name);
+    return IsStream(name) ? ReadStream(limit, console) : ReadWholeFile(name, limit);
 }
 
 Result<Project> ReadProjectInput(const QString &name, const Console &console)
 {
-    const Result<QByteArray> bytes = ReadInput(name, console);
+    const Result<QByteArray> bytes = ReadInput(name, projectLimit, console);
     if (!bytes)
         return bytes.error();
     Result<Project> project = ReadProject(*bytes);
     if (!project)
         return Error{project.error().text, InputName(name), project.error().line};
-    project->path = name;
     return project;
 }
 

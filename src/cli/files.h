@@ -3,15 +3,16 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "model/project.h"
+#include "platform/files.h"
 
 #include <functional>
 
 namespace vellumo {
 
 /// The bytes of an input, "-" being standard input; an error names it and why it cannot be read.
-Result<QByteArray> ReadInput(const QString &name, const Console &console);
+Result<QByteArray> ReadInput(const QString &name, const FileLimit &limit, const Console &console);
 
-/// The project in an input, with its name as the project's path.
+/// The project in an input.
 Result<Project> ReadProjectInput(const QString &name, const Console &console);
 
 /// An input's name as messages have it.

@@ -1,6 +1,8 @@
 #include "cli/info_command.h"
 
 #include "cli/files.h"
+#include "model/form_fields.h"
+#include "model/project_format.h"
 #include "model/project_reader.h"
 #include "readback/describe.h"
 
@@ -22,20 +24,25 @@ struct Info {
         QJsonValue value;
     };
     QList<Fact> facts;
-    QStringList types, columnNames, titles; ///< of each question
+    // Of each question.
+    QStringList types = {}, columnNames = {}, titles = {};
 };
 
-Info InfoOf(const ProjectSummary &summary, qsizetype size)
+Info InfoOf(const Project &project, qsizetype size)
 {
-    return {{{u"format"_s, u"project"_s},
-             {u"name"_s, summary.name},
-             {u"version"_s, summary.version},
-             {u"size"_s, size},
-             {u"questions"_s, summary.questions},
-             {u"items"_s, summary.items}},
-            summary.types,
-            summary.columnNames,
-            summary.titles};
+    Info info = {{{u"format"_s, u"project"_s}}};
+    for (const FormFieldRow &row : formFields)
+        if (!row.summaryName.isEmpty())
+            info.facts.append({row.summaryName, project.*row.text});
+    info.facts.append({u"size"_s, size});
+    info.facts.append({u"questions"_s, project.source.QuestionCount()});
+    info.facts.append({u"items"_s, project.source.Items().Count()});
+    for (const QuestionRow &row : project.source.Questions().Rows()) {
+        info.types += row.Type;
+        info.columnNames += row.ColumnName;
+        info.titles += row.Title;
+    }
+    return info;
 }
 
 Info InfoOf(const DatabaseSummary &summary)
@@ -82,6 +89,9 @@ void TellProgram(const Info &info, const QString &inputName, const Console &cons
     console.Write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
 }
 
+constexpr FileLimit eitherLimit = {std::max(projectLimit.bytes, databaseLimit.bytes),
+                                   "project or database"_L1};
+
 /// XML in one-byte characters has no zero byte; the header of a database is full of them.
 bool LooksLikeDatabase(const QByteArray &bytes)
 {
@@ -100,7 +110,7 @@ Result<Info> ReadInfo(const QByteArray &bytes)
     const Result<Project> project = ReadProject(bytes);
     if (!project)
         return project.error();
-    return InfoOf(Summarize(*project), bytes.size());
+    return InfoOf(*project, bytes.size());
 }
 
 } // namespace
@@ -108,7 +118,7 @@ Result<Info> ReadInfo(const QByteArray &bytes)
 Exit TellInfo(const CommandLine &line, const Console &console)
 {
     const QString input = line.inputs.first();
-    const Result<QByteArray> bytes = ReadInput(input, console);
+    const Result<QByteArray> bytes = ReadInput(input, eitherLimit, console);
     if (!bytes)
         return Refuse(console, Exit::Unreadable, bytes.error());
     const Result<Info> info = ReadInfo(*bytes);

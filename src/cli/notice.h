@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/result.h"
+#include "platform/result.h"
 
 #include <QByteArray>
 #include <QString>

@@ -53,7 +53,7 @@ bool Agrees(const QByteArray &database, const Project &project, const QString &i
 Exit VerifyDatabase(const CommandLine &line, const Console &console)
 {
     const QString input = line.inputs.first();
-    const Result<QByteArray> bytes = ReadInput(input, console);
+    const Result<QByteArray> bytes = ReadInput(input, databaseLimit, console);
     if (!bytes)
         return Refuse(console, Exit::Unreadable, bytes.error());
     const Result<PalmDatabase> database = ReadDatabase(*bytes);

@@ -3,7 +3,7 @@
 #include "ui/about/myHelp.h"
 #include "ui/common/pictures.h"
 #include "ui/main/appInfoForm.h"
-#include "ui/main/start_windows.h"
+#include "ui/main/start_up.h"
 
 #include <QApplication>
 
@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(ProgramIcon());
 
     const Environment environment = RealEnvironment();
-    const Start start = StartUp(StartWithWindows(environment, QApplication::arguments().mid(1)));
+    const Start start = StartUp(environment, QApplication::arguments().mid(1));
 
     myHelp help(environment);
     appInfoForm window(environment);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/clsDataSource.h"
-#include "model/result.h"
+#include "platform/result.h"
 
 namespace vellumo {
 

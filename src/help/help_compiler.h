@@ -1,7 +1,7 @@
 #pragma once
 
 #include "help/help_topics.h"
-#include "model/result.h"
+#include "platform/result.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "help/contents.h"
-#include "model/result.h"
+#include "platform/result.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "model/basRegistry.h"
 
-#include "model/project_file.h"
+#include "platform/files.h"
 
 #include <QFileInfo>
 #include <QXmlStreamReader>
@@ -16,6 +16,8 @@ namespace {
 constexpr char firstContent[] = "<Vmdesigner>\r\n"
                                 "<ShowOpenForm>1</ShowOpenForm>\r\n"
                                 "</Vmdesigner>";
+
+constexpr FileLimit settingsLimit = {16 * 1024 * 1024, "settings file"_L1};
 
 struct Settings {
     QString showOpenForm;
@@ -99,7 +101,7 @@ private:
 
 std::optional<Settings> ReadSettings(const QString &path)
 {
-    const Result<QByteArray> bytes = ReadWholeFile(path);
+    const Result<QByteArray> bytes = ReadWholeFile(path, settingsLimit);
     if (!bytes)
         return std::nullopt;
     return SettingsReader(*bytes).Read();

@@ -16,9 +16,6 @@ struct Project {
     /// Titles that the wizard offers again, oldest first; starts with one empty element.
     QStringList TitleList = {QString()};
 
-    /// Full path of the project file; empty while there is none.
-    QString path = {};
-
     clsDataSource source = [] {
         clsDataSource created;
         created.GetDataMember();

@@ -1,5 +1,7 @@
 #include "model/project_reader.h"
 
+#include "model/form_fields.h"
+#include "model/project_format.h"
 #include "platform/code_page.h"
 
 #include <QRegularExpression>
@@ -13,11 +15,6 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-bool IsKnownCompany(QStringView tag)
-{
-    return tag == "Brindlecot Data Collect"_L1 || tag == "Harlo Data Collect"_L1;
-}
-
 /// Whether a number's text is without the blanks and plus sign that a conversion passes over.
 bool IsPlain(const QString &number)
 {
@@ -29,6 +26,17 @@ template <size_t count> struct Texts {
     std::array<QLatin1StringView, count> names;
     std::array<QString, count> values = {};
 };
+
+/// The company, the form information and the next Id.
+constexpr auto namesOfDocument = [] {
+    std::array<QLatin1StringView, formFields.size() + 2> names;
+    names.front() = QLatin1StringView("Company");
+    for (size_t i = 0; i < formFields.size(); ++i)
+        names[i + 1] = formFields[i].element;
+    names.back() = QLatin1StringView("MaxId");
+    return names;
+}();
+using DocumentTexts = Texts<namesOfDocument.size()>;
 
 class Reader
 {
@@ -52,12 +60,14 @@ public:
             m_xml.readNext();
         if (m_xml.hasError())
             return Error{m_xml.errorString(), {}, static_cast<int>(m_xml.lineNumber())};
+        m_project.source.MoveFirst();
         return std::move(m_project);
     }
 
 private:
     void Feed(const QByteArray &bytes);
     void ReadDocument();
+    void TakeForm(const DocumentTexts &texts);
     void ReadQuestions();
     void ReadItems();
     void ReadTitles();
@@ -87,8 +97,6 @@ void Reader::Feed(const QByteArray &bytes)
 
 void Reader::ReadDocument()
 {
-    Texts<6> texts = {{"Company"_L1, "FormName"_L1, "FormVersion"_L1, "Description"_L1,
-                       "FormPath"_L1, "MaxId"_L1}};
     struct Section {
         QLatin1StringView name;
         void (Reader::*read)();
@@ -97,6 +105,7 @@ void Reader::ReadDocument()
                     {"rcChilds"_L1, &Reader::ReadItems},
                     {"TitleList"_L1, &Reader::ReadTitles}};
 
+    DocumentTexts texts = {namesOfDocument};
     while (m_xml.readNextStartElement()) {
         const auto section = std::ranges::find_if(
             sections, [this](const Section &known) { return m_xml.name() == known.name; });
@@ -108,19 +117,21 @@ void Reader::ReadDocument()
         }
     }
 
-    const auto &[company, name, version, description, path, maxId] = texts.values;
-    if (!company.isNull() && !IsKnownCompany(company))
-        Refuse(u"the company '%1' is not known"_s.arg(company.left(40)));
-    RefuseIncomplete(texts);
+    TakeForm(texts);
     for (const Section &section : sections)
         if (!section.met)
             Refuse(u"the element %1 is missing"_s.arg(section.name));
+    m_project.source.SetMaxId(Number(texts.names.back(), texts.values.back()));
+}
 
-    m_project.FormName = name;
-    m_project.FormVersion = version;
-    m_project.Description = description;
-    m_project.FormPath = path;
-    m_project.source.SetMaxId(Number("MaxId"_L1, maxId));
+void Reader::TakeForm(const DocumentTexts &texts)
+{
+    const QString &company = texts.values.front();
+    if (!company.isNull() && std::ranges::find(companyTags, company) == companyTags.end())
+        Refuse(u"the company '%1' is not known"_s.arg(company.left(40)));
+    RefuseIncomplete(texts);
+    for (size_t i = 0; i < formFields.size(); ++i)
+        m_project.*formFields[i].text = texts.values[i + 1];
 }
 
 void Reader::ReadQuestions()

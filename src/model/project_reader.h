@@ -1,13 +1,14 @@
 #pragma once
 
 #include "model/project.h"
-#include "model/result.h"
+#include "platform/result.h"
 
 #include <QByteArray>
 
 namespace vellumo {
 
-/// The project that a file's bytes hold; its path is empty.
+/// The project that a file's bytes hold, by docs/project-file.md; the cursor stands on its first
+/// question.
 ///
 /// The elements may stand in any order; of one that stands twice the first counts, and one that is
 /// not known is passed over. Fails, with the line, where the bytes are no well-formed XML, the

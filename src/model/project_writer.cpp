@@ -1,6 +1,7 @@
 #include "model/project_writer.h"
 
-#include "model/project_file.h"
+#include "model/form_fields.h"
+#include "model/project_format.h"
 #include "model/texts.h"
 #include "platform/code_page.h"
 
@@ -47,7 +48,7 @@ public:
     {
         if (!m_state)
             return m_state.error();
-        if (m_bytes.size() > largestFile)
+        if (m_bytes.size() > projectLimit.bytes)
             return Error{u"The project is larger than any file of one can be."_s};
         return std::move(m_bytes);
     }
@@ -79,10 +80,8 @@ private:
 
 void WriteForm(Writer &writer, const Project &project)
 {
-    writer.Value("FormName", project.FormName, {"form name"_L1});
-    writer.Value("FormVersion", project.FormVersion, {"form version"_L1});
-    writer.Value("Description", project.Description, {"description"_L1});
-    writer.Value("FormPath", project.FormPath, {"data folder"_L1});
+    for (const FormFieldRow &row : formFields)
+        writer.Value(row.element.latin1(), project.*row.text, {row.name});
     writer.Number("MaxId", project.source.MaxId());
 }
 
@@ -135,7 +134,7 @@ Result<QByteArray> WriteProject(const Project &project)
     Writer writer;
     writer.Line(R"(<?xml version="1.0" encoding="windows-1252"?>)");
     writer.Line("<root>");
-    writer.Line("<Company>Brindlecot Data Collect</Company>");
+    writer.Line("<Company>" + QByteArray(companyTags.front().latin1()) + "</Company>");
     WriteForm(writer, project);
     const QHash<int, int> positions = WriteQuestions(writer, project.source);
     writer.Line({});

@@ -1,35 +1,35 @@
 #pragma once
 
 #include "model/project.h"
-#include "model/result.h"
-#include "palmgen/build_runner.h"
+#include "palmgen/builder.h"
 
 namespace vellumo {
 
-/// What a Create pass needs from outside. The texts that it hands over are ready to show.
-struct CreateSurroundings {
-    BuildPlace place;
-    /// A fresh identifier in registry form; empty when none could be made.
-    std::function<QString()> makeIdentifier;
-    std::function<void(const QString &message)> tellSuccess;
-    std::function<void(const QString &message)> tellFailure;
-    /// Opens a file or folder with the platform's default action; the result does not matter.
-    std::function<void(const QString &path)> open;
+/// Where and how a project becomes a database.
+struct CreatePlace {
+    BuildFolders folders;
+    Builder build;
 };
 
-/// How a Create pass ended, for those who look closer than its messages.
+/// How far a Create pass came.
+enum class CreateEnd {
+    BuildEnded,     ///< to the end of the build; whether the tools succeeded, their runs tell
+    ProjectRefused, ///< the project is not one that a script can be made of
+    FileRefused,    ///< a file could not be written or deleted
+};
+
+/// What a Create pass did.
 struct CreateReport {
-    QList<ToolRun> runs;                ///< empty when the script could not be written
-    std::optional<Error> projectFault;  ///< what in the project stood in the way
-    std::optional<FileFault> fileFault; ///< or which file did
-
-    bool IsComplete() const { return !projectFault && !fileFault; }
+    CreateEnd end = CreateEnd::BuildEnded;
+    Error error = {};         ///< why it came no further
+    QList<ToolRun> runs = {}; ///< empty when no tool was to run
+    QString name = {};        ///< of the database, without its folder and ending
 };
 
-/// Writes a project's script into the application folder, builds its database from it and tells the
-/// user: of success whatever the tools said, and otherwise "Error in Vellsheet Creation!", preceded
-/// by the platform's words where permission was denied. A script that failed is left as far as it
-/// was written.
-CreateReport CreateVellsheet(const Project &project, const CreateSurroundings &surroundings);
+/// Makes the database of a project in the place: its name is the form name without the blanks at
+/// its ends, which must be a plain file name. The identifier is one in registry form, its digits
+/// alone, or empty. Nobody is told anything: the report has it all.
+CreateReport MakeDatabase(const Project &project, const CreatePlace &place,
+                          const QString &identifier);
 
 } // namespace vellumo

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/project.h"
-#include "model/result.h"
+#include "platform/result.h"
 
 #include <QByteArray>
 

@@ -1,22 +1,35 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include "platform/result.h"
 
-#include <optional>
+#include <QByteArray>
+#include <QLatin1StringView>
+#include <QString>
 
 namespace vellumo {
 
-/// Why the platform refused to write or delete a file.
-struct FileFault {
-    QString description; ///< the platform's own words
-    bool permissionDenied = false;
+// Everything that is done to whole files. An error names the file and has the platform's own words.
+
+/// How much of a file is read, and what it is then too large for.
+struct FileLimit {
+    qint64 bytes;
+    QLatin1StringView noun; ///< goes on after "The file is larger than any "
 };
 
-/// Creates a file anew with these bytes, replacing what stood there.
-std::optional<FileFault> WriteNewFile(const QString &path, const QByteArray &bytes);
+/// The whole content of a file. One that is larger than the limit is an error, whatever its size
+/// without reading more, and so is a folder.
+Result<QByteArray> ReadWholeFile(const QString &path, const FileLimit &limit);
 
-/// Deletes a file; one that does not exist is no fault.
-std::optional<FileFault> RemoveFile(const QString &path);
+/// The error that something is larger than the limit.
+Error TooLarge(const QString &path, const FileLimit &limit);
+
+/// Puts bytes in the place of a file, which stays whole until they are all on disk.
+Outcome ReplaceFile(const QString &path, const QByteArray &bytes);
+
+/// Creates a file anew with these bytes; what stood there is gone, also where writing then fails.
+Outcome WriteNewFile(const QString &path, const QByteArray &bytes);
+
+/// Deletes a file; one that does not exist is no error.
+Outcome RemoveFile(const QString &path);
 
 } // namespace vellumo

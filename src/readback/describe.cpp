@@ -73,18 +73,4 @@ DatabaseSummary Summarize(const PalmDatabase &database)
     return summary;
 }
 
-ProjectSummary Summarize(const Project &project)
-{
-    ProjectSummary summary = {.name = project.FormName,
-                              .version = project.FormVersion,
-                              .questions = project.source.QuestionCount(),
-                              .items = project.source.Items().Count()};
-    for (const QuestionRow &question : project.source.Questions().Rows()) {
-        summary.types += question.Type;
-        summary.columnNames += question.ColumnName;
-        summary.titles += question.Title;
-    }
-    return summary;
-}
-
 } // namespace vellumo

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/project.h"
 #include "readback/palm_database.h"
 
 #include <QStringList>
@@ -21,16 +20,5 @@ struct DatabaseSummary {
     QStringList titles = {}; ///< of each form
 };
 DatabaseSummary Summarize(const PalmDatabase &database);
-
-/// What is in a project; lists have an entry for each question.
-struct ProjectSummary {
-    QString name, version;
-    qsizetype questions = 0;
-    qsizetype items = 0; ///< all of them, whether or not a question owns them
-    QStringList types = {};
-    QStringList columnNames = {};
-    QStringList titles = {};
-};
-ProjectSummary Summarize(const Project &project);
 
 } // namespace vellumo

@@ -1,11 +1,14 @@
 #pragma once
 
-#include "model/result.h"
+#include "platform/files.h"
 
 #include <QByteArray>
 #include <QList>
 
 namespace vellumo {
+
+/// Of files that are read as databases.
+inline constexpr FileLimit databaseLimit = {16 * 1024 * 1024, QLatin1StringView("database")};
 
 struct PalmResource {
     QByteArray type; ///< 4 bytes

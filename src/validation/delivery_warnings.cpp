@@ -1,5 +1,6 @@
 #include "validation/delivery_warnings.h"
 
+#include "model/form_fields.h"
 #include "model/question_types.h"
 
 #include <QHash>
@@ -52,6 +53,20 @@ constexpr TextCheck escapedTextChecks[] = {backslash, backslashAtEnd, lineBreak}
 constexpr TextCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak};
 constexpr TextCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak, comma};
 
+struct FieldChecks {
+    FormField field;
+    std::span<const TextCheck> checks;
+};
+
+// The data folder's backslashes are doubled in the script, and its rule refuses the rest.
+constexpr std::array fieldChecks = {
+    FieldChecks{FormField::Name, nameChecks},
+    FieldChecks{FormField::Version, rawTextChecks},
+    FieldChecks{FormField::Description, escapedTextChecks},
+    FieldChecks{FormField::DataFolder, {}},
+};
+static_assert(HasRowPerField(fieldChecks));
+
 /// One walk over a project, which gathers the warnings in their order.
 class Walk
 {
@@ -60,9 +75,8 @@ public:
 
     std::vector<DeliveryWarning> Run()
     {
-        CheckText(nameChecks, m_project.FormName, {"form name"_L1});
-        CheckText(rawTextChecks, m_project.FormVersion, {"form version"_L1});
-        CheckText(escapedTextChecks, m_project.Description, {"description"_L1});
+        for (const FieldChecks &row : fieldChecks)
+            CheckText(row.checks, m_project.*RowOf(row.field).text, {RowOf(row.field).name});
         int position = 0;
         for (const QuestionRow &question : m_project.source.Questions().Rows())
             CheckQuestion(question, ++position);

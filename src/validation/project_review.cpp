@@ -1,6 +1,5 @@
 #include "validation/project_review.h"
 
-#include "model/texts.h"
 #include "validation/form_rules.h"
 
 #include <QStringList>
@@ -16,14 +15,16 @@ namespace {
 /// A rule as the review applies it.
 struct ReviewRule {
     int step;
-    QLatin1StringView code, field;
+    std::optional<FormField> field; ///< what is judged; none = the list of questions
+    std::optional<FormField> leadsTo;
+    QLatin1StringView code;
     void (*validate)(Project &project, bool &failed, QString &message);
 };
 
-template <QString Project::*field, void (*rule)(QString &, bool &, QString &)>
+template <FormField field, void (*rule)(QString &, bool &, QString &)>
 void Validate(Project &project, bool &failed, QString &message)
 {
-    rule(project.*field, failed, message);
+    rule(project.*RowOf(field).text, failed, message);
 }
 
 void ValidateQuestions(Project &project, bool &failed, QString &message)
@@ -31,15 +32,33 @@ void ValidateQuestions(Project &project, bool &failed, QString &message)
     ValidateQuestionCount(project.source.QuestionCount(), failed, message);
 }
 
+// By intention an entry on the description leads to the name.
 constexpr ReviewRule reviewRules[] = {
-    {1, "invalid-form-name"_L1, "form name"_L1, Validate<&Project::FormName, ValidateAppName>},
-    {1, "invalid-form-version"_L1, "form version"_L1,
-     Validate<&Project::FormVersion, ValidateAppVersion>},
-    {1, "invalid-description"_L1, "description"_L1,
-     Validate<&Project::Description, ValidateAppDesc>},
-    {2, "invalid-question-count"_L1, "questions"_L1, ValidateQuestions},
-    {3, "invalid-data-folder"_L1, "data folder"_L1, Validate<&Project::FormPath, ValidateAppDir>},
+    {1, FormField::Name, FormField::Name, QLatin1StringView("invalid-form-name"),
+     Validate<FormField::Name, ValidateAppName>},
+    {1, FormField::Version, FormField::Version, QLatin1StringView("invalid-form-version"),
+     Validate<FormField::Version, ValidateAppVersion>},
+    {1, FormField::Description, FormField::Name, QLatin1StringView("invalid-description"),
+     Validate<FormField::Description, ValidateAppDesc>},
+    {2, std::nullopt, std::nullopt, QLatin1StringView("invalid-question-count"), ValidateQuestions},
+    {3, FormField::DataFolder, FormField::DataFolder, QLatin1StringView("invalid-data-folder"),
+     Validate<FormField::DataFolder, ValidateAppDir>},
 };
+
+static_assert(std::ranges::all_of(formFields,
+                                  [](const FormFieldRow &row) {
+                                      return std::ranges::any_of(reviewRules,
+                                                                 [&](const auto &rule) {
+                                                                     return rule.field == row.field;
+                                                                 });
+                                  }),
+              "every field of the form information has a rule");
+
+/// What was judged, by its name to a user.
+QLatin1StringView NameOf(const ReviewRule &rule)
+{
+    return rule.field ? RowOf(*rule.field).name : "questions"_L1;
+}
 
 } // namespace
 
@@ -60,7 +79,7 @@ ReviewResult ReviewProject(Project &project)
         QString message;
         rule.validate(project, result.stepFailed[static_cast<size_t>(rule.step - 1)], message);
         if (!message.isEmpty())
-            result.entries.push_back({rule.step, rule.code, rule.field, message});
+            result.entries.push_back({rule.step, rule.code, NameOf(rule), message, rule.leadsTo});
     }
     return result;
 }
@@ -78,18 +97,6 @@ StepVerdict CheckStep(int step, Project &project)
     }
     verdict.text = messages.join(u'\n');
     return verdict;
-}
-
-EntryTarget TargetOfEntry(QStringView listText)
-{
-    const QStringView key = TrimBlanks(listText).left(5);
-    if (key == "Step1"_L1)
-        return {1, listText.contains("Version"_L1) ? "txtAppVersion"_L1 : "txtAppName"_L1};
-    if (key == "Step2"_L1)
-        return {2, {}};
-    if (key == "Step3"_L1)
-        return {3, "txt3_appDir"_L1};
-    return {};
 }
 
 } // namespace vellumo

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "model/project.h"
+#include "model/form_fields.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace vellumo {
@@ -13,6 +14,7 @@ struct ReviewEntry {
     QLatin1StringView code;  ///< of the rule, for machines; never changes
     QLatin1StringView field; ///< what was judged, by its name to a user
     QString message;
+    std::optional<FormField> leadsTo; ///< where a user is led who follows it; none = to the step
 };
 
 /// The entry as the error list shows it: "Step1", two tabs and the message.
@@ -38,15 +40,5 @@ struct StepVerdict {
 
 /// Applies the rules of a step to the project, which is left as ReviewProject leaves it.
 StepVerdict CheckStep(int step, Project &project);
-
-/// Where a double-click on an entry of the error list leads.
-struct EntryTarget {
-    int step = 0;              ///< 1 to 3, 0 = nowhere
-    QLatin1StringView textBox; ///< objectName of the box that gets the focus; empty = it stays
-};
-
-/// The target of the entry that the list shows as this text, which may have blanks around it.
-/// An entry on the description leads to the name.
-EntryTarget TargetOfEntry(QStringView listText);
 
 } // namespace vellumo

@@ -61,7 +61,6 @@ TEST(ProjectReader, ReadsEveryValue)
     EXPECT_EQ(project.FormPath, uR"(C:\Data)"_s);
     EXPECT_EQ(project.source.MaxId(), 8);
     EXPECT_EQ(project.TitleList, QStringList{u"Age"_s});
-    EXPECT_EQ(project.path, u""_s);
 
     ASSERT_EQ(project.source.QuestionCount(), 1);
     const QuestionRow &question = project.source.Questions().Current();

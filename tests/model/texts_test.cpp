@@ -38,10 +38,3 @@ TEST(Texts, EncodesOrNamesPlaceAndCharacter)
                                     "which windows-1252 does not have."_s);
     EXPECT_EQ(Describe(TextPlace{"form name"_L1}), u"The form name"_s);
 }
-
-TEST(Texts, AnErrorSaysWhereItAroseAsFarAsThatIsKnown)
-{
-    EXPECT_EQ(Describe(Error{u"gone"_s}), u"gone"_s);
-    EXPECT_EQ(Describe(Error{u"gone"_s, u"a.vmp"_s}), u"a.vmp: gone"_s);
-    EXPECT_EQ(Describe(Error{u"gone"_s, u"a.vmp"_s, 12}), u"a.vmp:12: gone"_s);
-}

@@ -1,7 +1,5 @@
 #include "palmgen/create_pass.h"
 
-#include "support/files.h"
-#include "support/ordinary_user.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
@@ -11,36 +9,12 @@ using namespace vellumo;
 
 namespace {
 
-/// A pass in folders of its own; everything that it tells or opens is kept, in order.
+/// A pass in folders of its own, with a builder that keeps what it was handed.
 class CreatePass : public testing::Test
 {
 protected:
     CreatePass()
     {
-        QDir(m_folder.path()).mkdir(u"app"_s);
-        QDir(m_folder.path()).mkdir(u"projects"_s);
-        QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
-        place.applicationFolder = m_folder.filePath(u"app"_s);
-        place.projectsFolder = m_folder.filePath(u"projects/"_s);
-        place.runTool = [this](const ToolCall &call) {
-            events.append(u"run "_s + call.name);
-            if (call.name == u"pilrc"_s)
-                script = BytesOf(call.arguments.last());
-            ToolRun run;
-            run.started = true;
-            run.succeeded = toolsSucceed;
-            return run;
-        };
-        place.reportNotStarted = [this](const QString &text) {
-            events.append(u"report "_s + text);
-        };
-        surroundings.makeIdentifier = [] { return u"{01234567-89AB-CDEF-0123-456789ABCDEF}"_s; };
-        surroundings.tellSuccess = [this](const QString &text) {
-            events.append(u"good "_s + text);
-        };
-        surroundings.tellFailure = [this](const QString &text) { events.append(u"bad "_s + text); };
-        surroundings.open = [this](const QString &path) { events.append(u"open "_s + path); };
-
         project.FormName = u"  Survey "_s;
         project.source.AddQuestion();
         project.source.Questions().Current() = {.Order = 1, .Type = u"Text"_s, .Id = 1};
@@ -48,99 +22,72 @@ protected:
 
     CreateReport Create()
     {
-        surroundings.place = place;
-        return CreateVellsheet(project, surroundings);
+        const CreatePlace place = {
+            folders, [this](const Script &script, const QString &name, const BuildFolders &in) {
+                EXPECT_EQ(in.work, folders.work);
+                EXPECT_EQ(in.databases, folders.databases);
+                scripts.append(script.bytes);
+                names.append(name);
+                return built;
+            }};
+        return MakeDatabase(project, place, identifier);
     }
 
-    QTemporaryDir m_folder;
-    BuildPlace place;
-    CreateSurroundings surroundings;
+    const BuildFolders folders = {u"/app"_s, u"/projects/"_s};
+    BuildReport built;
+    QString identifier = u"{01234567-89AB-CDEF-0123-456789ABCDEF}"_s;
     Project project;
-    QStringList events;
-    QByteArray script;
-    bool toolsSucceed = true;
+    QList<QByteArray> scripts;
+    QStringList names;
 };
-
-const QString failed = u"bad Error in Vellsheet Creation!"_s;
 
 } // namespace
 
-TEST_F(CreatePass, WritesTheScriptBuildsAndTells)
+TEST_F(CreatePass, HandsTheScriptToTheBuilder)
 {
-    EXPECT_TRUE(Create().IsComplete());
-    EXPECT_EQ(events,
-              (QStringList{u"run pilrc"_s, u"run build-prc"_s,
-                           u"good %1Survey.Prc has been created. You may now install it onto your "
-                           "Palm handheld (using the Palm Install Tool) to use with Vellumo "
-                           "Viewer."_s.arg(place.projectsFolder),
-                           u"open %1Survey.prc"_s.arg(place.projectsFolder),
-                           u"open %1"_s.arg(place.projectsFolder)}));
-    EXPECT_TRUE(script.contains("\"0123456789ABCDEF0123456789ABCDEF\" 0x00\r\n"));
-    EXPECT_TRUE(script.contains("applicationiconname id 1000 \"  Survey \"\r\n"));
-    EXPECT_EQ(NamesIn(place.applicationFolder), QStringList());
+    built.runs = {{.commandLine = u"a tool"_s, .end = ToolEnd::Failed}};
+    const CreateReport report = Create();
+    EXPECT_EQ(report.end, CreateEnd::BuildEnded) << "whatever the tools said";
+    EXPECT_EQ(report.name, u"Survey"_s);
+    ASSERT_EQ(report.runs.size(), 1);
+    EXPECT_EQ(report.runs[0].commandLine, u"a tool"_s);
+    EXPECT_EQ(names, QStringList{u"Survey"_s});
+    ASSERT_EQ(scripts.size(), 1);
+    EXPECT_TRUE(scripts[0].contains("\"0123456789ABCDEF0123456789ABCDEF\" 0x00\r\n"));
+    EXPECT_TRUE(scripts[0].contains("applicationiconname id 1000 \"  Survey \"\r\n"));
 }
 
 TEST_F(CreatePass, WorksWithoutAnIdentifier)
 {
-    surroundings.makeIdentifier = [] { return QString(); };
-    EXPECT_TRUE(Create().IsComplete());
-    EXPECT_TRUE(script.contains("\"\" 0x00\r\n"));
+    identifier.clear();
+    EXPECT_EQ(Create().end, CreateEnd::BuildEnded);
+    EXPECT_TRUE(scripts.value(0).contains("\"\" 0x00\r\n"));
 }
 
-TEST_F(CreatePass, ReportsSuccessWhateverTheToolsSaid)
-{
-    toolsSucceed = false;
-    const CreateReport report = Create();
-    EXPECT_TRUE(report.IsComplete());
-    ASSERT_EQ(report.runs.size(), 2);
-    EXPECT_FALSE(report.runs[0].succeeded);
-    EXPECT_TRUE(events[2].startsWith(u"good "));
-}
-
-TEST_F(CreatePass, AFailedScriptStaysAndNothingIsBuilt)
+TEST_F(CreatePass, AFailedScriptIsHandedOnAsFarAsItGoes)
 {
     project.source.Questions().Current().Type = u"Checkboxes"_s;
     const CreateReport report = Create();
-    ASSERT_TRUE(report.projectFault);
-    EXPECT_EQ(report.projectFault->text, u"Question 1 is a list without items"_s);
-    EXPECT_EQ(events, QStringList{failed});
-    EXPECT_TRUE(BytesOf(place.applicationFolder + u"/Survey.rcp"_s).startsWith("hex\"flds\""));
+    EXPECT_EQ(report.end, CreateEnd::ProjectRefused);
+    EXPECT_EQ(report.error.text, u"Question 1 is a list without items"_s);
+    EXPECT_TRUE(scripts.value(0).startsWith("hex\"flds\""));
 }
 
-TEST_F(CreatePass, SaysWhenPermissionIsDenied)
+TEST_F(CreatePass, AFileThatCannotBeWrittenEndsThePass)
 {
-    QFile::setPermissions(place.applicationFolder,
-                          QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
-    {
-        const AsOrdinaryUser ordinary;
-        EXPECT_FALSE(Create().IsComplete());
-    }
-    QFile::setPermissions(place.applicationFolder, QFile::Permissions(0x7755));
-    EXPECT_EQ(events, QStringList{u"bad Permission denied\r\nError in Vellsheet Creation!"_s});
-}
-
-TEST_F(CreatePass, SaysNoMoreOfOtherFailures)
-{
-    QDir(place.applicationFolder).mkdir(u"Survey.rcp"_s);
-    EXPECT_FALSE(Create().IsComplete());
-    EXPECT_EQ(events, QStringList{failed});
-}
-
-TEST_F(CreatePass, ADatabaseThatCannotBeDeletedEndsThePass)
-{
-    QDir(place.projectsFolder).mkpath(u"Survey.prc/inner"_s);
-    EXPECT_FALSE(Create().IsComplete());
-    EXPECT_EQ(events, QStringList{failed});
+    built.outcome = Error{u"Permission denied"_s, u"a.rcp"_s, 0, true};
+    const CreateReport report = Create();
+    EXPECT_EQ(report.end, CreateEnd::FileRefused);
+    EXPECT_EQ(report.error.file, u"a.rcp"_s);
+    EXPECT_TRUE(report.error.permissionDenied);
 }
 
 TEST_F(CreatePass, TakesNoNameThatLeadsElsewhere)
 {
     for (const QString &name : {u"../Survey"_s, u"a/b"_s, u""_s, u" "_s, u"."_s, u".."_s}) {
         SCOPED_TRACE(name.toStdString());
-        events.clear();
         project.FormName = name;
-        EXPECT_FALSE(Create().IsComplete());
-        EXPECT_EQ(events, QStringList{failed});
+        EXPECT_EQ(Create().end, CreateEnd::ProjectRefused);
     }
-    EXPECT_EQ(NamesIn(m_folder.path()), (QStringList{u"app"_s, u"projects"_s}));
+    EXPECT_TRUE(names.isEmpty()) << "nothing was built";
 }

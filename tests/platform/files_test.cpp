@@ -1,6 +1,7 @@
 #include "platform/files.h"
 
 #include "support/files.h"
+#include "support/full_disk.h"
 #include "support/ordinary_user.h"
 #include "support/print.h"
 
@@ -13,15 +14,15 @@ TEST(Files, WritesAnewAndDeletes)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.txt"_s);
-    EXPECT_FALSE(WriteNewFile(path, "long content"));
-    EXPECT_FALSE(WriteNewFile(path, "short"));
+    EXPECT_TRUE(WriteNewFile(path, "long content"));
+    EXPECT_TRUE(WriteNewFile(path, "short"));
     EXPECT_EQ(BytesOf(path), "short");
-    EXPECT_FALSE(RemoveFile(path));
+    EXPECT_TRUE(RemoveFile(path));
     EXPECT_FALSE(QFile::exists(path));
-    EXPECT_FALSE(RemoveFile(path)) << "what does not exist is no fault";
+    EXPECT_TRUE(RemoveFile(path)) << "what does not exist is no error";
 }
 
-TEST(Files, TellsDeniedPermissionFromOtherFaults)
+TEST(Files, TellsDeniedPermissionFromOtherReasons)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.txt"_s);
@@ -31,21 +32,57 @@ TEST(Files, TellsDeniedPermissionFromOtherFaults)
     {
         const AsOrdinaryUser ordinary;
         const auto writing = WriteNewFile(folder.filePath(u"b.txt"_s), "x");
-        ASSERT_TRUE(writing);
-        EXPECT_TRUE(writing->permissionDenied);
-        EXPECT_EQ(writing->description, u"Permission denied"_s);
+        ASSERT_FALSE(writing);
+        EXPECT_TRUE(writing.error().permissionDenied);
+        EXPECT_EQ(writing.error().text, u"Permission denied"_s);
         const auto deleting = RemoveFile(path);
-        ASSERT_TRUE(deleting);
-        EXPECT_TRUE(deleting->permissionDenied);
-        EXPECT_EQ(deleting->description, u"Permission denied"_s);
+        ASSERT_FALSE(deleting);
+        EXPECT_TRUE(deleting.error().permissionDenied);
+        EXPECT_EQ(deleting.error().text, u"Permission denied"_s);
     }
     QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 
     const auto noFolder = WriteNewFile(folder.filePath(u"none/a.txt"_s), "x");
-    ASSERT_TRUE(noFolder);
-    EXPECT_FALSE(noFolder->permissionDenied);
+    ASSERT_FALSE(noFolder);
+    EXPECT_FALSE(noFolder.error().permissionDenied);
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"full/inner"_s));
     const auto notEmpty = RemoveFile(folder.filePath(u"full"_s));
-    ASSERT_TRUE(notEmpty);
-    EXPECT_FALSE(notEmpty->permissionDenied);
+    ASSERT_FALSE(notEmpty);
+    EXPECT_FALSE(notEmpty.error().permissionDenied);
+}
+
+TEST(Files, ReadsNoMoreThanTheLimitAndNamesWhatIsTooLarge)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.bin"_s);
+    const FileLimit limit = {4, "spoon"_L1};
+    ASSERT_TRUE(WriteBytes(path, "1234"));
+    const Result<QByteArray> fits = ReadWholeFile(path, limit);
+    ASSERT_TRUE(fits);
+    EXPECT_EQ(*fits, "1234");
+
+    ASSERT_TRUE(WriteBytes(path, "12345"));
+    const Result<QByteArray> large = ReadWholeFile(path, limit);
+    ASSERT_FALSE(large);
+    EXPECT_EQ(large.error().text, u"The file is larger than any spoon can be"_s);
+    EXPECT_EQ(large.error().file, path);
+
+    EXPECT_EQ(ReadWholeFile(folder.path(), limit).error().text, u"Is a folder"_s);
+    EXPECT_EQ(ReadWholeFile(path + u'x', limit).error().text, u"No such file or directory"_s);
+}
+
+TEST(Files, AFullDiskIsNoticedWhateverTheSize)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"kept.vmp"_s);
+    ASSERT_TRUE(WriteBytes(path, "what stood there"));
+    for (const int size : {1001, 3000, 16384, 100000}) {
+        SCOPED_TRACE(size);
+        const FullDisk full(1000);
+        const Outcome outcome = ReplaceFile(path, QByteArray(size, 'x'));
+        ASSERT_FALSE(outcome);
+        EXPECT_EQ(outcome.error().text, u"File too large"_s);
+    }
+    EXPECT_EQ(BytesOf(path), "what stood there");
+    EXPECT_EQ(NamesIn(folder.path()), QStringList{u"kept.vmp"_s});
 }

@@ -51,15 +51,3 @@ TEST(Describe, LeavesOutWhatCannotBeRead)
     EXPECT_EQ(Summarize(Read(damaged)).titles.size(), 9);
     EXPECT_EQ(Summarize(Read(damaged)).types, (QStringList{u"0x10"_s, u"Yes/No"_s, u"0xff"_s}));
 }
-
-TEST(Describe, TellsWhatIsInAProject)
-{
-    const ProjectSummary summary = Summarize(TenTypesProject());
-    EXPECT_EQ(summary.name, u"tentypes"_s);
-    EXPECT_EQ(summary.version, u"2.1"_s);
-    EXPECT_EQ(summary.questions, 10);
-    EXPECT_EQ(summary.items, 7);
-    EXPECT_EQ(summary.types.value(1), u"Pulldown List"_s);
-    EXPECT_EQ(summary.columnNames.value(9), u"REMARKS"_s);
-    EXPECT_EQ(summary.titles.value(0), u"Birds"_s);
-}

@@ -270,9 +270,9 @@ TEST(DeliveryWarnings, OfProjectFiles)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.file.toStdString());
-        Project project{.path = DataFile(u"projects/"_s + row.file)};
-        ASSERT_TRUE(LoadProject(project));
-        EXPECT_EQ(Summaries(project), row.summaries);
+        const Result<Project> project = LoadProject(DataFile(u"projects/"_s + row.file));
+        ASSERT_TRUE(project);
+        EXPECT_EQ(Summaries(*project), row.summaries);
     }
 }
 

@@ -163,7 +163,6 @@ TEST(ProjectReview, TrimsTheFormInformationWhetherItPassesOrNot)
 TEST(ProjectReview, ChangesNothingElse)
 {
     Project project = ProjectWith(3);
-    project.path = u" a.vmp "_s;
     project.TitleList = {u""_s, u" Bird "_s};
     project.source.SetMaxId(7);
     project.source.Questions().Append({.Order = 9,
@@ -179,7 +178,6 @@ TEST(ProjectReview, ChangesNothingElse)
 
     EXPECT_TRUE(ReviewProject(project).Passed());
 
-    EXPECT_EQ(project.path, u" a.vmp "_s);
     EXPECT_EQ(project.TitleList, (QStringList{u""_s, u" Bird "_s}));
     EXPECT_EQ(project.source.MaxId(), 7);
     EXPECT_EQ(project.source.QuestionCount(), 4);
@@ -199,44 +197,37 @@ TEST(ProjectReview, ChangesNothingElse)
 
 TEST(ProjectReview, PassesAProjectOfTheDesigner)
 {
-    Project project{.path = DataFile(u"projects/SiteVisit.vmp"_s)};
-    ASSERT_TRUE(LoadProject(project));
-    EXPECT_EQ(ListTexts(ReviewProject(project)), QStringList());
+    Result<Project> project = LoadProject(DataFile(u"projects/SiteVisit.vmp"_s));
+    ASSERT_TRUE(project);
+    EXPECT_EQ(ListTexts(ReviewProject(*project)), QStringList());
 }
 
-TEST(ProjectReview, ADoubleClickLeadsToTheStepAndItsBox)
+TEST(ProjectReview, AnEntryKnowsWhatItIsAboutAndWhereItLeads)
 {
+    Project project = ProjectWith(0);
+    project.FormName = u"a b"_s;
+    project.FormVersion = u"1.0 beta"_s;
+    project.Description = u"a\nb"_s;
+    project.FormPath = u"x"_s;
     const struct {
         const char *what;
-        QString listText;
-        EntryTarget target;
+        int step;
+        QLatin1StringView field;
+        std::optional<FormField> leadsTo;
     } rows[] = {
-        {"the name", noName, {1, "txtAppName"_L1}},
-        {"the version is too long",
-         u"Step1\t\tPlease keep your Vellsheet Version under 32 characters in length."_s,
-         {1, "txtAppVersion"_L1}},
-        {"the version has a quote",
-         u"Step1\t\tDouble Quotes in the Vellsheet Version are not allowed."_s,
-         {1, "txtAppVersion"_L1}},
-        {"the version has a space", spacesInVersion, {1, "txtAppVersion"_L1}},
-        {"the description leads to the name", returns, {1, "txtAppName"_L1}},
-        {"the questions have no box", noQuestion, {2, {}}},
-        {"the data folder", badFolder, {3, "txt3_appDir"_L1}},
-        {"blanks around it", u"  Step3\t\tx "_s, {3, "txt3_appDir"_L1}},
-        {"the key alone", u"Step2"_s, {2, {}}},
-        {"five characters are the key", u"Step10"_s, {1, "txtAppName"_L1}},
-        {"small letters are no Version", u"Step1\t\tthe version"_s, {1, "txtAppName"_L1}},
-        {"Version in another step", u"Step3\t\tVersion"_s, {3, "txt3_appDir"_L1}},
-        {"a tab is no blank", u"\tStep1\t\tx"_s, {}},
-        {"another step", u"Step4\t\tx"_s, {}},
-        {"a key in other case", u"step1\t\tx"_s, {}},
-        {"too short", u"Step"_s, {}},
-        {"nothing", u""_s, {}},
+        {"the name", 1, "form name"_L1, FormField::Name},
+        {"the version", 1, "form version"_L1, FormField::Version},
+        {"the description leads to the name", 1, "description"_L1, FormField::Name},
+        {"the questions have no box", 2, "questions"_L1, std::nullopt},
+        {"the data folder", 3, "data folder"_L1, FormField::DataFolder},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        EXPECT_EQ(TargetOfEntry(row.listText).step, row.target.step);
-        EXPECT_EQ(TargetOfEntry(row.listText).textBox, row.target.textBox);
+    const std::vector<ReviewEntry> entries = ReviewProject(project).entries;
+    ASSERT_EQ(entries.size(), std::size(rows));
+    for (size_t i = 0; i < entries.size(); ++i) {
+        SCOPED_TRACE(rows[i].what);
+        EXPECT_EQ(entries[i].step, rows[i].step);
+        EXPECT_EQ(entries[i].field, rows[i].field);
+        EXPECT_EQ(entries[i].leadsTo, rows[i].leadsTo);
     }
 }
 

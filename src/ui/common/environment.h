@@ -1,9 +1,10 @@
 #pragma once
 
-#include "palmgen/tool_runner.h"
+#include "platform/tool_runner.h"
 
 #include <QString>
 
+#include <chrono>
 #include <functional>
 
 namespace vellumo {
@@ -15,6 +16,7 @@ struct Environment {
     QString helpFile;          ///< full path; empty = there is none
     QString siteAddress;       ///< of the maker's web site, without a slash at its end
     QString version;           ///< three numbers and two full stops, such as "1.1.2"
+    std::chrono::milliseconds splashDuration{3000};
     /// A fresh identifier in registry form; empty when none could be made.
     std::function<QString()> makeIdentifier;
     std::function<ToolRun(const ToolCall &call)> runTool;

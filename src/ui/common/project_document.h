@@ -1,13 +1,13 @@
 #pragma once
 
-#include "model/project.h"
+#include "model/form_fields.h"
 
 #include <QObject>
 
 namespace vellumo {
 
-/// The one open project, and whether it holds edits that were not saved. What shows the questions
-/// learns of their changes here.
+/// The one open project, the file that it belongs to, and whether it holds edits that were not
+/// saved. What shows any of it learns of changes here.
 class ProjectDocument : public QObject
 {
     Q_OBJECT
@@ -15,25 +15,52 @@ class ProjectDocument : public QObject
 public:
     using QObject::QObject;
 
-    Project &project() { return m_project; }
     const Project &project() const { return m_project; }
+    /// To move the cursor. What changes a row goes through ChangeQuestions.
     clsDataSource &source() { return m_project.source; }
     const clsDataSource &source() const { return m_project.source; }
 
+    /// Of the project's file; empty while there is none.
+    const QString &path() const { return m_path; }
+
     bool ProjectChanged() const { return m_changed; }
     void SetProjectChanged(bool changed) { m_changed = changed; }
+
+    /// Puts another project in place of the open one. Whether it counts as changed is the caller's
+    /// to say.
+    void Replace(Project project, const QString &path);
+
+    /// The project is what that file holds.
+    void MarkSaved(const QString &path);
+
+    /// Takes a text as it is typed; the project counts as changed.
+    void SetText(FormField field, const QString &text);
+
+    void SetTitleList(const QStringList &titles) { m_project.TitleList = titles; }
+
+    /// Runs something that may change the form information, such as a review, and gives its result.
+    template <typename Change> auto ChangeTexts(Change change)
+    {
+        auto result = change(m_project);
+        emit TextsChanged();
+        return result;
+    }
 
     /// Runs a change of the question or item table between the two signals and gives its result.
     /// Changes do not nest; moving the cursor alone is none.
     template <typename Change> auto ChangeQuestions(Change change)
     {
         const Announcement announcement(*this);
-        return change();
+        return change(m_project.source);
     }
 
 signals:
     void QuestionsAboutToChange();
     void QuestionsChanged();
+    /// The form information may be another one.
+    void TextsChanged();
+    /// Everything is another one. Comes after the signals above.
+    void Replaced();
 
 private:
     struct Announcement {
@@ -47,6 +74,7 @@ private:
     };
 
     Project m_project;
+    QString m_path;
     bool m_changed = false;
 };
 

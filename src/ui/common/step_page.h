@@ -1,20 +1,37 @@
 #pragma once
 
+#include "ui/common/field_box.h"
 #include "ui/common/link_label.h"
+#include "ui/common/project_document.h"
 
 #include <QWidget>
 
 #include <initializer_list>
+#include <memory>
+#include <vector>
 
 namespace vellumo {
 
-/// One of the four steps of the main window: what it asks of the window.
+/// One of the four steps of the main window: what the window asks of it, and what it asks of the
+/// window.
 class StepPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    /// The document must outlive the step.
+    explicit StepPage(ProjectDocument &document, QWidget *parent = nullptr);
+    ~StepPage() override;
+
+    /// The step has come to be the one that is shown.
+    virtual void Enter() {}
+
+    /// Shows the project's texts in the step's boxes; a box whose text this alters counts as
+    /// changed. The document's signal leads here.
+    void ShowTexts();
+
+    /// Puts the focus into the box of a field; a step that does not have it does nothing.
+    void Focus(FormField field);
 
 signals:
     void BackAsked();
@@ -27,12 +44,19 @@ protected:
         LinkLabel *label;
         quint32 contextId;
     };
-    void ConnectHelp(std::initializer_list<HelpLink> links)
+    void ConnectHelp(std::initializer_list<HelpLink> links);
+
+    /// The box, a QLineEdit or QPlainTextEdit of the step, is where a field is entered.
+    template <typename Box> void Bind(FormField field, Box *box)
     {
-        for (const HelpLink &link : links)
-            connect(link.label, &LinkLabel::Followed, this,
-                    [this, id = link.contextId] { emit HelpAsked(id); });
+        m_boxes.push_back(std::make_unique<FieldBox>(m_document, field, box));
     }
+
+    ProjectDocument &document() const { return m_document; }
+
+private:
+    ProjectDocument &m_document;
+    std::vector<std::unique_ptr<FieldBox>> m_boxes;
 };
 
 } // namespace vellumo

@@ -39,7 +39,8 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
       m_info(new StepInfo(m_document)),
       m_questions(new StepQuestions(m_document)),
       m_data(new StepData(m_document)),
-      m_complete(new StepComplete)
+      m_complete(new StepComplete(m_document)),
+      m_steps{m_info, m_questions, m_data, m_complete}
 {
     ui->setupUi(this);
     CentreOnScreen(*this);
@@ -47,8 +48,8 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
     ConnectSteps();
     ConnectMenus();
     ConnectToolbar();
-    for (int step = 1; step <= 4; ++step)
-        MarkStep(step, false);
+    connect(&m_document, &ProjectDocument::Replaced, this, &appInfoForm::ForgetReview);
+    ForgetReview();
 }
 
 appInfoForm::~appInfoForm() = default;
@@ -64,8 +65,7 @@ void appInfoForm::AddSteps()
 
 void appInfoForm::ConnectSteps()
 {
-    const StepPage *steps[] = {m_info, m_questions, m_data, m_complete};
-    for (int step = 1; const StepPage *page : steps) {
+    for (int step = 1; const StepPage *page : m_steps) {
         connect(page, &StepPage::BackAsked, this, [=, this] { SelectStep(step - 1); });
         connect(page, &StepPage::NextAsked, this, [=, this] { LeaveForward(step); });
         connect(page, &StepPage::HelpAsked, this, &appInfoForm::HelpAsked);
@@ -105,7 +105,7 @@ void appInfoForm::ConnectToolbar()
 void appInfoForm::FinishSetUp()
 {
     SelectStep(1);
-    findChild<QWidget *>(u"txtAppName"_s)->setFocus();
+    m_info->Enter();
     m_document.SetProjectChanged(false);
     m_formReady = true;
     LayOutIfLargeEnough();
@@ -115,10 +115,9 @@ void appInfoForm::New()
 {
     if (!m_files->MayDiscard(ProjectFiles::Reason::New))
         return;
-    EmptyProject();
+    m_document.Replace({}, {});
     SelectStep(1);
     m_document.SetProjectChanged(false);
-    m_document.project().path.clear();
 }
 
 void appInfoForm::Open()
@@ -132,16 +131,13 @@ void appInfoForm::Open()
 
 void appInfoForm::OpenProject(const QString &path)
 {
-    EmptyProject();
-    m_document.project().path = path;
-    const Outcome loaded = m_document.ChangeQuestions([this] {
-        const Outcome outcome = LoadProject(m_document.project());
-        m_document.source().MoveFirst();
-        return outcome;
-    });
-    if (!loaded)
+    Result<Project> loaded = LoadProject(path);
+    if (loaded) {
+        m_document.Replace(std::move(*loaded), path);
+    } else {
+        m_document.Replace({}, {});
         ShowCritical(this, invalidProjectFile);
-    ShowTexts();
+    }
     Review(false);
     SelectStep(1);
     m_document.SetProjectChanged(false);
@@ -153,23 +149,8 @@ void appInfoForm::Exit()
         close();
 }
 
-void appInfoForm::EmptyProject()
+void appInfoForm::ForgetReview()
 {
-    m_document.ChangeQuestions([this] {
-        m_document.source().ClearQuestions();
-        m_document.source().ClearItems();
-        return true;
-    });
-    ResetFormInfo();
-    m_questions->Refresh();
-}
-
-void appInfoForm::ResetFormInfo()
-{
-    Project &project = m_document.project();
-    project.TitleList = {QString()};
-    project.FormName = project.FormVersion = project.Description = project.FormPath = QString();
-    ShowTexts();
     m_complete->ShowErrors({});
     for (int step = 1; step <= 4; ++step)
         MarkStep(step, false);
@@ -200,8 +181,8 @@ void appInfoForm::LayOutIfLargeEnough()
 
 void appInfoForm::LeaveForward(int step)
 {
-    const StepVerdict verdict = CheckStep(step, m_document.project());
-    ShowTexts();
+    const StepVerdict verdict =
+        m_document.ChangeTexts([step](Project &project) { return CheckStep(step, project); });
     if (verdict.failed)
         ShowExclamation(this, verdict.text);
     else
@@ -217,7 +198,9 @@ void appInfoForm::ChangeStep(int tabIndex)
 {
     MarkLeftStep();
     m_step = tabIndex + 1;
-    EnterStep();
+    m_steps[static_cast<size_t>(tabIndex)]->Enter();
+    if (m_step == 4)
+        MarkStep(4, false);
     LayOutIfLargeEnough();
 }
 
@@ -225,22 +208,9 @@ void appInfoForm::MarkLeftStep()
 {
     if (m_step == 4)
         return;
-    MarkStep(m_step, !CheckStep(m_step, m_document.project()).failed);
-    ShowTexts();
-}
-
-void appInfoForm::EnterStep()
-{
-    if (m_step == 1)
-        findChild<QWidget *>(u"txtAppName"_s)->setFocus();
-    if (m_step == 2)
-        m_questions->Refresh();
-    if (m_step == 3)
-        findChild<QWidget *>(u"txt3_appDir"_s)->setFocus();
-    if (m_step == 4) {
-        MarkStep(4, false);
-        m_complete->AllowCreation(false);
-    }
+    const StepVerdict verdict =
+        m_document.ChangeTexts([this](Project &project) { return CheckStep(m_step, project); });
+    MarkStep(m_step, !verdict.failed);
 }
 
 void appInfoForm::MarkStep(int step, bool valid)
@@ -254,27 +224,16 @@ void appInfoForm::MarkStep(int step, bool valid)
                                        (valid ? u", valid"_s : u", not valid yet"_s));
 }
 
-void appInfoForm::ShowTexts()
-{
-    m_info->ShowTexts();
-    m_data->ShowTexts();
-}
-
 void appInfoForm::Review(bool showResults)
 {
-    const ReviewResult result = ReviewProject(m_document.project());
-    ShowTexts();
+    const ReviewResult result =
+        m_document.ChangeTexts([](Project &project) { return ReviewProject(project); });
     for (int step = 1; step <= 3; ++step)
         MarkStep(step, !result.stepFailed[static_cast<size_t>(step - 1)]);
     MarkStep(4, result.Passed());
     m_complete->AllowCreation(result.Passed());
 
-    QStringList errors;
-    if (showResults)
-        for (const ReviewEntry &entry : result.entries)
-            errors += ListText(entry);
-    m_complete->ShowErrors(errors);
-
+    m_complete->ShowErrors(showResults ? result.entries : std::vector<ReviewEntry>());
     if (showResults && result.Passed())
         ShowInformation(this, u"Your Vellsheet has been validated successfully!\r\n"
                               "Press the Create Vellsheet button to create it."_s);
@@ -283,14 +242,11 @@ void appInfoForm::Review(bool showResults)
                            "Please check the Error List for details."_s);
 }
 
-void appInfoForm::GoToError(const QString &listText)
+void appInfoForm::GoToError(const ReviewEntry &entry)
 {
-    const EntryTarget target = TargetOfEntry(listText);
-    if (target.step == 0)
-        return;
-    SelectStep(target.step);
-    if (!target.textBox.isEmpty())
-        findChild<QWidget *>(target.textBox)->setFocus();
+    SelectStep(entry.step);
+    if (entry.leadsTo)
+        m_steps[static_cast<size_t>(entry.step - 1)]->Focus(*entry.leadsTo);
 }
 
 } // namespace vellumo

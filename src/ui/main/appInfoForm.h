@@ -6,13 +6,16 @@
 
 #include <QMainWindow>
 
+#include <array>
 #include <memory>
 
 namespace vellumo {
 
 class StepComplete;
+struct ReviewEntry;
 class StepData;
 class StepInfo;
+class StepPage;
 class StepQuestions;
 namespace Ui {
 class appInfoForm;
@@ -56,20 +59,17 @@ private:
     void New();
     void Open();
     void Exit();
-    void EmptyProject();
-    void ResetFormInfo();
+    void ForgetReview();
 
     void LeaveForward(int step);
     void SelectStep(int step);
     void ChangeStep(int tabIndex);
     void MarkLeftStep();
-    void EnterStep();
     void MarkStep(int step, bool valid);
-    void ShowTexts();
     void LayOutIfLargeEnough();
 
     void Review(bool showResults);
-    void GoToError(const QString &listText);
+    void GoToError(const ReviewEntry &entry);
 
     Environment m_environment;
     ProjectDocument m_document;
@@ -79,8 +79,9 @@ private:
     StepQuestions *m_questions;
     StepData *m_data;
     StepComplete *m_complete;
-    int m_step = 1;           ///< the one that is shown, 1 to 4
-    bool m_formReady = false; ///< set-up is complete
+    std::array<StepPage *, 4> m_steps; ///< in their order
+    int m_step = 1;                    ///< the one that is shown, 1 to 4
+    bool m_formReady = false;          ///< set-up is complete
 };
 
 } // namespace vellumo

@@ -1,6 +1,7 @@
 #include "ui/main/create_database.h"
 
-#include "palmgen/create_pass.h"
+#include "palmgen/build_with_tools.h"
+#include "palmgen/create_messages.h"
 #include "ui/common/prompts.h"
 
 #include <QGuiApplication>
@@ -11,34 +12,30 @@ namespace vellumo {
 namespace {
 
 /// The window does not repaint while a tool runs; the cursor says so.
-ToolRun RunWithWaitCursor(const Environment &environment, const ToolCall &call)
+CreateReport MakeWithWaitCursor(const Project &project, const CreatePlace &place,
+                                const QString &identifier)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    ToolRun run = environment.runTool(call);
+    CreateReport report = MakeDatabase(project, place, identifier);
     QGuiApplication::restoreOverrideCursor();
-    return run;
+    return report;
 }
 
 } // namespace
 
 void CreateDatabase(const Project &project, const Environment &environment, QWidget *window)
 {
-    CreateVellsheet(
-        project,
-        {.place = {.applicationFolder = environment.applicationFolder,
-                   .projectsFolder = environment.projectsFolder,
-                   .runTool =
-                       [&](const ToolCall &call) { return RunWithWaitCursor(environment, call); },
-                   .reportNotStarted =
-                       [=](const QString &message) {
-                           ShowBox(window, {.text = message,
-                                            .icon = QMessageBox::Warning,
-                                            .title = u"Error"_s});
-                       }},
-         .makeIdentifier = environment.makeIdentifier,
-         .tellSuccess = [=](const QString &message) { ShowInformation(window, message); },
-         .tellFailure = [=](const QString &message) { ShowCritical(window, message); },
-         .open = environment.open});
+    const BuildFolders folders = {environment.applicationFolder, environment.projectsFolder};
+    const CreateReport report = MakeWithWaitCursor(
+        project, {folders, BuildWithTools(environment.runTool)}, environment.makeIdentifier());
+
+    for (const QString &message : MessagesOfTools(report))
+        ShowBox(window, {.text = message, .icon = QMessageBox::Warning, .title = u"Error"_s});
+    if (report.end != CreateEnd::BuildEnded)
+        return ShowCritical(window, MessageOfFailure(report));
+    ShowInformation(window, MessageOfSuccess(report, folders));
+    environment.open(folders.databases + report.name + ".prc"_L1);
+    environment.open(folders.databases);
 }
 
 } // namespace vellumo

@@ -11,8 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 
-logoForm::logoForm(const Environment &environment, Check check, std::chrono::milliseconds duration,
-                   QWidget *parent)
+logoForm::logoForm(const Environment &environment, Check check, QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
       ui(std::make_unique<Ui::logoForm>()),
       m_check(std::move(check)),
@@ -28,7 +27,7 @@ logoForm::logoForm(const Environment &environment, Check check, std::chrono::mil
     m_timer->setObjectName(u"Timer1"_s);
     m_timer->setSingleShot(true);
     m_timer->setTimerType(Qt::PreciseTimer);
-    m_timer->setInterval(duration);
+    m_timer->setInterval(environment.splashDuration);
     connect(m_timer, &QTimer::timeout, this, &logoForm::CheckAndClose);
 }
 

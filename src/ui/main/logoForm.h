@@ -2,7 +2,6 @@
 
 #include <QDialog>
 
-#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -14,9 +13,8 @@ namespace Ui {
 class logoForm;
 }
 
-inline constexpr std::chrono::milliseconds splashDuration{3000};
-
-/// The picture shown while the program starts. After its time, counted from when it is shown, it
+/// The picture shown while the program starts. After the time that the
+/// environment gives it, counted from when it is shown, it
 /// makes one check and closes once that has returned; it cannot be closed before, by any means.
 class logoForm : public QDialog
 {
@@ -26,8 +24,7 @@ public:
     /// What is run before closing; it may handle events, and show boxes over the given window.
     using Check = std::function<void(QWidget *parent)>;
 
-    logoForm(const Environment &environment, Check check,
-             std::chrono::milliseconds duration = splashDuration, QWidget *parent = nullptr);
+    logoForm(const Environment &environment, Check check, QWidget *parent = nullptr);
     ~logoForm() override;
 
     void reject() override;

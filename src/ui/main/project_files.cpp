@@ -30,13 +30,13 @@ ProjectFiles::ProjectFiles(ProjectDocument &document, const Environment &environ
 
 void ProjectFiles::Save()
 {
-    const QString path = m_document.project().path;
+    const QString path = m_document.path();
     SaveTo(path.isEmpty() ? ChooseTarget(m_environment.projectsFolder, {}) : path);
 }
 
 void ProjectFiles::SaveAs()
 {
-    const QString path = m_document.project().path;
+    const QString path = m_document.path();
     if (path.isEmpty())
         return SaveTo(ChooseTarget(m_environment.projectsFolder, {}));
     const QFileInfo file(path);
@@ -79,7 +79,7 @@ void ProjectFiles::SaveTo(const QString &path)
 {
     const Outcome saved = path.isEmpty() ? Error{} : SaveProject(m_document.project(), path);
     if (saved)
-        return m_document.SetProjectChanged(false);
+        return m_document.MarkSaved(path);
     m_saveCancelled = true;
     if (!path.isEmpty())
         ShowCritical(m_window, saved.error().text);

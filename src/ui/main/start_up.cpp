@@ -1,42 +1,52 @@
 #include "ui/main/start_up.h"
 
-#include <QDir>
+#include "model/basRegistry.h"
+#include "ui/common/prompts.h"
+#include "ui/main/fileOpenForm.h"
+#include "ui/main/logoForm.h"
+#include "ui/main/update_check.h"
 
-using namespace Qt::StringLiterals;
+#include <QDir>
 
 namespace vellumo {
 namespace {
 
-QString PathOf(const QString &commandLine, const QString &applicationFolder)
+void ShowSplash(const Environment &environment)
 {
-    if (commandLine.contains(QDir::separator()))
-        return commandLine;
-    return applicationFolder + QDir::separator() + commandLine;
+    logoForm(environment, [&](QWidget *parent) { CheckForUpdate(parent, environment); }).exec();
 }
 
-Start ChooseProject(const StartSurroundings &surroundings)
+Start AskForProject(const Environment &environment)
 {
-    const ShowOpenForm setting = surroundings.readShowOpenForm();
-    if (!setting.message.isEmpty())
-        surroundings.tell(setting.message);
-    if (setting.value != 1)
-        return {};
-    const Start chosen = surroundings.showChooser();
-    if (chosen.choice == newProject || chosen.path.isEmpty())
-        return {};
-    return chosen;
+    fileOpenForm chooser(environment.projectsFolder,
+                         [&] { HideOpenFormNextTime(environment.applicationFolder); });
+    chooser.exec();
+    const Start chosen = chooser.Chosen();
+    return chosen.choice == newProject || chosen.path.isEmpty() ? Start() : chosen;
 }
 
 } // namespace
 
-Start StartUp(const StartSurroundings &surroundings)
+QString ProjectOfCommandLine(const QStringList &arguments, const QString &applicationFolder)
 {
-    surroundings.makeProjectsFolder();
-    const QString commandLine = surroundings.arguments.join(u' ');
-    if (!commandLine.isEmpty())
-        return {existingProject, PathOf(commandLine, surroundings.applicationFolder)};
-    surroundings.showSplash();
-    return ChooseProject(surroundings);
+    const QString commandLine = arguments.join(u' ');
+    if (commandLine.isEmpty() || commandLine.contains(QDir::separator()))
+        return commandLine;
+    return applicationFolder + QDir::separator() + commandLine;
+}
+
+Start StartUp(const Environment &environment, const QStringList &arguments)
+{
+    QDir().mkpath(environment.projectsFolder);
+    const QString named = ProjectOfCommandLine(arguments, environment.applicationFolder);
+    if (!named.isEmpty())
+        return {existingProject, named};
+
+    ShowSplash(environment);
+    const ShowOpenForm setting = ReadShowOpenForm(environment.applicationFolder);
+    if (!setting.message.isEmpty())
+        ShowBox(nullptr, {.text = setting.message});
+    return setting.value == 1 ? AskForProject(environment) : Start();
 }
 
 } // namespace vellumo

@@ -7,8 +7,8 @@
 
 namespace vellumo {
 
-StepComplete::StepComplete(QWidget *parent)
-    : StepPage(parent), ui(std::make_unique<Ui::StepComplete>())
+StepComplete::StepComplete(ProjectDocument &document, QWidget *parent)
+    : StepPage(document, parent), ui(std::make_unique<Ui::StepComplete>())
 {
     ui->setupUi(this);
     ConnectHelp(
@@ -25,10 +25,12 @@ StepComplete::StepComplete(QWidget *parent)
 
 StepComplete::~StepComplete() = default;
 
-void StepComplete::ShowErrors(const QStringList &listTexts)
+void StepComplete::ShowErrors(const std::vector<ReviewEntry> &entries)
 {
+    m_entries = entries;
     ui->lstError->clear();
-    ui->lstError->addItems(listTexts);
+    for (const ReviewEntry &entry : entries)
+        ui->lstError->addItem(ListText(entry));
 }
 
 void StepComplete::AllowCreation(bool allowed)
@@ -38,9 +40,9 @@ void StepComplete::AllowCreation(bool allowed)
 
 void StepComplete::ChooseError()
 {
-    const QList<QListWidgetItem *> selected = ui->lstError->selectedItems();
+    const QModelIndexList selected = ui->lstError->selectionModel()->selectedIndexes();
     if (!selected.isEmpty())
-        emit ErrorChosen(selected.constFirst()->text());
+        emit ErrorChosen(m_entries[static_cast<size_t>(selected.constFirst().row())]);
 }
 
 } // namespace vellumo

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ui/common/step_page.h"
-
-#include <QStringList>
+#include "validation/project_review.h"
 
 #include <memory>
+#include <vector>
 
 namespace vellumo {
 namespace Ui {
@@ -17,23 +17,27 @@ class StepComplete : public StepPage
     Q_OBJECT
 
 public:
-    explicit StepComplete(QWidget *parent = nullptr);
+    /// The document must outlive the step.
+    explicit StepComplete(ProjectDocument &document, QWidget *parent = nullptr);
     ~StepComplete() override;
 
+    /// Until a review that is made here, nothing is created.
+    void Enter() override { AllowCreation(false); }
+
     /// Lists the errors of a review, or none.
-    void ShowErrors(const QStringList &listTexts);
+    void ShowErrors(const std::vector<ReviewEntry> &entries);
     void AllowCreation(bool allowed);
 
 signals:
     void ReviewAsked();
     void CreationAsked();
-    /// An entry of the error list was chosen; its text as ShowErrors was given it.
-    void ErrorChosen(const QString &listText);
+    void ErrorChosen(const ReviewEntry &entry);
 
 private:
     void ChooseError();
 
     std::unique_ptr<Ui::StepComplete> ui;
+    std::vector<ReviewEntry> m_entries; ///< of the list, row by row
 };
 
 } // namespace vellumo

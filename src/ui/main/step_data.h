@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/common/project_document.h"
 #include "ui/common/step_page.h"
 
 #include <memory>
@@ -20,14 +19,12 @@ public:
     explicit StepData(ProjectDocument &document, QWidget *parent = nullptr);
     ~StepData() override;
 
-    /// Shows the project's folder; a text that this alters counts as changed.
-    void ShowTexts();
+    void Enter() override { Focus(FormField::DataFolder); }
 
 private:
     void Browse();
 
     std::unique_ptr<Ui::StepData> ui;
-    ProjectDocument &m_document;
 };
 
 } // namespace vellumo

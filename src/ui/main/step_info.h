@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/common/project_document.h"
 #include "ui/common/step_page.h"
 
 #include <memory>
@@ -20,17 +19,10 @@ public:
     explicit StepInfo(ProjectDocument &document, QWidget *parent = nullptr);
     ~StepInfo() override;
 
-    /// Shows the project's texts; a box whose text this alters counts as changed.
-    void ShowTexts();
+    void Enter() override { Focus(FormField::Name); }
 
 private:
-    void ConnectBoxes();
-    void TakeDescription();
-
     std::unique_ptr<Ui::StepInfo> ui;
-    ProjectDocument &m_document;
-    QString
-        m_shownDescription; ///< as the project has it; the box knows only one kind of line break
 };
 
 } // namespace vellumo

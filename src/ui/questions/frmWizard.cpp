@@ -200,7 +200,7 @@ void frmWizard::Finish()
 void frmWizard::Append(const NewQuestion &question)
 {
     m_document.SetProjectChanged(true);
-    m_document.ChangeQuestions([&] { AppendQuestion(m_document.source(), question); });
+    m_document.ChangeQuestions([&](clsDataSource &source) { AppendQuestion(source, question); });
     Remember(question.title);
 }
 
@@ -209,7 +209,9 @@ void frmWizard::Remember(const QString &title)
     QStringList offered;
     for (int i = 0; i < ui->cboWiz2_1->count(); ++i)
         offered += ui->cboWiz2_1->itemText(i);
-    RememberTitle(title, m_document.project().TitleList, offered);
+    QStringList remembered = m_document.project().TitleList;
+    RememberTitle(title, remembered, offered);
+    m_document.SetTitleList(remembered);
     ui->cboWiz2_1->addItems(offered.sliced(ui->cboWiz2_1->count()));
 }
 

@@ -110,13 +110,13 @@ void propertyForm::SaveUnlessRefused()
     ui->txtTitle->setText(edited.title);
     ui->txtQuestion->setPlainText(edited.question);
 
-    clsDataSource &source = m_document.source();
-    const QString objections = ObjectionsTo(edited, source);
+    const QString objections = ObjectionsTo(edited, m_document.source());
     if (!objections.isEmpty()) {
         ShowExclamation(this, objections);
         return;
     }
-    m_document.ChangeQuestions([&] { ReplaceCurrentQuestion(source, edited); });
+    m_document.ChangeQuestions(
+        [&](clsDataSource &source) { ReplaceCurrentQuestion(source, edited); });
     m_document.SetProjectChanged(true);
     accept();
 }

@@ -19,9 +19,8 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 
 StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
-    : StepPage(parent),
+    : StepPage(document, parent),
       ui(std::make_unique<Ui::StepQuestions>()),
-      m_document(document),
       m_model(new QuestionModel(document, this))
 {
     ui->setupUi(this);
@@ -68,8 +67,9 @@ void StepQuestions::ConnectGrid()
             &StepQuestions::FollowGrid);
     connect(ui->DataGrid1, &QTableView::clicked, this, &StepQuestions::RefreshAfterClick);
     connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::Edit);
-    connect(&m_document, &ProjectDocument::QuestionsChanged, this,
+    connect(&document(), &ProjectDocument::QuestionsChanged, this,
             &StepQuestions::SelectCurrentRow);
+    connect(&document(), &ProjectDocument::Replaced, this, [this] { ui->previewBox->Show({}); });
 }
 
 bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
@@ -85,13 +85,13 @@ bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
 
 void StepQuestions::Add()
 {
-    const QString refusal = RefusalWhenFull(m_document.source());
+    const QString refusal = RefusalWhenFull(document().source());
     if (!refusal.isEmpty())
         return ShowExclamation(window(), refusal);
 
-    frmWizard wizard(m_document, window());
+    frmWizard wizard(document(), window());
     connect(&wizard, &frmWizard::HelpAsked, this, &StepQuestions::HelpAsked);
-    connect(&m_document, &ProjectDocument::QuestionsChanged, &wizard, [this] { RefreshPreview(); });
+    connect(&document(), &ProjectDocument::QuestionsChanged, &wizard, [this] { RefreshPreview(); });
     wizard.exec();
     RefreshPreview();
 }
@@ -100,7 +100,7 @@ void StepQuestions::Edit()
 {
     if (RefusesWithoutSelection())
         return;
-    propertyForm(m_document, window()).exec();
+    propertyForm(document(), window()).exec();
     RefreshPreview();
 }
 
@@ -110,20 +110,20 @@ void StepQuestions::Remove()
         return;
     if (AskYesNo(window(), u"Are you sure you want to delete this question?"_s) == "No"_L1)
         return;
-    m_document.ChangeQuestions([this] { RemoveQuestion(m_document.source()); });
-    if (m_document.source().QuestionCount() == 0)
+    document().ChangeQuestions(RemoveQuestion);
+    if (document().source().QuestionCount() == 0)
         LayOutColumns();
     RefreshPreview();
-    m_document.SetProjectChanged(true);
+    document().SetProjectChanged(true);
 }
 
 void StepQuestions::Move(bool (*moveRow)(clsDataSource &source))
 {
     if (RefusesWithoutSelection())
         return;
-    if (!m_document.ChangeQuestions([&] { return moveRow(m_document.source()); }))
+    if (!document().ChangeQuestions(moveRow))
         return;
-    m_document.SetProjectChanged(true);
+    document().SetProjectChanged(true);
     RefreshPreview();
 }
 
@@ -131,15 +131,14 @@ void StepQuestions::Duplicate()
 {
     if (RefusesWithoutSelection())
         return;
-    const QString refusal = RefusalWhenFull(m_document.source());
+    const QString refusal = RefusalWhenFull(document().source());
     if (!refusal.isEmpty())
         return ShowExclamation(window(), refusal);
     if (AskYesNo(window(), u"Are you sure you want to duplicate this question?"_s) == "No"_L1)
         return;
 
     m_previewPending = false;
-    const Outcome duplicated =
-        m_document.ChangeQuestions([this] { return DuplicateQuestion(m_document.source()); });
+    const Outcome duplicated = document().ChangeQuestions(DuplicateQuestion);
     if (!duplicated)
         return ShowExclamation(window(), duplicated.error().text);
     RefreshPreview(); // the project counts as unchanged, on purpose
@@ -147,13 +146,13 @@ void StepQuestions::Duplicate()
 
 bool StepQuestions::RefusesWithoutSelection()
 {
-    const QString refusal = RefusalWithoutSelection(m_document.source());
+    const QString refusal = RefusalWithoutSelection(document().source());
     if (!refusal.isEmpty())
         ShowExclamation(window(), refusal);
     return !refusal.isEmpty();
 }
 
-void StepQuestions::Refresh()
+void StepQuestions::Enter()
 {
     SelectCurrentRow();
     RefreshPreview();
@@ -161,7 +160,7 @@ void StepQuestions::Refresh()
 
 void StepQuestions::SelectCurrentRow()
 {
-    const clsDataSource &source = m_document.source();
+    const clsDataSource &source = document().source();
     if (source.AtEnd() || source.AtStart())
         return ui->DataGrid1->setCurrentIndex({});
     ui->DataGrid1->setCurrentIndex(m_model->index(static_cast<int>(source.GetPosition()), 0));
@@ -169,7 +168,7 @@ void StepQuestions::SelectCurrentRow()
 
 void StepQuestions::RefreshPreview()
 {
-    const auto preview = PreviewOf(m_document.source());
+    const auto preview = PreviewOf(document().source());
     ui->previewBox->Show(preview);
     if (preview && preview->pictureNumber == 0)
         ShowCritical(window(), u"This type is wrong!"_s);
@@ -184,7 +183,7 @@ void StepQuestions::RefreshAfterClick()
 void StepQuestions::FollowGrid(const QModelIndex &current)
 {
     if (current.isValid())
-        m_document.source().SetPosition(current.row());
+        document().source().SetPosition(current.row());
     if (std::exchange(m_previewPending, false))
         RefreshPreview();
 }

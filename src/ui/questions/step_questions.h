@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/common/project_document.h"
 #include "ui/common/step_page.h"
 
 #include <memory>
@@ -23,7 +22,7 @@ public:
     ~StepQuestions() override;
 
     /// Shows the current question in grid and preview.
-    void Refresh();
+    void Enter() override;
 
     /// Fits the controls to the step's size; without it they keep their places.
     void LayOut();
@@ -48,7 +47,6 @@ private:
     void FollowGrid(const QModelIndex &current);
 
     std::unique_ptr<Ui::StepQuestions> ui;
-    ProjectDocument &m_document;
     QuestionModel *m_model;
     /// A click refreshed the preview, and the grid may yet report a change of its row for it.
     bool m_previewPending = false;

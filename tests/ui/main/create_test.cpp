@@ -1,4 +1,4 @@
-#include "palmgen/tool_runner.h"
+#include "platform/tool_runner.h"
 #include "support/print.h"
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
@@ -49,9 +49,7 @@ TEST(Create, TellsOfSuccessWhateverTheToolsSaid)
 {
     Designer designer(sample);
     designer.runTool = [](const ToolCall &) {
-        ToolRun run;
-        run.started = true; // and failed
-        return run;
+        return ToolRun{.end = ToolEnd::Failed, .reason = u"exit status 1"_s};
     };
     const PromptScript prompts({u"OK"_s, u"OK"_s});
     ReviewAndCreate(designer);
@@ -64,10 +62,7 @@ TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
 {
     Designer designer(sample);
     designer.runTool = [](const ToolCall &call) {
-        ToolRun run;
-        run.commandLine = call.commandLine;
-        run.whyNotStarted = u"No such file"_s;
-        return run;
+        return ToolRun{.commandLine = call.commandLine, .reason = u"No such file"_s};
     };
     const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s});
     ReviewAndCreate(designer);

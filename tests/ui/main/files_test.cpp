@@ -30,7 +30,7 @@ TEST(New, AsksNothingWithoutChanges)
     EXPECT_EQ(designer.project().source.Items().Count(), 0);
     EXPECT_EQ(designer.project().source.MaxId(), 1);
     EXPECT_EQ(designer.project().TitleList, QStringList{QString()});
-    EXPECT_EQ(designer.project().path, QString());
+    EXPECT_EQ(designer.window.document().path(), QString());
     for (const char *box : {"txtAppName", "txtAppVersion", "txt3_appDir"})
         EXPECT_EQ(designer.Text(box), QString());
     EXPECT_EQ(designer.Find<QPlainTextEdit>("txtAppDesc")->toPlainText(), QString());
@@ -95,7 +95,8 @@ TEST(Save, WritesTheFileThatTheUserChooses)
 
     EXPECT_EQ(prompts.fileDialogs(), QStringList{u"Save File As "_s});
     const QString path = designer.projects + u"/survey.vmp"_s;
-    EXPECT_EQ(designer.project().path, path) << "in the projects folder, with the extension";
+    EXPECT_EQ(designer.window.document().path(), path)
+        << "in the projects folder, with the extension";
     EXPECT_TRUE(BytesOf(path).contains("<FormName><![CDATA[Survey]]></FormName>"));
     EXPECT_FALSE(designer.ProjectChanged());
 }
@@ -125,7 +126,7 @@ TEST(SaveAs, StartsWithTheFolderAndTheNameOfTheProject)
     const PromptScript prompts({u"b"_s});
     designer.Choose("mnuFileSaveAS");
     EXPECT_EQ(prompts.fileNames(), QStringList{u"a.vmp"_s});
-    EXPECT_EQ(designer.project().path, folder.filePath(u"b.vmp"_s));
+    EXPECT_EQ(designer.window.document().path(), folder.filePath(u"b.vmp"_s));
     EXPECT_EQ(BytesOf(folder.filePath(u"b.vmp"_s)), BytesOf(path));
 }
 
@@ -135,7 +136,7 @@ TEST(SaveAs, StartsInTheProjectsFolderForANewProject)
     const PromptScript prompts({u"c"_s});
     designer.Choose("mnuFileSaveAS");
     EXPECT_EQ(prompts.fileNames(), QStringList{u""_s});
-    EXPECT_EQ(designer.project().path, designer.projects + u"/c.vmp"_s);
+    EXPECT_EQ(designer.window.document().path(), designer.projects + u"/c.vmp"_s);
 }
 
 TEST(Save, SaysWhyItCouldNotBeDoneAndLeavesTheOldFileWhole)
@@ -155,7 +156,7 @@ TEST(Save, SaysWhyItCouldNotBeDoneAndLeavesTheOldFileWhole)
     EXPECT_TRUE(prompts.boxes()[0].text.contains(u"\u0416"_s)) << "names the character";
     EXPECT_EQ(BytesOf(path), before);
     EXPECT_TRUE(designer.ProjectChanged());
-    EXPECT_EQ(designer.project().path, path);
+    EXPECT_EQ(designer.window.document().path(), path);
 }
 
 TEST(Save, SaysWhyAFolderCannotBeWritten)
@@ -190,7 +191,7 @@ TEST(Open, ReadsTheChosenProjectAndReviewsItInSilence)
     designer.Click("cmdToolbar_2");
     EXPECT_EQ(prompts.fileDialogs(), QStringList{u"Open File "_s});
     EXPECT_TRUE(prompts.boxes().empty());
-    EXPECT_EQ(designer.project().path, sample);
+    EXPECT_EQ(designer.window.document().path(), sample);
     EXPECT_EQ(designer.project().source.QuestionCount(), 10);
     EXPECT_EQ(designer.Text("txtAppName"), designer.project().FormName);
     EXPECT_EQ(designer.Step(), 1);
@@ -203,7 +204,7 @@ TEST(Open, LeavesTheProjectAloneWhenTheDialogIsCancelled)
     const Designer designer(sample);
     const PromptScript prompts({u""_s});
     designer.Choose("mnuFileOpen");
-    EXPECT_EQ(designer.project().path, sample);
+    EXPECT_EQ(designer.window.document().path(), sample);
     EXPECT_EQ(designer.project().source.QuestionCount(), 10);
 }
 
@@ -214,7 +215,7 @@ TEST(Open, GoesOnAfterASaveThatDidNotHappen)
     const PromptScript prompts({u"Yes"_s, u""_s, sample});
     designer.Choose("mnuFileOpen");
     EXPECT_EQ(prompts.fileDialogs(), (QStringList{u"Save File As "_s, u"Open File "_s}));
-    EXPECT_EQ(designer.project().path, sample);
+    EXPECT_EQ(designer.window.document().path(), sample);
 }
 
 TEST(Open, StopsAtCancelAlone)
@@ -238,7 +239,7 @@ TEST(Open, RefusesAFileThatIsNoProject)
     ASSERT_EQ(prompts.boxes().size(), 1u);
     EXPECT_EQ(prompts.boxes()[0].text, u"This file is not a valid VMP file."_s);
     EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Critical);
-    EXPECT_EQ(designer.project().path, QString());
+    EXPECT_EQ(designer.window.document().path(), QString());
     EXPECT_EQ(designer.project().source.QuestionCount(), 0);
     EXPECT_EQ(designer.Text("txtAppName"), QString());
 }

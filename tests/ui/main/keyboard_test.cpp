@@ -1,5 +1,5 @@
 #include "model/question_types.h"
-#include "palmgen/tool_runner.h"
+#include "platform/tool_runner.h"
 #include "support/print.h"
 #include "ui/support/designer.h"
 #include "ui/support/typist.h"
@@ -52,8 +52,9 @@ void TypeQuestion(Typist &typist, const Project &project, const QuestionRow &que
 
 TEST(Keyboard, DesignsSavesAndCreatesAWholeInspection)
 {
-    Project project{.path = example};
-    ASSERT_TRUE(LoadProject(project));
+    const Result<Project> loaded = LoadProject(example);
+    ASSERT_TRUE(loaded);
+    const Project &project = *loaded;
     Designer designer;
     designer.runTool = [](const ToolCall &call) {
         return RunAndWait(call, {.folders = {QStringLiteral(TOOL_FOLDER)}, .timeoutSeconds = 60});

@@ -56,14 +56,12 @@ TEST_F(LogoForm, ClosesAfterItsTimeWithOneCheckBefore)
     int checks = 0;
     bool visibleDuringCheck = false;
     const QWidget *parent = nullptr;
-    logoForm splash(
-        m_environment,
-        [&](QWidget *window) {
-            ++checks;
-            parent = window;
-            visibleDuringCheck = window->isVisible();
-        },
-        200ms);
+    m_environment.splashDuration = 200ms;
+    logoForm splash(m_environment, [&](QWidget *window) {
+        ++checks;
+        parent = window;
+        visibleDuringCheck = window->isVisible();
+    });
     QTest::qWait(300);
     EXPECT_EQ(checks, 0) << "the time counts from when it is shown";
 
@@ -91,14 +89,12 @@ TEST_F(LogoForm, LastsThreeSeconds)
 TEST_F(LogoForm, CannotBeClosedBeforeItsTimeNorDuringTheCheck)
 {
     bool stayed = false;
-    logoForm splash(
-        m_environment,
-        [&](QWidget *window) {
-            TryToClose(*window);
-            QTest::qWait(50);
-            stayed = window->isVisible();
-        },
-        300ms);
+    m_environment.splashDuration = 300ms;
+    logoForm splash(m_environment, [&](QWidget *window) {
+        TryToClose(*window);
+        QTest::qWait(50);
+        stayed = window->isVisible();
+    });
     splash.show();
     TryToClose(splash);
     EXPECT_TRUE(splash.isVisible());
@@ -111,15 +107,13 @@ TEST_F(LogoForm, IsPaintedWhileItWaitsForTheSite)
     const WebServer silent([](const QString &) { return QByteArray(); });
     m_environment.siteAddress = silent.Address();
     int painted = 0;
-    logoForm splash(
-        m_environment,
-        [&](QWidget *window) {
-            const Paints paints(window);
-            QTimer::singleShot(100, window, [=] { window->update(); });
-            CheckForUpdate(window, m_environment, 400ms);
-            painted = paints.count;
-        },
-        0ms);
+    m_environment.splashDuration = 0ms;
+    logoForm splash(m_environment, [&](QWidget *window) {
+        const Paints paints(window);
+        QTimer::singleShot(100, window, [=] { window->update(); });
+        CheckForUpdate(window, m_environment, 400ms);
+        painted = paints.count;
+    });
     splash.exec();
     EXPECT_EQ(silent.requests().size(), 1);
     EXPECT_GE(painted, 1);
@@ -132,8 +126,8 @@ TEST_F(LogoForm, ShowsTheOfferOverItself)
     QString opened;
     m_environment.open = [&](const QString &target) { opened = target; };
     const PromptScript script({u"Yes"_s});
-    logoForm splash(
-        m_environment, [&](QWidget *window) { CheckForUpdate(window, m_environment); }, 0ms);
+    m_environment.splashDuration = 0ms;
+    logoForm splash(m_environment, [&](QWidget *window) { CheckForUpdate(window, m_environment); });
     splash.exec();
     EXPECT_EQ(script.boxes().size(), 1u);
     EXPECT_EQ(opened, server.Address() + u"/download"_s);
@@ -141,8 +135,8 @@ TEST_F(LogoForm, ShowsTheOfferOverItself)
 
 TEST_F(LogoForm, StandsInTheMiddleWithoutAFrame)
 {
-    logoForm splash(
-        m_environment, [](QWidget *) {}, 1h);
+    m_environment.splashDuration = 1h;
+    logoForm splash(m_environment, [](QWidget *) {});
     splash.show();
     EXPECT_TRUE(splash.windowFlags() & Qt::FramelessWindowHint);
     EXPECT_TRUE(splash.isModal());

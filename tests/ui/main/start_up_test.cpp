@@ -1,48 +1,21 @@
 #include "ui/main/start_up.h"
 
+#include "support/files.h"
 #include "support/print.h"
+#include "ui/support/await_window.h"
+#include "ui/support/prompt_script.h"
 
-#include <QDir>
+#include <QPushButton>
+#include <QRadioButton>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
+using namespace std::chrono_literals;
 
 namespace {
 
-/// Surroundings that only note what was done, in which order.
-class StartUpTest : public testing::Test
-{
-protected:
-    Start StartedWith(const QStringList &arguments)
-    {
-        return StartUp({.applicationFolder = u"/opt/vellumo"_s,
-                        .arguments = arguments,
-                        .makeProjectsFolder = [this] { m_done += u"folder"_s; },
-                        .showSplash = [this] { m_done += u"splash"_s; },
-                        .readShowOpenForm =
-                            [this] {
-                                m_done += u"settings"_s;
-                                return m_setting;
-                            },
-                        .showChooser =
-                            [this] {
-                                m_done += u"chooser"_s;
-                                return m_chosen;
-                            },
-                        .tell = [this](const QString &message) { m_done += message; }});
-    }
-
-    ShowOpenForm m_setting = {.value = 1};
-    Start m_chosen;
-    QStringList m_done;
-};
-
-const QStringList folderAlone = {u"folder"_s};
-const QStringList withoutChooser = {u"folder"_s, u"splash"_s, u"settings"_s};
-const QStringList everything = {u"folder"_s, u"splash"_s, u"settings"_s, u"chooser"_s};
-
-TEST_F(StartUpTest, TakesTheWholeCommandLineForOnePath)
+TEST(StartUp, TakesTheWholeCommandLineForOnePath)
 {
     const QString folder = u"/opt/vellumo"_s + QDir::separator();
     const QString elsewhere = u"%1a%1b.vmp"_s.arg(QDir::separator());
@@ -63,64 +36,96 @@ TEST_F(StartUpTest, TakesTheWholeCommandLineForOnePath)
         {"a bare name in them", {u"\"a.vmp\""_s}, folder + u"\"a.vmp\""_s},
         {"a separator of elsewhere", {foreignSeparator}, folder + foreignSeparator},
         {"what looks like an option", {u"--help"_s}, folder + u"--help"_s},
+        {"nothing", {}, u""_s},
+        {"an empty word", {u""_s}, u""_s},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        m_done.clear();
-        const Start start = StartedWith(row.arguments);
-        EXPECT_EQ(start.choice, u"Existing"_s);
-        EXPECT_EQ(start.path, row.path);
-        EXPECT_EQ(m_done, folderAlone) << "neither splash nor settings nor chooser";
+        EXPECT_EQ(ProjectOfCommandLine(row.arguments, u"/opt/vellumo"_s), row.path);
     }
 }
 
-TEST_F(StartUpTest, AnEmptyCommandLineNamesNoProject)
+/// A whole start in folders of the test's own, whose splash goes at once.
+class AStart : public testing::Test
 {
-    for (const QStringList &arguments : {QStringList(), QStringList{u""_s}}) {
-        m_done.clear();
-        EXPECT_EQ(StartedWith(arguments).choice, u"New"_s);
-        EXPECT_EQ(m_done, everything);
+protected:
+    AStart()
+    {
+        m_environment.applicationFolder = m_folder.path();
+        m_environment.projectsFolder = m_folder.filePath(u"Documents/My Vellumo/"_s);
+        m_environment.version = u"1.1.2"_s;
+        m_environment.splashDuration = 0ms;
+        EXPECT_TRUE(WriteBytes(m_folder.filePath(u"a.vmp"_s), "x"));
     }
+
+    void Settings(const QByteArray &value) const
+    {
+        EXPECT_TRUE(
+            WriteBytes(m_folder.filePath(u"settings.ini"_s),
+                       "<Vmdesigner><ShowOpenForm>" + value + "</ShowOpenForm></Vmdesigner>"));
+    }
+
+    /// Starts without a command line; what is done with the chooser is the test's.
+    Start StartedWithChooser(const std::function<void(QWidget &chooser)> &use)
+    {
+        AwaitWindow(u"fileOpenForm"_s, [&](QWidget &chooser) {
+            ++m_choosers;
+            use(chooser);
+        });
+        return StartUp(m_environment, {});
+    }
+
+    /// Chooses the file a.vmp, and then an option.
+    Start StartedWith(const QString &option)
+    {
+        return StartedWithChooser([&](QWidget &chooser) {
+            chooser.findChild<QRadioButton *>(u"Option1_1"_s)->click();
+            chooser.findChild<QRadioButton *>(option)->setChecked(true);
+            chooser.findChild<QPushButton *>(u"Command1"_s)->click();
+        });
+    }
+
+    QTemporaryDir m_folder;
+    Environment m_environment;
+    int m_choosers = 0;
+};
+
+TEST_F(AStart, WithAProjectNamedShowsNothing)
+{
+    const Start start = StartUp(m_environment, {u"a.vmp"_s});
+    EXPECT_EQ(start.choice, u"Existing"_s);
+    EXPECT_EQ(start.path, m_folder.path() + QDir::separator() + u"a.vmp"_s);
+    EXPECT_TRUE(QDir(m_environment.projectsFolder).exists());
+    EXPECT_FALSE(QFile::exists(m_folder.filePath(u"settings.ini"_s)));
 }
 
-TEST_F(StartUpTest, TakesTheChoiceOfTheChooser)
+TEST_F(AStart, TakesTheChoiceOfTheChooser)
 {
-    m_chosen = {existingProject, u"/home/a/b.vmp"_s};
-    const Start existing = StartedWith({});
+    const PromptScript script({m_folder.filePath(u"a.vmp"_s), m_folder.filePath(u"a.vmp"_s)});
+    const Start existing = StartedWith(u"Option1_1"_s);
     EXPECT_EQ(existing.choice, u"Existing"_s);
-    EXPECT_EQ(existing.path, u"/home/a/b.vmp"_s);
-    EXPECT_EQ(m_done, everything);
+    EXPECT_EQ(existing.path, QDir::toNativeSeparators(m_folder.filePath(u"a.vmp"_s)));
 
-    m_chosen.choice = newProject;
-    const Start fresh = StartedWith({});
+    const Start fresh = StartedWith(u"Option1_0"_s);
     EXPECT_EQ(fresh.choice, u"New"_s);
     EXPECT_EQ(fresh.path, u""_s) << "a new project must not be saved over the file chosen before";
+    EXPECT_EQ(m_choosers, 2);
 }
 
-TEST_F(StartUpTest, AnExistingProjectWithoutAPathIsANewOne)
+TEST_F(AStart, AnExistingProjectWithoutAPathIsANewOne)
 {
-    m_chosen = {existingProject, {}};
-    EXPECT_EQ(StartedWith({}).choice, u"New"_s);
+    const Start start = StartedWithChooser([](QWidget &chooser) {
+        chooser.findChild<QRadioButton *>(u"Option1_1"_s)->setChecked(true);
+        chooser.close();
+    });
+    EXPECT_EQ(start.choice, u"New"_s);
+    EXPECT_EQ(m_choosers, 1);
 }
 
-TEST_F(StartUpTest, SkipsTheChooserWhereTheSettingsSaySo)
+TEST_F(AStart, SkipsTheChooserWhereTheSettingsSaySo)
 {
-    m_chosen = {existingProject, u"/home/a/b.vmp"_s};
-    m_setting = {.value = 0};
-    EXPECT_EQ(StartedWith({}).choice, u"New"_s);
-    EXPECT_EQ(m_done, withoutChooser);
-
-    m_done.clear();
-    m_setting = {.value = -1};
-    EXPECT_EQ(StartedWith({}).choice, u"New"_s);
-    EXPECT_EQ(m_done, withoutChooser) << "nothing to tell";
-}
-
-TEST_F(StartUpTest, TellsOnceOfADamagedSettingsFileAndGoesOn)
-{
-    m_setting = {.value = -1, .message = damagedSettingsFile};
-    EXPECT_EQ(StartedWith({}).choice, u"New"_s);
-    EXPECT_EQ(m_done, withoutChooser + QStringList{u"There is a bug with setting file."_s});
+    Settings("0");
+    EXPECT_EQ(StartUp(m_environment, {}).choice, u"New"_s) << "and came to its end alone";
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace {
 
 void Append(ProjectDocument &document, const QuestionRow &row)
 {
-    document.ChangeQuestions([&] { return document.source().Questions().Append(row).Order; });
+    document.ChangeQuestions([&](clsDataSource &source) { source.Questions().Append(row); });
 }
 
 TEST(QuestionModel, ShowsFiveColumnsOfEveryQuestion)
@@ -56,13 +56,13 @@ TEST(QuestionModel, KeepsItsPromisesWhileQuestionsChange)
     for (int n = 1; n <= 5; ++n)
         Append(document, {.Order = n, .ColumnName = QString::number(n), .Id = n});
     document.source().Questions().SetPosition(2);
-    document.ChangeQuestions([&] { return MoveQuestionUp(document.source()); });
+    document.ChangeQuestions(MoveQuestionUp);
     EXPECT_EQ(model.index(1, 4).data().toString(), u"3"_s);
-    document.ChangeQuestions([&] { RemoveQuestion(document.source()); });
+    document.ChangeQuestions(RemoveQuestion);
     EXPECT_EQ(model.rowCount(), 4);
-    EXPECT_TRUE(document.ChangeQuestions([&] { return DuplicateQuestion(document.source()); }));
+    EXPECT_TRUE(document.ChangeQuestions(DuplicateQuestion));
     EXPECT_EQ(model.rowCount(), 5);
-    document.ChangeQuestions([&] { document.source().ClearQuestions(); });
+    document.ChangeQuestions([](clsDataSource &source) { source.ClearQuestions(); });
     EXPECT_EQ(model.rowCount(), 0);
 }
 

@@ -148,7 +148,7 @@ TEST(WizardFinish, RemembersTheTenLatestTitles)
 TEST(WizardFinish, TakesATitleFromTheDropDown)
 {
     WizardDesk desk;
-    desk.document.project().TitleList = {u""_s, u"Bird"_s};
+    desk.document.SetTitleList({u""_s, u"Bird"_s});
     desk.Open();
     desk.Choose(u"Text"_s);
     desk.Press(next);
@@ -167,7 +167,7 @@ TEST(WizardFinish, TakesATitleFromTheDropDown)
 TEST(WizardFinish, TakesATitleAsItWasTyped)
 {
     WizardDesk desk;
-    desk.document.project().TitleList = {u"Bird"_s, u"birdhouse"_s};
+    desk.document.SetTitleList({u"Bird"_s, u"birdhouse"_s});
     desk.Open();
     desk.Choose(u"Text"_s);
     desk.Press(next);

@@ -1,4 +1,4 @@
-#include "palmgen/tool_runner.h"
+#include "platform/tool_runner.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -28,12 +28,24 @@ void Keep(QByteArray &messages, const QByteArray &more)
     messages.append(more.first(std::min(more.size(), mostMessages - messages.size())));
 }
 
-/// How a tool ended that did not succeed.
-QString EndingOf(const QProcess &process)
+/// Empty when the tool succeeded.
+QString WhyFailed(const QProcess &process)
 {
     if (process.exitStatus() == QProcess::CrashExit)
         return u"crashed"_s;
-    return u"exit status %1"_s.arg(process.exitCode());
+    return process.exitCode() == 0 ? QString() : u"exit status %1"_s.arg(process.exitCode());
+}
+
+/// Waits for the tool, and no longer than its time; says how it ended.
+ToolEnd Finish(QProcess &process, const ToolLimits &limits)
+{
+    const int milliseconds = limits.timeoutSeconds > 0 ? limits.timeoutSeconds * 1000 : -1;
+    if (!process.waitForFinished(milliseconds) && process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished(-1);
+        return ToolEnd::TimedOut;
+    }
+    return WhyFailed(process).isEmpty() ? ToolEnd::Succeeded : ToolEnd::Failed;
 }
 
 } // namespace
@@ -50,22 +62,15 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
                      [&] { Keep(messages, process.readAllStandardError()); });
     process.start(FindTool(call.name, limits.folders), call.arguments);
 
-    ToolRun run;
-    run.commandLine = call.commandLine;
-    run.started = process.waitForStarted(-1);
-    if (!run.started) {
-        run.whyNotStarted = process.errorString();
+    ToolRun run = {.commandLine = call.commandLine};
+    if (!process.waitForStarted(-1)) {
+        run.reason = process.errorString();
         return run;
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    if (!process.waitForFinished(limits.timeoutSeconds > 0 ? limits.timeoutSeconds * 1000 : -1)) {
-        run.timedOut = process.state() != QProcess::NotRunning;
-        process.kill();
-        process.waitForFinished(-1);
-    }
-    run.succeeded =
-        !run.timedOut && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    run.ending = run.succeeded ? QString() : EndingOf(process);
+    run.end = Finish(process, limits);
+    if (run.end == ToolEnd::Failed)
+        run.reason = WhyFailed(process);
     run.messages = QString::fromLocal8Bit(messages.isEmpty() ? output : messages);
     return run;
 }

@@ -7,11 +7,12 @@
 
 namespace vellumo {
 
-/// What went wrong, ready to show; line counts from 1, 0 = none applies.
+/// What went wrong, ready to show.
 struct Error {
     QString text;
-    QString file = {};
-    int line = 0;
+    QString file = {};             ///< empty = none applies
+    int line = 0;                  ///< from 1, 0 = none applies
+    bool permissionDenied = false; ///< the platform refused what the user may not do
 };
 
 /// The error as file:line: text, with the parts that apply.

@@ -1,4 +1,4 @@
-#include "palmgen/tool_runner.h"
+#include "platform/tool_runner.h"
 
 #include "support/files.h"
 #include "support/print.h"
@@ -31,10 +31,9 @@ protected:
 TEST_F(ToolRunner, WaitsForTheToolAndRunsItInItsFolder)
 {
     const ToolRun run = Run({u"print"_s, u"working"_s, u"write"_s, u"made.txt"_s, u"content"_s});
-    EXPECT_TRUE(run.started);
-    EXPECT_TRUE(run.succeeded);
+    EXPECT_EQ(run.end, ToolEnd::Succeeded);
     EXPECT_EQ(run.messages, u"working\n"_s) << "there was nothing on standard error";
-    EXPECT_EQ(run.ending, u""_s);
+    EXPECT_EQ(run.reason, u""_s);
     EXPECT_EQ(run.commandLine, u"the command line"_s);
     EXPECT_EQ(BytesOf(m_folder.filePath(u"made.txt"_s)), "content");
 }
@@ -42,22 +41,20 @@ TEST_F(ToolRunner, WaitsForTheToolAndRunsItInItsFolder)
 TEST_F(ToolRunner, KeepsTheToolsOwnWordsAndStatus)
 {
     const ToolRun failed = Run({u"complain"_s, u"no good"_s, u"fail"_s, u"3"_s});
-    EXPECT_TRUE(failed.started);
-    EXPECT_FALSE(failed.succeeded);
+    EXPECT_EQ(failed.end, ToolEnd::Failed);
     EXPECT_EQ(failed.messages, u"no good\n"_s);
-    EXPECT_EQ(failed.ending, u"exit status 3"_s);
+    EXPECT_EQ(failed.reason, u"exit status 3"_s);
 
     const ToolRun crashed = Run({u"crash"_s});
-    EXPECT_TRUE(crashed.started);
-    EXPECT_FALSE(crashed.succeeded);
-    EXPECT_EQ(crashed.ending, u"crashed"_s);
+    EXPECT_EQ(crashed.end, ToolEnd::Failed);
+    EXPECT_EQ(crashed.reason, u"crashed"_s);
 }
 
 TEST_F(ToolRunner, NoArgumentEverPassesThroughAShell)
 {
     const QStringList odd = {u"a;touch x"_s, u"$(id)"_s,  u"`id`"_s, u"a b"_s, u"\"quoted\""_s,
                              u"'single'"_s,  u"> file"_s, u"*"_s,    u""_s,    u"caf\u00E9"_s};
-    EXPECT_TRUE(Run(odd).succeeded);
+    EXPECT_EQ(Run(odd).end, ToolEnd::Succeeded);
     EXPECT_EQ(BytesOf(m_folder.filePath(u"arguments.txt"_s)), odd.join(u'\n').toUtf8() + "\n");
     EXPECT_EQ(NamesIn(m_folder.path()), QStringList{u"arguments.txt"_s});
 }
@@ -69,10 +66,9 @@ TEST_F(ToolRunner, SaysWhyAToolDidNotStart)
                                         .workingFolder = m_folder.path(),
                                         .commandLine = u"no-such-tool-anywhere"_s},
                                        {.folders = {m_folder.path()}});
-    EXPECT_FALSE(missing.started);
-    EXPECT_FALSE(missing.succeeded);
-    EXPECT_TRUE(missing.whyNotStarted.contains(u"No such file or directory"))
-        << missing.whyNotStarted.toStdString();
+    EXPECT_EQ(missing.end, ToolEnd::NotStarted);
+    EXPECT_TRUE(missing.reason.contains(u"No such file or directory"))
+        << missing.reason.toStdString();
 }
 
 TEST_F(ToolRunner, LooksInTheFoldersBeforePath)
@@ -83,28 +79,26 @@ TEST_F(ToolRunner, LooksInTheFoldersBeforePath)
                            .arguments = {u"fail"_s, u"1"_s},
                            .workingFolder = m_folder.path(),
                            .commandLine = u"true"_s};
-    EXPECT_FALSE(RunAndWait(call, {.folders = {m_folder.path()}}).succeeded);
-    EXPECT_TRUE(RunAndWait(call, {.folders = {u"/nowhere"_s}}).succeeded) << "that of PATH";
-    EXPECT_TRUE(RunAndWait(call, {}).succeeded);
+    EXPECT_EQ(RunAndWait(call, {.folders = {m_folder.path()}}).end, ToolEnd::Failed);
+    EXPECT_EQ(RunAndWait(call, {.folders = {u"/nowhere"_s}}).end, ToolEnd::Succeeded)
+        << "that of PATH";
+    EXPECT_EQ(RunAndWait(call, {}).end, ToolEnd::Succeeded);
 }
 
 TEST_F(ToolRunner, EndsAToolWhoseTimeIsOver)
 {
     const ToolRun run = Run({u"complain"_s, u"starting"_s, u"hang"_s}, 1);
-    EXPECT_TRUE(run.started);
-    EXPECT_TRUE(run.timedOut);
-    EXPECT_FALSE(run.succeeded);
+    EXPECT_EQ(run.end, ToolEnd::TimedOut);
     EXPECT_EQ(run.messages, u"starting\n"_s) << "what it said until then is kept";
 
     const ToolRun quick = Run({u"print"_s, u"done"_s}, 60);
-    EXPECT_FALSE(quick.timedOut);
-    EXPECT_TRUE(quick.succeeded);
+    EXPECT_EQ(quick.end, ToolEnd::Succeeded);
 }
 
 TEST_F(ToolRunner, KeepsTheFirstOfEndlessMessages)
 {
     const ToolRun run = Run({u"complain"_s, u"first"_s, u"flood"_s, u"fail"_s, u"1"_s});
-    EXPECT_FALSE(run.succeeded);
+    EXPECT_EQ(run.end, ToolEnd::Failed);
     EXPECT_TRUE(run.messages.startsWith(u"first\n"));
     EXPECT_EQ(run.messages.size(), 64 * 1024);
 }

@@ -13,15 +13,21 @@ struct ToolCall {
     QString commandLine; ///< the call as one text, for messages alone
 };
 
-/// How a tool's run ended.
+enum class ToolEnd {
+    Succeeded,  ///< by itself, with exit status 0
+    Failed,     ///< by itself, with another exit status, or by a signal
+    TimedOut,   ///< by us, because its time was over
+    NotStarted, ///< it never ran
+};
+
+/// What became of a tool.
 struct ToolRun {
-    QString commandLine;
-    bool started = false;
-    bool timedOut = false;  ///< it was ended because its time was over
-    QString whyNotStarted;  ///< the platform's description, where it did not start
-    bool succeeded = false; ///< ended by itself with exit status 0
-    QString ending;         ///< how it ended otherwise: "exit status 3", "crashed"
-    QString messages;       ///< what it wrote on standard error, or else on standard output
+    QString commandLine = {};
+    ToolEnd end = ToolEnd::NotStarted;
+    /// Of one that failed "exit status 3" or "crashed", of one that did not start the platform's
+    /// description; empty otherwise.
+    QString reason = {};
+    QString messages = {}; ///< what it wrote on standard error, or else on standard output
 };
 
 /// Where tools are looked for, before PATH, and how long each may take.

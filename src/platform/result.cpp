@@ -1,4 +1,4 @@
-#include "model/result.h"
+#include "platform/result.h"
 
 using namespace Qt::StringLiterals;
 

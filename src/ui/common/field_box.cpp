@@ -1,0 +1,79 @@
+#include "ui/common/field_box.h"
+
+#include "ui/common/key_filter.h"
+#include "ui/common/plain_text.h"
+#include "ui/common/project_document.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+/// The keys that the box of a field refuses, and what it then says.
+struct RefusedKeys {
+    FormField field;
+    QLatin1StringView keys, message;
+};
+
+constexpr std::array refusedKeys = {
+    RefusedKeys{FormField::Name, QLatin1StringView("\"*/:<>?\\|"),
+                QLatin1StringView("\"\\/:*?<>|are not allowed for file name")},
+    RefusedKeys{FormField::Version, QLatin1StringView("\""),
+                QLatin1StringView("Double quotes are not allowed.")},
+    RefusedKeys{FormField::Description, QLatin1StringView("\r\n"),
+                QLatin1StringView("Carriage returns are not allowed.")},
+    RefusedKeys{FormField::DataFolder, QLatin1StringView("\""),
+                QLatin1StringView("Double quotes are not allowed.")},
+};
+static_assert(HasRowPerField(refusedKeys));
+
+} // namespace
+
+FieldBox::FieldBox(ProjectDocument &document, FormField field, QWidget *box)
+    : m_document(document), m_field(field), m_box(box)
+{
+    const RefusedKeys &refused = refusedKeys[static_cast<size_t>(field)];
+    RefuseKeys(box, refused.keys, refused.message);
+}
+
+FieldBox::FieldBox(ProjectDocument &document, FormField field, QLineEdit *box)
+    : FieldBox(document, field, static_cast<QWidget *>(box))
+{
+    m_setText = [box](const QString &text) { box->setText(text); };
+    connect(box, &QLineEdit::textChanged, this, &FieldBox::Take);
+}
+
+FieldBox::FieldBox(ProjectDocument &document, FormField field, QPlainTextEdit *box)
+    : FieldBox(document, field, static_cast<QWidget *>(box))
+{
+    m_setText = [box](const QString &text) { box->setPlainText(text); };
+    connect(box, &QPlainTextEdit::textChanged, this, [this, box] { Take(TextOf(*box)); });
+}
+
+void FieldBox::Show()
+{
+    const QString text = m_document.project().*RowOf(m_field).text;
+    if (text == m_shown)
+        return;
+    const QScopedValueRollback showing(m_showing, true);
+    m_shown = text;
+    m_setText(text);
+}
+
+void FieldBox::Focus()
+{
+    m_box->setFocus();
+}
+
+void FieldBox::Take(const QString &text)
+{
+    if (!m_showing)
+        m_shown = text;
+    m_document.SetText(m_field, m_shown);
+}
+
+} // namespace vellumo

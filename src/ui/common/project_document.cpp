@@ -1,0 +1,29 @@
+#include "ui/common/project_document.h"
+
+namespace vellumo {
+
+void ProjectDocument::Replace(Project project, const QString &path)
+{
+    {
+        const Announcement announcement(*this);
+        m_project = std::move(project);
+        m_path = path;
+    }
+    emit TextsChanged();
+    emit Replaced();
+}
+
+void ProjectDocument::MarkSaved(const QString &path)
+{
+    m_path = path;
+    m_changed = false;
+}
+
+void ProjectDocument::SetText(FormField field, const QString &text)
+{
+    m_project.*RowOf(field).text = text;
+    m_changed = true;
+    emit TextsChanged();
+}
+
+} // namespace vellumo
