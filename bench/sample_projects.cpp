@@ -46,8 +46,8 @@ Project MixedProject(int questions)
 {
     Project project = Named(u"Mixed"_s);
     for (int i = 0; i < questions; ++i) {
-        const QString type = questionTypes[static_cast<size_t>(i) % questionTypes.size()];
-        AddQuestion(project, type, type == "Pulldown List"_L1 ? 255 : HasItems(type) ? 32 : 0);
+        const QuestionType &type = questionTypes[static_cast<size_t>(i) % questionTypes.size()];
+        AddQuestion(project, type.name, type.items ? static_cast<int>(type.items->count.most) : 0);
     }
     return project;
 }

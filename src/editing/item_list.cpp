@@ -1,5 +1,7 @@
 #include "editing/item_list.h"
 
+#include "editing/question_rules.h"
+#include "model/question_types.h"
 #include "model/texts.h"
 
 #include <QSet>
@@ -11,20 +13,16 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-constexpr qsizetype longestItem = 32;
-constexpr qsizetype mostItems = 255;
+QLatin1StringView RefusalInWizard(QStringView type, qsizetype count)
+{
+    const QuestionType *known = TypeNamed(type);
+    return known && known->items ? known->items->count.Objection(count) : QLatin1StringView();
+}
 
-constexpr auto tooManyItems = "Please keep the list to 255 items or less."_L1;
-constexpr auto tooManyBoxes = "Please keep the Check Box to 32 items or less."_L1;
-
-constexpr ItemListHost::AddLimit wizardLimits[] = {
-    {"Pulldown List"_L1, 256, tooManyItems},
-    {"Checkboxes"_L1, 33, tooManyBoxes},
-};
-
-constexpr ItemListHost::AddLimit propertyLimits[] = {
-    {""_L1, 255, tooManyItems},
-};
+QLatin1StringView RefusalInPropertyDialog(QStringView, qsizetype count)
+{
+    return pulldownLimit.Objection(count + 1);
+}
 
 using Before = bool (*)(const QString &, const QString &);
 
@@ -56,25 +54,20 @@ void SortBetween(QStringList &items, qsizetype low, qsizetype high, Before befor
 
 } // namespace
 
-constinit const ItemListHost wizardItemList = {againPrompt, wizardLimits};
+constinit const ItemListHost wizardItemList = {againPrompt, RefusalInWizard};
 constinit const ItemListHost propertyItemList = {"Please add the item to the List."_L1,
-                                                 propertyLimits};
+                                                 RefusalInPropertyDialog};
 
 QString ObjectionToItem(QStringView text)
 {
-    if (text.size() > longestItem)
-        return u"Please keep the item length to 32 characters or less."_s;
-    if (text.contains(u'"'))
-        return u"Double quotes are not allowed."_s;
-    return {};
+    if (text.size() > itemLimit.most)
+        return itemLimit.message;
+    return text.contains(u'"') ? QString(noDoubleQuotes) : QString();
 }
 
 QString ItemList::RefusalToAdd(const ItemListHost &host, QStringView type) const
 {
-    for (const auto &limit : host.addLimits)
-        if ((limit.type.isEmpty() || limit.type == type) && m_items.size() >= limit.refusedFrom)
-            return limit.message;
-    return {};
+    return host.refusalToAdd(type, m_items.size());
 }
 
 QString ItemList::Add(const QString &text)
@@ -88,8 +81,8 @@ QString ItemList::Add(const QString &text)
 
 QString ItemList::AddNames(const QStringList &names)
 {
-    if (m_items.size() + names.size() > mostItems)
-        return tooManyItems;
+    if (m_items.size() + names.size() > pulldownLimit.most)
+        return pulldownLimit.message;
     QSet<QStringView> present;
     for (const QString &item : std::as_const(m_items))
         present += TrimBlanks(item);

@@ -3,23 +3,18 @@
 #include <QList>
 #include <QStringList>
 
-#include <span>
-
 namespace vellumo {
 
 /// In what the places where a list of items is edited differ.
 struct ItemListHost {
-    struct AddLimit {
-        QLatin1StringView type; ///< empty = whatever the type
-        qsizetype refusedFrom;  ///< with this many entries no further one is asked for
-        QLatin1StringView message;
-    };
-
     QLatin1StringView firstPrompt; ///< asks for a new item
-    std::span<const AddLimit> addLimits;
+    /// Why no item can be asked for beside so many, ready to show; empty = one can.
+    QLatin1StringView (*refusalToAdd)(QStringView type, qsizetype count);
 };
 
-/// Lets a list grow to one entry more than a question may have; finishing the wizard refuses it.
+/// By intention the two differ: the wizard lets a list grow to one entry more than a question of
+/// its type may have, which finishing then refuses; the property dialog stops any list where the
+/// longest would be full.
 extern const ItemListHost wizardItemList;
 extern const ItemListHost propertyItemList;
 

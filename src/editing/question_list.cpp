@@ -3,16 +3,12 @@
 #include "model/question_types.h"
 #include "model/texts.h"
 
-#include <QStringList>
-
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
-
-constexpr qsizetype maxColumnName = 255;
 
 /// Moves the content of the current row by one row; the cursor follows it.
 void MoveContent(Table<QuestionRow> &questions, int distance)
@@ -25,31 +21,13 @@ void MoveContent(Table<QuestionRow> &questions, int distance)
     std::swap(from.Order, to.Order);
 }
 
-void RemoveItems(clsDataSource &source, int questionId)
-{
-    source.FilterItems(questionId);
-    source.Items().DeleteShown();
-    source.ClearItemFilter();
-}
-
-void CopyItems(clsDataSource &source, int fromId, int toId)
-{
-    QStringList copied;
-    source.FilterItems(fromId);
-    for (const ItemRow &row : source.Items().Shown())
-        copied += row.Item;
-    source.ClearItemFilter();
-    for (const QString &item : std::as_const(copied))
-        source.Items().Append({.Id = toId, .Item = item});
-}
-
 /// Empty when every free name is too long.
 QString FreeColumnName(const clsDataSource &source, const QString &name)
 {
     const QString trimmed = TrimBlanks(name).toString();
     for (int n = 1;; ++n) {
         const QString candidate = trimmed + u'(' + QString::number(n) + u')';
-        if (candidate.size() > maxColumnName)
+        if (candidate.size() > columnNameLimit.most)
             return {};
         if (!source.ColumnNameExists(candidate))
             return candidate;
@@ -66,8 +44,7 @@ QString RefusalWithoutSelection(const clsDataSource &source)
 
 QString RefusalWhenFull(const clsDataSource &source)
 {
-    const bool full = source.QuestionCount() >= maxQuestions;
-    return full ? u"The maximum number of questions is 128."_s : QString();
+    return questionCountLimit.Objection(source.QuestionCount() + 1);
 }
 
 void RemoveQuestion(clsDataSource &source)
@@ -83,7 +60,7 @@ void RemoveQuestion(clsDataSource &source)
     questions.Delete();
     if (questions.AtEnd())
         questions.MoveLast();
-    RemoveItems(source, id);
+    source.ReplaceItems(id, {});
 }
 
 bool MoveQuestionUp(clsDataSource &source)
@@ -121,7 +98,7 @@ Outcome DuplicateQuestion(clsDataSource &source)
     questions.Append(copy);
 
     if (HasItems(copy.Type))
-        CopyItems(source, originalId, copy.Id);
+        source.ReplaceItems(copy.Id, source.ItemsOf(originalId));
     questions.SetPosition(position);
     return done;
 }

@@ -8,9 +8,6 @@ namespace vellumo {
 // What can be done with the list of questions. The current question is the one on which the cursor
 // of the question table stands; every operation leaves it on a row where there is one.
 
-/// A project has at most so many.
-inline constexpr int maxQuestions = 128;
-
 /// Why the current question cannot be worked on, ready to show; empty = it can.
 QString RefusalWithoutSelection(const clsDataSource &source);
 

@@ -1,50 +1,33 @@
 #include "editing/question_preview.h"
 
-#include <algorithm>
-#include <iterator>
-
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
-struct TypePicture {
-    QLatin1StringView type;
-    int number;
+/// What a preview shows of a type besides title and question.
+struct TypePreview {
+    TypeId type;
+    qsizetype itemsShown = 0; ///< 0 = its items are not on the screen
 };
 
-constexpr TypePicture typePictures[] = {
-    {"Pulldown List"_L1, 103},   {"Checkboxes"_L1, 104}, {"Yes/No"_L1, 105},  {"Currency"_L1, 106},
-    {"Date/Time"_L1, 107},       {"Notes"_L1, 108},      {"Numeric"_L1, 109}, {"Signature"_L1, 110},
-    {"Scanned Barcode"_L1, 111}, {"Text"_L1, 112},
-};
-
-int PictureOfType(const QString &type)
-{
-    const auto *found = std::ranges::find_if(
-        typePictures, [&](const TypePicture &row) { return type == row.type; });
-    return found == std::end(typePictures) ? 0 : found->number;
-}
+constexpr std::array<TypePreview, typeCount> typePreviews = {{
+    {TypeId::Text},
+    {TypeId::Numeric},
+    {TypeId::PulldownList}, // its list is closed
+    {TypeId::YesNo},
+    {TypeId::Signature},
+    {TypeId::Notes},
+    {TypeId::DateTime},
+    {TypeId::Currency},
+    {TypeId::ScannedBarcode},
+    {TypeId::Checkboxes, 6},
+}};
+static_assert(HasRowPerType(typePreviews));
 
 QString Shortened(const QString &question)
 {
     return question.size() <= 23 ? question : question.first(20) + "..."_L1;
-}
-
-QuestionPreview::ItemBox ItemBoxOf(const clsDataSource &source, int questionId)
-{
-    constexpr int shownItems = 6;
-    QuestionPreview::ItemBox box{{}, 2295};
-    for (const ItemRow &row : source.Items().Rows()) {
-        if (row.Id != questionId)
-            continue;
-        if (box.items.size() == shownItems) {
-            box.width = 2150;
-            break;
-        }
-        box.items += row.Item;
-    }
-    return box;
 }
 
 } // namespace
@@ -56,17 +39,19 @@ std::optional<QuestionPreview> PreviewOf(const clsDataSource &source)
         return {};
 
     const QuestionRow &current = questions.Current();
-    QuestionPreview preview{
-        .position = u"%1 of %2"_s.arg(current.Order).arg(source.QuestionCount()),
-        .pictureNumber = PictureOfType(current.Type),
-    };
-    if (preview.pictureNumber == 0)
+    QuestionPreview preview{.position =
+                                u"%1 of %2"_s.arg(current.Order).arg(source.QuestionCount())};
+    const QuestionType *type = TypeNamed(current.Type);
+    if (!type)
         return preview;
 
+    preview.type = type->id;
     preview.title = current.Title;
     preview.question = Shortened(current.Question);
-    if (current.Type == "Checkboxes"_L1)
-        preview.itemBox = ItemBoxOf(source, current.Id);
+    if (const qsizetype shown = RowOf(typePreviews, type->id).itemsShown; shown > 0) {
+        const QStringList items = source.ItemsOf(current.Id);
+        preview.items = {items.first(std::min(shown, items.size())), items.size() > shown};
+    }
     return preview;
 }
 

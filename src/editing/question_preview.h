@@ -1,8 +1,7 @@
 #pragma once
 
 #include "model/clsDataSource.h"
-
-#include <QStringList>
+#include "model/question_types.h"
 
 #include <optional>
 
@@ -10,17 +9,18 @@ namespace vellumo {
 
 /// The current question as the handheld will show it.
 struct QuestionPreview {
-    QString position;      ///< such as "3 of 7"
-    int pictureNumber = 0; ///< of the kind of control; 0 = the type is none of the ten
+    QString position; ///< such as "3 of 7"
+    std::optional<TypeId> type =
+        {}; ///< none = the type is none of the ten, and nothing more is told
     QString title = {};
     QString question = {}; ///< cut where it is long
 
-    /// The first items of a Checkboxes question.
-    struct ItemBox {
-        QStringList items;
-        int width; ///< in twips (1440 an inch; 15 a pixel); smaller where items are left out
+    /// The first items, for a type whose items stand on the screen.
+    struct Items {
+        QStringList shown;
+        bool more; ///< some were left out
     };
-    std::optional<ItemBox> itemBox = {};
+    std::optional<Items> items = {};
 };
 
 /// The preview of the current question; nothing where there is none.

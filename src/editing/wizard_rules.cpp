@@ -1,5 +1,6 @@
 #include "editing/wizard_rules.h"
 
+#include "editing/question_rules.h"
 #include "model/question_types.h"
 #include "model/texts.h"
 
@@ -19,83 +20,33 @@ constexpr StepButtons stepButtons[][2] = {
     {{true, false, true}, {true, false, true}},
 };
 
-struct Check {
-    bool (*fails)(const NewQuestion &entered);
-    QLatin1StringView message;
-};
-
-bool HasLineBreak(const NewQuestion &entered)
+// Where a question is finished, two sentences lack their full stop.
+QLatin1StringView TextMissingAtFinish(const Question &question)
 {
-    return entered.question.contains(u'\r') || entered.question.contains(u'\n');
+    return TextMissing(question).isEmpty() ? ""_L1 : "Please enter a question"_L1;
 }
 
-bool HasNoQuestion(const NewQuestion &entered)
+QLatin1StringView ItemsMissingAtFinish(const Question &question)
 {
-    return entered.question.isEmpty();
+    return question.items.isEmpty() ? "Please enter at least one item"_L1 : ""_L1;
 }
 
-bool HasLongQuestion(const NewQuestion &entered)
+constexpr QuestionRule typeRules[] = {TypeMissing};
+constexpr QuestionRule titleRules[] = {TitleTooLong, TitleWithQuotes};
+constexpr QuestionRule columnRules[] = {ColumnNameMissing, ColumnNameTooLong, ColumnNameWithQuotes};
+constexpr QuestionRule textRules[] = {TextWithLineBreaks, TextMissing, TextTooLong};
+constexpr QuestionRule textRulesAtFinish[] = {TextWithLineBreaks, TextMissingAtFinish, TextTooLong};
+constexpr QuestionRule itemRulesAtFinish[] = {ItemsMissingAtFinish, ItemsTooMany};
+
+/// Of the steps 1 to 4.
+constexpr std::span<const QuestionRule> rulesOfNext[] = {typeRules, titleRules, columnRules,
+                                                         textRules};
+
+QString FirstObjection(std::span<const QuestionRule> rules, const Question &entered)
 {
-    return entered.question.size() > 255;
-}
-
-constexpr auto doubleQuotes = "Double quotes are not allowed."_L1;
-constexpr auto lineBreaks = "Carriage returns are not allowed in a question."_L1;
-constexpr auto columnExists = "The column name already exists. Please enter a different name."_L1;
-constexpr auto longQuestion = "Please keep the question length to 255 characters or less."_L1;
-
-constexpr Check typeChecks[] = {
-    {[](const NewQuestion &entered) { return entered.type.isEmpty(); },
-     "Please select an item."_L1},
-};
-
-constexpr Check titleChecks[] = {
-    {[](const NewQuestion &entered) { return entered.title.size() > 20; },
-     "Please keep the title length to 20 characters or less."_L1},
-    {[](const NewQuestion &entered) { return entered.title.contains(u'"'); }, doubleQuotes},
-};
-
-constexpr Check columnChecks[] = {
-    {[](const NewQuestion &entered) { return entered.columnName.isEmpty(); },
-     "Please enter a column name."_L1},
-    {[](const NewQuestion &entered) { return entered.columnName.size() > 255; },
-     "Please keep the column name length to 255 characters or less."_L1},
-    {[](const NewQuestion &entered) { return entered.columnName.contains(u'"'); }, doubleQuotes},
-};
-
-constexpr Check questionChecksOfNext[] = {
-    {HasLineBreak, lineBreaks},
-    {HasNoQuestion, "Please enter a question."_L1},
-    {HasLongQuestion, longQuestion},
-};
-
-constexpr Check questionChecksOfFinish[] = {
-    {HasLineBreak, lineBreaks},
-    {HasNoQuestion, "Please enter a question"_L1},
-    {HasLongQuestion, longQuestion},
-};
-
-constexpr Check itemChecks[] = {
-    {[](const NewQuestion &entered) { return entered.items.isEmpty(); },
-     "Please enter at least one item"_L1},
-    {[](const NewQuestion &entered) {
-         return entered.type == "Pulldown List"_L1 && entered.items.size() > 255;
-     },
-     "Please keep the list to 255 items or less."_L1},
-    {[](const NewQuestion &entered) {
-         return entered.type == "Checkboxes"_L1 && entered.items.size() > 32;
-     },
-     "Please keep the Check Box to 32 items or less."_L1},
-};
-
-constexpr std::span<const Check> nextChecks[] = {typeChecks, titleChecks, columnChecks,
-                                                 questionChecksOfNext};
-
-QString FirstObjection(std::span<const Check> checks, const NewQuestion &entered)
-{
-    for (const Check &check : checks)
-        if (check.fails(entered))
-            return check.message;
+    for (const QuestionRule rule : rules)
+        if (const QLatin1StringView objection = rule(entered); !objection.isEmpty())
+            return objection;
     return {};
 }
 
@@ -112,26 +63,26 @@ StepButtons ButtonsOf(int step, QStringView type)
     return stepButtons[step - 1][HasItems(type) ? 1 : 0];
 }
 
-QString ObjectionToNext(int step, NewQuestion &entered, const clsDataSource &source)
+QString ObjectionToNext(int step, Question &entered, const clsDataSource &source)
 {
     Q_ASSERT(step >= 1 && step <= 4);
     if (step == 3)
         Trim(entered.columnName);
     if (step == 4)
         Trim(entered.question);
-    const QString objection = FirstObjection(nextChecks[step - 1], entered);
+    const QString objection = FirstObjection(rulesOfNext[step - 1], entered);
     if (step == 3 && objection.isEmpty() && source.ColumnNameExists(entered.columnName))
-        return columnExists;
+        return columnNameExists;
     return objection;
 }
 
-QString ObjectionToFinish(int step, NewQuestion &entered)
+QString ObjectionToFinish(int step, Question &entered)
 {
     Q_ASSERT(step == 4 || step == 5);
     if (step == 5)
-        return FirstObjection(itemChecks, entered);
+        return FirstObjection(itemRulesAtFinish, entered);
     Trim(entered.question);
-    return FirstObjection(questionChecksOfFinish, entered);
+    return FirstObjection(textRulesAtFinish, entered);
 }
 
 QString ProposedColumnName(const clsDataSource &source)
@@ -139,7 +90,7 @@ QString ProposedColumnName(const clsDataSource &source)
     return "Question_"_L1 + QString::number(source.QuestionCount() + 1);
 }
 
-void AppendQuestion(clsDataSource &source, const NewQuestion &question)
+void AppendQuestion(clsDataSource &source, const Question &question)
 {
     source.AddQuestion();
     QuestionRow &row = source.Questions().Current();
@@ -149,10 +100,8 @@ void AppendQuestion(clsDataSource &source, const NewQuestion &question)
            .Type = question.type,
            .ColumnName = question.columnName,
            .Id = source.IssueId()};
-    if (!HasItems(row.Type))
-        return;
-    for (const QString &item : question.items)
-        source.Items().Append({row.Id, item});
+    if (HasItems(row.Type))
+        source.ReplaceItems(row.Id, question.items);
 }
 
 } // namespace vellumo

@@ -126,6 +126,32 @@ void clsDataSource::ClearItemFilter()
     Items().ClearFilter();
 }
 
+QStringList clsDataSource::ItemsOf(int questionId) const
+{
+    QStringList items;
+    for (const ItemRow &row : Items().Rows())
+        if (row.Id == questionId)
+            items += row.Item;
+    return items;
+}
+
+QHash<int, QStringList> clsDataSource::ItemsById() const
+{
+    QHash<int, QStringList> items;
+    for (const ItemRow &row : Items().Rows())
+        items[row.Id] += row.Item;
+    return items;
+}
+
+void clsDataSource::ReplaceItems(int questionId, const QStringList &items)
+{
+    FilterItems(questionId);
+    Items().DeleteShown();
+    ClearItemFilter();
+    for (const QString &item : items)
+        Items().Append({.Id = questionId, .Item = item});
+}
+
 bool clsDataSource::ColumnNameExists(QStringView name) const
 {
     return std::ranges::any_of(Questions().Shown(),

@@ -2,7 +2,8 @@
 
 #include "model/table.h"
 
-#include <QString>
+#include <QHash>
+#include <QStringList>
 
 #include <optional>
 #include <stdexcept>
@@ -80,6 +81,14 @@ public:
     /// Shows only the items of the question with this Id, until ClearItemFilter.
     void FilterItems(int questionId);
     void ClearItemFilter();
+
+    /// The items of the question with this Id, in table order, whatever filter is set.
+    QStringList ItemsOf(int questionId) const;
+    /// The items of every Id that has any, likewise; in one pass over the table.
+    QHash<int, QStringList> ItemsById() const;
+    /// Puts items in the place of those of the question with this Id, at the end of the table. No
+    /// filter is set afterwards.
+    void ReplaceItems(int questionId, const QStringList &items);
 
     /// Whether a question has exactly this column name. The cursor stays where it was.
     bool ColumnNameExists(QStringView name) const;

@@ -5,50 +5,73 @@
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
-
-const std::array<QLatin1StringView, 10> questionTypes = {
-    "Text"_L1,  "Numeric"_L1,   "Pulldown List"_L1, "Yes/No"_L1,          "Signature"_L1,
-    "Notes"_L1, "Date/Time"_L1, "Currency"_L1,      "Scanned Barcode"_L1, "Checkboxes"_L1,
-};
-
 namespace {
 
-struct TypeCodes {
-    QLatin1StringView type, kind, data;
+constexpr QLatin1StringView noType = "0x10"_L1;
+
+constexpr ItemRules pulldownRules = {
+    .count = pulldownLimit,
+    .introduction = "A pulldown list is made up of a collection of text items a user "
+                    "can select from in the Vellsheet."_L1,
+    .offersNames = true,
 };
 
-constexpr TypeCodes unknownType = {""_L1, "0x10"_L1, "0x10"_L1};
-
-constexpr TypeCodes typeCodes[] = {
-    {"Text"_L1, "0x00"_L1, "0x00"_L1},          {"Numeric"_L1, "0x01"_L1, "0x01"_L1},
-    {"Yes/No"_L1, "0x02"_L1, "0x00"_L1},        {"Date/Time"_L1, "0x03"_L1, "0x03"_L1},
-    {"Pulldown List"_L1, "0x04"_L1, "0x00"_L1}, {"Signature"_L1, "0x05"_L1, "0x02"_L1},
-    {"Notes"_L1, "0x06"_L1, "0x02"_L1},         {"Scanned Barcode"_L1, "0x07"_L1, "0x00"_L1},
-    {"Currency"_L1, "0x08"_L1, "0x05"_L1},      {"Checkboxes"_L1, "0x09"_L1, "0x04"_L1},
+constexpr ItemRules checkboxRules = {
+    .count = checkboxLimit,
+    .introduction = "A set of checkboxes allows the user to mark off multiple "
+                    "checkboxes as an answer to your question."_L1,
+    .offersNames = false,
 };
 
-const TypeCodes &CodesOf(QStringView type)
+constexpr std::array<QuestionType, typeCount> types = {{
+    {TypeId::Text, "Text"_L1, "0x00"_L1, "0x00"_L1},
+    {TypeId::Numeric, "Numeric"_L1, "0x01"_L1, "0x01"_L1},
+    {TypeId::PulldownList, "Pulldown List"_L1, "0x04"_L1, "0x00"_L1, pulldownRules},
+    {TypeId::YesNo, "Yes/No"_L1, "0x02"_L1, "0x00"_L1},
+    {TypeId::Signature, "Signature"_L1, "0x05"_L1, "0x02"_L1},
+    {TypeId::Notes, "Notes"_L1, "0x06"_L1, "0x02"_L1},
+    {TypeId::DateTime, "Date/Time"_L1, "0x03"_L1, "0x03"_L1},
+    {TypeId::Currency, "Currency"_L1, "0x08"_L1, "0x05"_L1},
+    {TypeId::ScannedBarcode, "Scanned Barcode"_L1, "0x07"_L1, "0x00"_L1},
+    {TypeId::Checkboxes, "Checkboxes"_L1, "0x09"_L1, "0x04"_L1, checkboxRules},
+}};
+
+consteval bool InOrder()
 {
-    const auto found = std::ranges::find_if(
-        typeCodes, [type](const TypeCodes &codes) { return codes.type == type; });
-    return found == std::end(typeCodes) ? unknownType : *found;
+    for (size_t i = 0; i < typeCount; ++i)
+        if (types[i].id != static_cast<TypeId>(i))
+            return false;
+    return true;
 }
+static_assert(InOrder());
 
 } // namespace
 
-bool HasItems(QStringView type)
+constinit const std::array<QuestionType, typeCount> questionTypes = types;
+
+const QuestionType *TypeNamed(QStringView name)
 {
-    return type == "Pulldown List"_L1 || type == "Checkboxes"_L1;
+    const auto *found = std::ranges::find_if(
+        questionTypes, [name](const QuestionType &type) { return type.name == name; });
+    return found == questionTypes.end() ? nullptr : found;
 }
 
-QLatin1StringView QuestionKindCode(QStringView type)
+bool HasItems(QStringView name)
 {
-    return CodesOf(type).kind;
+    const QuestionType *type = TypeNamed(name);
+    return type && type->items;
 }
 
-QLatin1StringView FieldDataCode(QStringView type)
+QLatin1StringView QuestionKindCode(QStringView name)
 {
-    return CodesOf(type).data;
+    const QuestionType *type = TypeNamed(name);
+    return type ? type->kindCode : noType;
+}
+
+QLatin1StringView FieldDataCode(QStringView name)
+{
+    const QuestionType *type = TypeNamed(name);
+    return type ? type->dataCode : noType;
 }
 
 } // namespace vellumo

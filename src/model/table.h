@@ -20,7 +20,7 @@ public:
     /// A place of the cursor; good until a row is deleted.
     using Position = qsizetype;
 
-    qsizetype Count() const { return std::ranges::distance(Shown()); }
+    qsizetype Count() const { return m_filter ? std::ranges::count_if(m_rows, m_filter) : End(); }
     bool AtStart() const { return m_cursor < 0 || NextShown(0) == End(); }
     bool AtEnd() const { return m_cursor >= End() || NextShown(0) == End(); }
 

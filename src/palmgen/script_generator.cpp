@@ -2,10 +2,7 @@
 
 #include "model/question_types.h"
 #include "model/texts.h"
-#include "palmgen/control_lines.h"
-#include "palmgen/navigation_body.h"
-
-#include <QHash>
+#include "palmgen/type_script.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,27 +11,12 @@ namespace {
 
 constexpr int largestCount = 255;
 
-/// The items of each question that has any, joined with commas, by the question's Id. Gathered in
-/// one pass, so that the time does not grow with questions times items.
-QHash<int, QString> JoinedItems(const clsDataSource &source)
-{
-    QHash<int, QString> joined;
-    for (const ItemRow &row : source.Items().Rows()) {
-        const auto items = joined.find(row.Id);
-        if (items == joined.end())
-            joined.insert(row.Id, row.Item);
-        else
-            items->append(u',').append(row.Item);
-    }
-    return joined;
-}
-
 /// Gathers the script; after a failure it gathers nothing more.
 class Writer
 {
 public:
     explicit Writer(const Project &project)
-        : m_project(project), m_items(JoinedItems(project.source))
+        : m_project(project), m_items(project.source.ItemsById())
     {}
 
     Script Write(QStringView identifier)
@@ -78,7 +60,7 @@ private:
     void WriteApplication();
 
     const Project &m_project;
-    const QHash<int, QString> m_items;
+    const QHash<int, QStringList> m_items;
     Script m_script;
 };
 
@@ -161,11 +143,11 @@ void Writer::WriteControls(int number, const QuestionRow &question)
 {
     QString items;
     if (HasItems(question.Type)) {
-        const auto joined = m_items.find(question.Id);
-        if (joined == m_items.end())
+        const auto owned = m_items.find(question.Id);
+        if (owned == m_items.end())
             Fail(u"Question %1 is a list without items"_s.arg(number));
         else
-            items = *joined;
+            items = owned->join(u',');
     }
     Text(ControlLines(question.Type, items), {"item list"_L1, number});
 }

@@ -74,7 +74,7 @@ void CheckQuestions(const PalmDatabase &database, const DeliveredTexts &texts,
     int number = 0;
     for (const DeliveredQuestion &question : texts.questions) {
         ++number;
-        if (std::ranges::find(questionTypes, question.type) == questionTypes.end())
+        if (!TypeNamed(question.type))
             findings.append(
                 {"unknown-type"_L1,
                  {"type"_L1, number},

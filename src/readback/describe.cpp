@@ -29,10 +29,8 @@ std::optional<int> QuestionsOf(const PalmDatabase &database)
 QString TypeOfCode(char byte)
 {
     const QString code = u"0x%1"_s.arg(static_cast<uchar>(byte), 2, 16, QChar(u'0'));
-    const auto found = std::ranges::find_if(questionTypes, [&code](QLatin1StringView type) {
-        return QuestionKindCode(QString(type)) == code;
-    });
-    return found == questionTypes.end() ? code : QString(*found);
+    const auto found = std::ranges::find(questionTypes, code, &QuestionType::kindCode);
+    return found == questionTypes.end() ? code : QString(found->name);
 }
 
 QStringList ColumnNamesOf(const PalmDatabase &database)

@@ -71,7 +71,10 @@ static_assert(HasRowPerField(fieldChecks));
 class Walk
 {
 public:
-    explicit Walk(const Project &project) : m_project(project) { LinkItems(); }
+    explicit Walk(const Project &project) : m_project(project), m_items(project.source.ItemsById())
+    {
+        FindOwners();
+    }
 
     std::vector<DeliveryWarning> Run()
     {
@@ -85,7 +88,7 @@ public:
     }
 
 private:
-    void LinkItems()
+    void FindOwners()
     {
         int position = 0;
         for (const QuestionRow &question : m_project.source.Questions().Rows()) {
@@ -93,8 +96,6 @@ private:
             if (HasItems(question.Type) && !m_owners.contains(question.Id))
                 m_owners.insert(question.Id, position);
         }
-        for (const ItemRow &item : m_project.source.Items().Rows())
-            m_items[item.Id].push_back(item.Item);
     }
 
     void CheckQuestion(const QuestionRow &question, int position)
@@ -105,7 +106,7 @@ private:
             Warn("duplicate-column-name"_L1, {"column name"_L1, position}, question.ColumnName,
                  u"question %1 has the same column name"_s.arg(other));
         CheckText(escapedTextChecks, question.Question, {"question text"_L1, position});
-        if (std::ranges::find(questionTypes, question.Type) == questionTypes.end())
+        if (!TypeNamed(question.Type))
             Warn("unknown-type"_L1, {"type"_L1, position}, question.Type,
                  u"this is none of the question types, which breaks the build"_s);
         if (const int other = EarlierUse(m_ids, question.Id, position))
@@ -164,8 +165,8 @@ private:
     }
 
     const Project &m_project;
-    QHash<int, int> m_owners;        ///< by Id, the position of the first list question with it
-    QHash<int, QStringList> m_items; ///< by Id
+    const QHash<int, QStringList> m_items; ///< by Id
+    QHash<int, int> m_owners; ///< by Id, the position of the first list question with it
     QHash<QString, int> m_columnNames;
     QHash<int, int> m_ids;
     std::vector<DeliveryWarning> m_warnings;

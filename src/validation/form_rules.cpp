@@ -1,5 +1,6 @@
 #include "validation/form_rules.h"
 
+#include "model/limits.h"
 #include "model/texts.h"
 
 #include <algorithm>
@@ -74,7 +75,7 @@ constexpr TextCheck folderChecks[] = {
 
 constexpr CountCheck countChecks[] = {
     {[](int count) { return count == 0; }, "Your Vellsheet requires a minimum of one question."_L1},
-    {[](int count) { return count > 128; }, "The maximum number of questions is 128."_L1},
+    {[](int count) { return count > questionCountLimit.most; }, questionCountLimit.message},
 };
 
 template <typename Subject>

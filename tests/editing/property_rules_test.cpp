@@ -3,7 +3,6 @@
 #include "model/clsDataSource.h"
 #include "support/print.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -48,7 +47,7 @@ clsDataSource TwoQuestions()
     return source;
 }
 
-EditedQuestion Faultless()
+Question Faultless()
 {
     return {.title = u"Kind"_s,
             .question = u"Which kind?"_s,
@@ -60,17 +59,17 @@ EditedQuestion Faultless()
 /// The objections to a faultless question after a change.
 template <typename Change> QString ObjectionsAfter(Change change)
 {
-    EditedQuestion edited = Faultless();
+    Question edited = Faultless();
     change(edited);
     return ObjectionsTo(edited, TwoQuestions());
 }
 
 TEST(PropertyRules, TrimTitleAndQuestionOfBlanksAlone)
 {
-    EditedQuestion edited{.title = u"  a title "_s,
-                          .question = u" \tWhat?\u00a0 "_s,
-                          .columnName = u" Column "_s,
-                          .items = {u" item "_s}};
+    Question edited{.title = u"  a title "_s,
+                    .question = u" \tWhat?\u00a0 "_s,
+                    .columnName = u" Column "_s,
+                    .items = {u" item "_s}};
     TrimEdited(edited);
     EXPECT_EQ(edited.title, u"a title"_s);
     EXPECT_EQ(edited.question, u"\tWhat?\u00a0"_s);
@@ -121,7 +120,7 @@ TEST(PropertyRules, ObjectOnBothSidesOfEachTextLimit)
 TEST(PropertyRules, ObjectToTheColumnNameOfAnotherQuestion)
 {
     const auto named = [](const QString &name) {
-        return ObjectionsAfter([name](EditedQuestion &edited) { edited.columnName = name; });
+        return ObjectionsAfter([name](Question &edited) { edited.columnName = name; });
     };
     EXPECT_EQ(named(u"Kind"_s), u""_s) << "its own";
     EXPECT_EQ(named(u"Age"_s), taken);
@@ -155,7 +154,7 @@ TEST(PropertyRules, ObjectToTooFewAndTooManyItems)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.type.toStdString() + ' ' + std::to_string(row.items));
-        EXPECT_EQ(ObjectionsAfter([&row](EditedQuestion &edited) {
+        EXPECT_EQ(ObjectionsAfter([&row](Question &edited) {
                       edited.type = row.type;
                       edited.items = Numbered(row.items);
                   }),
@@ -165,12 +164,12 @@ TEST(PropertyRules, ObjectToTooFewAndTooManyItems)
 
 TEST(PropertyRules, RunMessagesTogetherThatEndNoLine)
 {
-    EXPECT_EQ(ObjectionsAfter([](EditedQuestion &edited) {
+    EXPECT_EQ(ObjectionsAfter([](Question &edited) {
                   edited.columnName = u"a\"b"_s;
                   edited.items.clear();
               }),
               quotes + noItem);
-    EXPECT_EQ(ObjectionsAfter([](EditedQuestion &edited) {
+    EXPECT_EQ(ObjectionsAfter([](Question &edited) {
                   edited.title = u"\""_s;
                   edited.columnName = u"Age"_s;
                   edited.items = Numbered(256);
@@ -193,8 +192,8 @@ TEST(PropertyRules, ReplaceContentButNeitherPlaceNorIdentity)
     EXPECT_EQ(row.Question, u"Which?"_s);
     EXPECT_EQ(row.Type, u"Checkboxes"_s);
     EXPECT_EQ(row.ColumnName, u"new "_s);
-    EXPECT_EQ(ItemsOf(source, 7), (QStringList{u"x"_s, u"a"_s}));
-    EXPECT_EQ(ItemsOf(source, 3), QStringList{u"stray"_s});
+    EXPECT_EQ(source.ItemsOf(7), (QStringList{u"x"_s, u"a"_s}));
+    EXPECT_EQ(source.ItemsOf(3), QStringList{u"stray"_s});
     EXPECT_EQ(source.Items().Count(), 3) << "a filter stayed";
     EXPECT_EQ(source.QuestionCount(), 2);
 }
@@ -203,43 +202,12 @@ TEST(PropertyRules, DropTheItemsOfAQuestionThatOwnsNone)
 {
     for (const QString &type : {u"Text"_s, u"<b>x"_s, u"checkboxes"_s, u""_s}) {
         clsDataSource source = TwoQuestions();
-        EditedQuestion edited = Faultless();
+        Question edited = Faultless();
         edited.type = type;
         ReplaceCurrentQuestion(source, edited);
-        EXPECT_EQ(ItemsOf(source, 7), QStringList());
-        EXPECT_EQ(ItemsOf(source, 3), QStringList{u"stray"_s});
+        EXPECT_EQ(source.ItemsOf(7), QStringList());
+        EXPECT_EQ(source.ItemsOf(3), QStringList{u"stray"_s});
     }
-}
-
-TEST(PropertyRules, FindItemsInTableOrderWhateverTheFilter)
-{
-    clsDataSource source = TwoQuestions();
-    source.FilterItems(3);
-    EXPECT_EQ(ItemsOf(source, 7), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
-    EXPECT_EQ(ItemsOf(source, 8), QStringList());
-    EXPECT_EQ(source.Items().Count(), 1);
-}
-
-TEST(PropertyRules, AreQuickInTheLargestProject)
-{
-    clsDataSource source;
-    source.GetDataMember();
-    for (int id = 1; id <= 128; ++id) {
-        source.Questions().Append({.Order = id, .ColumnName = QString::number(id), .Id = id});
-        for (const QString &item : Numbered(255))
-            source.Items().Append({.Id = id, .Item = item});
-    }
-    EditedQuestion edited = Faultless();
-    edited.items = Numbered(255);
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < 10; ++i) {
-        EXPECT_EQ(ObjectionsTo(edited, source), u""_s);
-        ReplaceCurrentQuestion(source, edited);
-        EXPECT_EQ(ItemsOf(source, 128), edited.items);
-    }
-    EXPECT_LT(timer.elapsed(), 2000);
-    EXPECT_EQ(source.Items().Count(), 128 * 255);
 }
 
 } // namespace

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
@@ -37,25 +35,21 @@ TEST(QuestionPreview, TellsTheNumberOfTheQuestionAndOfAll)
     EXPECT_EQ(PreviewOf(source)->position, u"2 of 2"_s);
 }
 
-TEST(QuestionPreview, HasAPictureForEachType)
+TEST(QuestionPreview, KnowsEachType)
 {
-    std::set<int> numbers;
-    for (const QLatin1StringView type : questionTypes)
-        numbers.insert(PreviewOf(SourceWith({.Type = type}))->pictureNumber);
-    EXPECT_EQ(numbers, (std::set{103, 104, 105, 106, 107, 108, 109, 110, 111, 112}));
-    EXPECT_EQ(PreviewOf(SourceWith({.Type = u"Pulldown List"_s}))->pictureNumber, 103);
-    EXPECT_EQ(PreviewOf(SourceWith({.Type = u"Text"_s}))->pictureNumber, 112);
+    for (const QuestionType &type : questionTypes)
+        EXPECT_EQ(PreviewOf(SourceWith({.Type = type.name}))->type, type.id);
 }
 
 TEST(QuestionPreview, LeavesAQuestionOfAnotherTypeBlank)
 {
     const auto preview = PreviewOf(
         SourceWith({.Order = 1, .Title = u"Bird"_s, .Question = u"Which?"_s, .Type = u"text"_s}));
-    EXPECT_EQ(preview->pictureNumber, 0);
+    EXPECT_FALSE(preview->type);
     EXPECT_EQ(preview->position, u"1 of 1"_s);
     EXPECT_EQ(preview->title, QString());
     EXPECT_EQ(preview->question, QString());
-    EXPECT_FALSE(preview->itemBox);
+    EXPECT_FALSE(preview->items);
 }
 
 TEST(QuestionPreview, CutsAQuestionOfMoreThan23CharactersAt20)
@@ -76,27 +70,30 @@ TEST(QuestionPreview, ShowsTheTitleAsItStands)
 TEST(QuestionPreview, ShowsTheFirstSixItemsOfCheckboxes)
 {
     const struct {
-        int items, shown, width;
-    } rows[] = {{0, 0, 2295}, {6, 6, 2295}, {7, 6, 2150}, {9, 6, 2150}};
+        int items, shown;
+        bool more;
+    } rows[] = {{0, 0, false}, {6, 6, false}, {7, 6, true}, {9, 6, true}};
     for (const auto &row : rows) {
         SCOPED_TRACE(row.items);
         clsDataSource source = SourceWith({.Type = u"Checkboxes"_s, .Id = 4});
         source.Items().Append({.Id = 5, .Item = u"of another"_s});
         for (int n = 1; n <= row.items; ++n)
             source.Items().Append({.Id = 4, .Item = QString::number(n)});
-        const auto box = PreviewOf(source)->itemBox;
+        const auto box = PreviewOf(source)->items;
         ASSERT_TRUE(box);
-        EXPECT_EQ(box->items.size(), row.shown);
-        EXPECT_EQ(box->items.value(0), row.shown > 0 ? u"1"_s : QString());
-        EXPECT_EQ(box->width, row.width);
+        EXPECT_EQ(box->shown.size(), row.shown);
+        EXPECT_EQ(box->shown.value(0), row.shown > 0 ? u"1"_s : QString());
+        EXPECT_EQ(box->more, row.more);
     }
 }
 
-TEST(QuestionPreview, ShowsNoItemsOfAPulldownList)
+TEST(QuestionPreview, ShowsNoItemsOfAnyOtherType)
 {
-    clsDataSource source = SourceWith({.Type = u"Pulldown List"_s, .Id = 4});
-    source.Items().Append({.Id = 4, .Item = u"one"_s});
-    EXPECT_FALSE(PreviewOf(source)->itemBox);
+    for (const QuestionType &type : questionTypes) {
+        clsDataSource source = SourceWith({.Type = type.name, .Id = 4});
+        source.Items().Append({.Id = 4, .Item = u"one"_s});
+        EXPECT_EQ(PreviewOf(source)->items.has_value(), type.id == TypeId::Checkboxes);
+    }
 }
 
 } // namespace

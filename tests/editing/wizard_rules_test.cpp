@@ -59,7 +59,7 @@ TEST(WizardRules, EnableTheButtonsOfAStep)
         {5, {true, false, true}, {true, false, true}},
     };
     for (const auto &row : rows)
-        for (const QLatin1StringView type : questionTypes) {
+        for (const auto &[id, type, kind, data, items] : questionTypes) {
             SCOPED_TRACE(row.step);
             SCOPED_TRACE(type.data());
             const bool owns = type == pulldown || type == checkboxes;
@@ -70,9 +70,9 @@ TEST(WizardRules, EnableTheButtonsOfAStep)
 TEST(WizardRules, NextWantsAType)
 {
     const clsDataSource source = SourceWith({});
-    NewQuestion none;
+    Question none;
     EXPECT_EQ(ObjectionToNext(1, none, source), u"Please select an item."_s);
-    NewQuestion some{.type = text};
+    Question some{.type = text};
     EXPECT_EQ(ObjectionToNext(1, some, source), QString());
 }
 
@@ -91,7 +91,7 @@ TEST(WizardRules, NextChecksTheTitleAsItStands)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        NewQuestion entered{.title = row.title};
+        Question entered{.title = row.title};
         EXPECT_EQ(ObjectionToNext(2, entered, SourceWith({})), row.objection);
         EXPECT_EQ(entered.title, row.title);
     }
@@ -126,12 +126,12 @@ TEST(WizardRules, NextChecksTheTrimmedColumnName)
     const auto position = source.GetPosition();
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        NewQuestion entered{.columnName = row.name};
+        Question entered{.columnName = row.name};
         EXPECT_EQ(ObjectionToNext(3, entered, source), row.objection);
         EXPECT_EQ(entered.columnName, row.stored);
         EXPECT_EQ(source.GetPosition(), position);
     }
-    NewQuestion first{.columnName = u"Age"_s};
+    Question first{.columnName = u"Age"_s};
     EXPECT_EQ(ObjectionToNext(3, first, SourceWith({})), QString()) << "no question yet";
 }
 
@@ -159,10 +159,10 @@ TEST(WizardRules, NextAndFinishMissAQuestionInDifferentWords)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        NewQuestion leaving{.question = row.question};
+        Question leaving{.question = row.question};
         EXPECT_EQ(ObjectionToNext(4, leaving, SourceWith({})), row.next);
         EXPECT_EQ(leaving.question, row.stored);
-        NewQuestion finishing{.question = row.question};
+        Question finishing{.question = row.question};
         EXPECT_EQ(ObjectionToFinish(4, finishing), row.finish);
         EXPECT_EQ(finishing.question, row.stored);
     }
@@ -188,7 +188,7 @@ TEST(WizardRules, FinishCountsTheItems)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        NewQuestion entered{.type = row.type, .items = Items(row.items)};
+        Question entered{.type = row.type, .items = Items(row.items)};
         EXPECT_EQ(ObjectionToFinish(5, entered), row.objection);
     }
 }
@@ -205,10 +205,10 @@ TEST(WizardRules, AppendAQuestionAfterTheOthers)
     clsDataSource source = SourceWith({u"first"_s});
     source.SetMaxId(41);
 
-    AppendQuestion(source, {.type = checkboxes,
-                            .title = u" Bird "_s,
-                            .columnName = u"bird"_s,
+    AppendQuestion(source, {.title = u" Bird "_s,
                             .question = u"Which?"_s,
+                            .type = checkboxes,
+                            .columnName = u"bird"_s,
                             .items = {u"Wren"_s, u"Tit"_s}});
 
     ASSERT_EQ(source.QuestionCount(), 2);
@@ -228,7 +228,7 @@ TEST(WizardRules, AppendAQuestionAfterTheOthers)
 
 TEST(WizardRules, AppendItemsOnlyWhereATypeHasThem)
 {
-    for (const QLatin1StringView type : questionTypes) {
+    for (const auto &[id, type, kind, data, items] : questionTypes) {
         SCOPED_TRACE(type.data());
         clsDataSource source = SourceWith({});
         AppendQuestion(source, {.type = type, .items = Items(3)});

@@ -227,3 +227,30 @@ TEST(clsDataSource, DeletesFromALargeTable)
     source.ClearItems();
     EXPECT_EQ(source.Items().Count(), 0);
 }
+
+TEST(DataSource, GathersItemsInTableOrderWhateverTheFilter)
+{
+    clsDataSource source;
+    source.GetDataMember();
+    for (const auto &[id, item] : {std::pair(7, u"a"_s), {3, u"x"_s}, {7, u"b"_s}})
+        source.Items().Append({.Id = id, .Item = item});
+    source.FilterItems(3);
+    EXPECT_EQ(source.ItemsOf(7), (QStringList{u"a"_s, u"b"_s}));
+    EXPECT_EQ(source.ItemsOf(8), QStringList());
+    EXPECT_EQ(source.ItemsById(), (QHash<int, QStringList>{{7, {u"a"_s, u"b"_s}}, {3, {u"x"_s}}}));
+    EXPECT_EQ(source.Items().Count(), 1) << "the filter stays";
+}
+
+TEST(DataSource, ReplacesTheItemsOfOneQuestion)
+{
+    clsDataSource source;
+    source.GetDataMember();
+    for (const auto &[id, item] : {std::pair(7, u"a"_s), {3, u"x"_s}, {7, u"b"_s}})
+        source.Items().Append({.Id = id, .Item = item});
+    source.ReplaceItems(7, {u"c"_s, u"a"_s});
+    EXPECT_EQ(source.ItemsOf(7), (QStringList{u"c"_s, u"a"_s}));
+    EXPECT_EQ(source.ItemsOf(3), QStringList{u"x"_s});
+    EXPECT_EQ(source.Items().Count(), 3) << "no filter is left";
+    source.ReplaceItems(7, {});
+    EXPECT_EQ(source.ItemsOf(7), QStringList());
+}

@@ -13,7 +13,10 @@ TEST(QuestionTypes, AreOfferedInTheirOrder)
         "Text"_L1,  "Numeric"_L1,   "Pulldown List"_L1, "Yes/No"_L1,          "Signature"_L1,
         "Notes"_L1, "Date/Time"_L1, "Currency"_L1,      "Scanned Barcode"_L1, "Checkboxes"_L1,
     };
-    EXPECT_EQ(questionTypes, offered);
+    for (size_t i = 0; i < typeCount; ++i) {
+        EXPECT_EQ(questionTypes[i].name, offered[i]);
+        EXPECT_EQ(TypeNamed(QString(offered[i])), &questionTypes[i]);
+    }
 }
 
 TEST(QuestionTypes, HaveTheirCodes)
@@ -47,8 +50,27 @@ TEST(QuestionTypes, HaveTheirCodes)
 
 TEST(QuestionTypes, OnlyTheTwoListTypesHaveItems)
 {
-    for (const QLatin1StringView type : questionTypes)
-        EXPECT_EQ(HasItems(QString(type)), type == "Pulldown List"_L1 || type == "Checkboxes"_L1)
-            << type.latin1();
+    for (const QuestionType &type : questionTypes)
+        EXPECT_EQ(HasItems(QString(type.name)),
+                  type.id == TypeId::PulldownList || type.id == TypeId::Checkboxes)
+            << type.name.latin1();
     EXPECT_FALSE(HasItems(u"checkboxes"));
+}
+
+TEST(QuestionTypes, ListTypesHaveRulesOfTheirOwn)
+{
+    const ItemRules &pulldown = *TypeNamed(u"Pulldown List")->items;
+    EXPECT_EQ(pulldown.count.most, 255);
+    EXPECT_TRUE(pulldown.offersNames);
+    const ItemRules &boxes = *TypeNamed(u"Checkboxes")->items;
+    EXPECT_EQ(boxes.count.most, 32);
+    EXPECT_FALSE(boxes.offersNames);
+    EXPECT_NE(pulldown.introduction, boxes.introduction);
+}
+
+TEST(Limits, ObjectToOneMoreThanTheMost)
+{
+    const Limit limit = {3, "too many"_L1};
+    EXPECT_EQ(limit.Objection(3), ""_L1);
+    EXPECT_EQ(limit.Objection(4), "too many"_L1);
 }

@@ -27,8 +27,8 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmWizard>()), m_document(document)
 {
     ui->setupUi(this);
-    for (const QLatin1StringView type : questionTypes)
-        ui->lstWiz1_1->addItem(type);
+    for (const QuestionType &type : questionTypes)
+        ui->lstWiz1_1->addItem(type.name);
     ConfigureTitleBox();
     OfferTitles();
     ui->items->Configure(wizardItemList, {.list = u"lstWiz4_1"_s,
@@ -134,11 +134,9 @@ void frmWizard::ShowItemsForType()
 {
     const QString type = Entered().type;
     ui->items->SetType(type);
-    ui->lblWiz4_1->setText(type == "Pulldown List"_L1
-                               ? u"A pulldown list is made up of a collection of text items a user "
-                                 "can select from in the Vellsheet."_s
-                               : u"A set of checkboxes allows the user to mark off multiple "
-                                 "checkboxes as an answer to your question."_s);
+    const QuestionType *known = TypeNamed(type);
+    if (known && known->items)
+        ui->lblWiz4_1->setText(known->items->introduction);
 }
 
 void frmWizard::EnableButtons()
@@ -159,7 +157,7 @@ void frmWizard::GoBack()
 
 void frmWizard::GoNext()
 {
-    NewQuestion entered = Entered();
+    Question entered = Entered();
     const QString objection = ObjectionToNext(m_step, entered, m_document.source());
     ShowTrimmed(entered);
     if (!objection.isEmpty()) {
@@ -174,7 +172,7 @@ void frmWizard::GoNext()
 
 void frmWizard::Finish()
 {
-    NewQuestion entered = Entered();
+    Question entered = Entered();
     const QString objection = ObjectionToFinish(m_step, entered);
     ShowTrimmed(entered);
     if (!objection.isEmpty()) {
@@ -186,9 +184,9 @@ void frmWizard::Finish()
     Append(entered);
 
     const QString created = u"You have successfully created a question.\r\n"_s;
-    if (m_document.source().QuestionCount() >= maxQuestions) {
-        ShowExclamation(this, created + u"The maximum number of questions is 128.\r\n"
-                                        "You can't create more questions."_s);
+    if (m_document.source().QuestionCount() >= questionCountLimit.most) {
+        ShowExclamation(this, created + questionCountLimit.message +
+                                  "\r\nYou can't create more questions."_L1);
         accept();
     } else if (AskYesNo(this, created + u"Would you like to create another one?"_s) == "Yes"_L1) {
         StartAnother();
@@ -197,7 +195,7 @@ void frmWizard::Finish()
     }
 }
 
-void frmWizard::Append(const NewQuestion &question)
+void frmWizard::Append(const Question &question)
 {
     m_document.SetProjectChanged(true);
     m_document.ChangeQuestions([&](clsDataSource &source) { AppendQuestion(source, question); });
@@ -227,17 +225,17 @@ void frmWizard::StartAnother()
     ShowStep();
 }
 
-NewQuestion frmWizard::Entered() const
+Question frmWizard::Entered() const
 {
     const QList<QListWidgetItem *> selected = ui->lstWiz1_1->selectedItems();
-    return {.type = selected.isEmpty() ? QString() : selected.first()->text(),
-            .title = ui->cboWiz2_1->currentText(),
-            .columnName = ui->txtWiz5_1->text(),
+    return {.title = ui->cboWiz2_1->currentText(),
             .question = TextOf(*ui->txtWiz3_1),
+            .type = selected.isEmpty() ? QString() : selected.first()->text(),
+            .columnName = ui->txtWiz5_1->text(),
             .items = ui->items->Items()};
 }
 
-void frmWizard::ShowTrimmed(const NewQuestion &entered)
+void frmWizard::ShowTrimmed(const Question &entered)
 {
     if (ui->txtWiz5_1->text() != entered.columnName)
         ui->txtWiz5_1->setText(entered.columnName);

@@ -50,12 +50,12 @@ private:
     void GoBack();
     void GoNext();
     void Finish();
-    void Append(const NewQuestion &question);
+    void Append(const Question &question);
     void Remember(const QString &title);
     void StartAnother();
 
-    NewQuestion Entered() const;
-    void ShowTrimmed(const NewQuestion &entered);
+    Question Entered() const;
+    void ShowTrimmed(const Question &entered);
     /// What step 2, 3, 4 or 5 asks for; on step 1 the list of types.
     QWidget *Input() const;
 

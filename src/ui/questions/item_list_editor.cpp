@@ -1,6 +1,7 @@
 #include "ui/questions/item_list_editor.h"
 
 #include "editing/built_in_names.h"
+#include "model/question_types.h"
 #include "model/texts.h"
 #include "ui/common/prompts.h"
 #include "ui_item_list_editor.h"
@@ -84,8 +85,10 @@ void ItemListEditor::Configure(const ItemListHost &host, const ItemListControls 
 void ItemListEditor::SetType(const QString &type)
 {
     m_type = type;
-    ui->cmd_AddState->setVisible(type == "Pulldown List"_L1);
-    ui->cmd_AddCountry->setVisible(type == "Pulldown List"_L1);
+    const QuestionType *known = TypeNamed(type);
+    const bool offersNames = known && known->items && known->items->offersNames;
+    ui->cmd_AddState->setVisible(offersNames);
+    ui->cmd_AddCountry->setVisible(offersNames);
 }
 
 void ItemListEditor::SetItems(const QStringList &items)

@@ -1,5 +1,6 @@
 #include "ui/questions/propertyForm.h"
 
+#include "editing/property_rules.h"
 #include "model/question_types.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/plain_text.h"
@@ -28,8 +29,8 @@ int HeightOf(int lines, const QPlainTextEdit &box)
 /// Offers the types. A type of another name, which a file may have brought, is one more to choose.
 void FillTypes(QComboBox &box, const QString &type)
 {
-    for (const QLatin1StringView known : questionTypes)
-        box.addItem(known);
+    for (const QuestionType &known : questionTypes)
+        box.addItem(known.name);
     if (box.findText(type, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
         box.addItem(type);
     box.setCurrentText(type);
@@ -88,13 +89,12 @@ void propertyForm::ShowItemsForType()
     const bool hasItems = HasItems(type);
     const clsDataSource &source = m_document.source();
     ui->items->SetType(type);
-    ui->items->SetItems(hasItems ? ItemsOf(source, source.Questions().Current().Id)
-                                 : QStringList());
+    ui->items->SetItems(hasItems ? source.ItemsOf(source.Questions().Current().Id) : QStringList());
     ui->lblSelections->setVisible(hasItems);
     ui->items->setVisible(hasItems);
 }
 
-EditedQuestion propertyForm::Edited() const
+Question propertyForm::Edited() const
 {
     return {.title = ui->txtTitle->text(),
             .question = TextOf(*ui->txtQuestion),
@@ -105,7 +105,7 @@ EditedQuestion propertyForm::Edited() const
 
 void propertyForm::SaveUnlessRefused()
 {
-    EditedQuestion edited = Edited();
+    Question edited = Edited();
     TrimEdited(edited);
     ui->txtTitle->setText(edited.title);
     ui->txtQuestion->setPlainText(edited.question);

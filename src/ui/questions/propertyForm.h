@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/property_rules.h"
+#include "model/question.h"
 
 #include <QDialog>
 
@@ -31,7 +31,7 @@ protected:
 private:
     void ShowQuestion();
     void ShowItemsForType();
-    EditedQuestion Edited() const;
+    Question Edited() const;
     void SaveUnlessRefused();
 
     std::unique_ptr<Ui::propertyForm> ui;

@@ -8,7 +8,24 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-constexpr int twipsPerPixel = 15;
+struct TypePicture {
+    TypeId type;
+    int number; ///< of the picture
+};
+
+constexpr std::array<TypePicture, typeCount> typePictures = {{
+    {TypeId::Text, 112},
+    {TypeId::Numeric, 109},
+    {TypeId::PulldownList, 103},
+    {TypeId::YesNo, 105},
+    {TypeId::Signature, 110},
+    {TypeId::Notes, 108},
+    {TypeId::DateTime, 107},
+    {TypeId::Currency, 106},
+    {TypeId::ScannedBarcode, 111},
+    {TypeId::Checkboxes, 104},
+}};
+static_assert(HasRowPerType(typePictures));
 
 QFont InPixels(QFont font, int pixels)
 {
@@ -42,13 +59,13 @@ void QuestionPreviewBox::Show(const std::optional<QuestionPreview> &preview)
     if (!preview)
         return;
     ui->lblq_num->setText(preview->position);
-    if (preview->pictureNumber == 0)
+    if (!preview->type)
         return;
-    ui->picPalm->SetPicture(preview->pictureNumber);
+    ui->picPalm->SetPicture(RowOf(typePictures, *preview->type).number);
     ui->lblTitle->setText(preview->title);
     ui->lblQuestion->setText(preview->question);
-    if (preview->itemBox)
-        ShowItems(*preview->itemBox);
+    if (preview->items)
+        ShowItems(*preview->items);
 }
 
 void QuestionPreviewBox::Blank()
@@ -60,11 +77,12 @@ void QuestionPreviewBox::Blank()
     ui->picPalm->Clear();
 }
 
-void QuestionPreviewBox::ShowItems(const QuestionPreview::ItemBox &box)
+/// The list leaves room for a scroll bar where there are more items than it shows.
+void QuestionPreviewBox::ShowItems(const QuestionPreview::Items &items)
 {
-    ui->lstCheckBox->setFixedWidth(box.width / twipsPerPixel);
+    ui->lstCheckBox->setFixedWidth(items.more ? 143 : 153);
     ui->lstCheckBox->clear();
-    for (const QString &text : box.items) {
+    for (const QString &text : items.shown) {
         auto *item = new QListWidgetItem(text, ui->lstCheckBox);
         item->setFlags(Qt::ItemIsEnabled); // a look at boxes that are ticked elsewhere
         item->setCheckState(Qt::Unchecked);

@@ -25,7 +25,7 @@ public:
 
 private:
     void Blank();
-    void ShowItems(const QuestionPreview::ItemBox &box);
+    void ShowItems(const QuestionPreview::Items &items);
 
     std::unique_ptr<Ui::QuestionPreviewBox> ui;
 };

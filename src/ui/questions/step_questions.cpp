@@ -170,7 +170,7 @@ void StepQuestions::RefreshPreview()
 {
     const auto preview = PreviewOf(document().source());
     ui->previewBox->Show(preview);
-    if (preview && preview->pictureNumber == 0)
+    if (preview && !preview->type)
         ShowCritical(window(), u"This type is wrong!"_s);
 }
 

@@ -27,7 +27,7 @@ void TypeQuestion(Typist &typist, const Project &project, const QuestionRow &que
 {
     typist.Key(Qt::Key_End);
     typist.Key(Qt::Key_Home);
-    for (size_t type = 0; question.Type != questionTypes[type]; ++type)
+    for (size_t type = 0; question.Type != questionTypes[type].name; ++type)
         typist.Key(Qt::Key_Down);
     typist.Key(Qt::Key_Return);
     typist.Text(question.Title);

@@ -37,7 +37,7 @@ TEST_F(PropertyForm, OffersTheTypesInTheirOrder)
     const auto *types = The<QComboBox>("cboType");
     ASSERT_EQ(types->count(), 10);
     for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(types->itemText(i), QString(questionTypes[static_cast<size_t>(i)]));
+        EXPECT_EQ(types->itemText(i), QString(questionTypes[static_cast<size_t>(i)].name));
     EXPECT_FALSE(types->isEditable());
 }
 
@@ -104,7 +104,7 @@ TEST_F(PropertyForm, StoresWhatWasEdited)
     EXPECT_EQ(Row().Order, 2);
     EXPECT_EQ(Row().Id, 7);
     EXPECT_EQ(StoredItems(), (QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s}));
-    EXPECT_EQ(ItemsOf(document.source(), 3), QStringList{u"stray"_s});
+    EXPECT_EQ(document.source().ItemsOf(3), QStringList{u"stray"_s});
     EXPECT_EQ(document.project().TitleList, QStringList{QString()});
     EXPECT_EQ(before.size(), 1);
     EXPECT_EQ(after.size(), 1);

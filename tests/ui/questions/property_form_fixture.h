@@ -47,7 +47,7 @@ protected:
 
     Table<QuestionRow> &Questions() { return document.source().Questions(); }
     const QuestionRow &Row() { return Questions().Current(); }
-    QStringList StoredItems() { return ItemsOf(document.source(), Row().Id); }
+    QStringList StoredItems() { return document.source().ItemsOf(Row().Id); }
 
     void Open()
     {

@@ -56,7 +56,7 @@ TEST(WizardSteps, ShowWhatBelongsToThem)
 
 TEST(WizardSteps, EndWithTheQuestionForTypesWithoutItems)
 {
-    for (const QLatin1StringView type : questionTypes) {
+    for (const auto &[id, type, kind, data, items] : questionTypes) {
         SCOPED_TRACE(type.data());
         WizardDesk desk;
         desk.Open();
@@ -98,7 +98,7 @@ TEST(WizardSteps, SayWhatIsAskedFor)
 
     ASSERT_EQ(desk.Types()->count(), 10);
     for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(desk.Types()->item(i)->text(), questionTypes[static_cast<size_t>(i)]);
+        EXPECT_EQ(desk.Types()->item(i)->text(), questionTypes[static_cast<size_t>(i)].name);
 }
 
 TEST(WizardSteps, SpeakOfListsAndOfCheckboxes)

@@ -1,4 +1,4 @@
-#include "palmgen/control_lines.h"
+#include "palmgen/type_script.h"
 
 #include "support/print.h"
 
@@ -8,6 +8,13 @@
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
+
+namespace {
+
+const QString head = u"INITIALSTATE 0x00000001\r\nINITIALOBJECTID 2\r\nBegin\r\n"_s;
+const QString tail = u"ID 101 BELOW 100 ABOVE 99\r\nID 100 BELOW 2 ABOVE 101\r\nEND\r\n"_s;
+
+} // namespace
 
 TEST(ControlLines, OfEachTypeWithoutItems)
 {
@@ -87,4 +94,27 @@ TEST(ControlLines, AnyNumberOfItemsStandsOnOneLine)
     const QString lines = ControlLines(u"Pulldown List", QString(u"item,"_s).repeated(999) + u'x');
     EXPECT_EQ(lines.count(u"\"item\""_s), 999);
     EXPECT_EQ(lines.count(u"\r\n"_s), 3);
+}
+
+TEST(NavigationBody, PassesThroughASecondControl)
+{
+    for (const QString &type : {u"Scanned Barcode"_s, u"Yes/No"_s, u"Date/Time"_s}) {
+        SCOPED_TRACE(type.toStdString());
+        EXPECT_EQ(NavigationBody(type), head +
+                                            u"ID 2 BELOW 3\r\n"
+                                            "ID 3 BELOW 99 ABOVE 2\r\n"
+                                            "ID 99 BELOW 101 ABOVE 3\r\n"_s +
+                                            tail);
+    }
+}
+
+TEST(NavigationBody, GoesStraightOnOtherwise)
+{
+    for (const QString &type :
+         {u"Text"_s, u"Numeric"_s, u"Currency"_s, u"Notes"_s, u"Signature"_s, u"Pulldown List"_s,
+          u"Checkboxes"_s, u"yes/no"_s, u"Yes/No "_s, u"Wrong Type"_s, u""_s}) {
+        SCOPED_TRACE(type.toStdString());
+        EXPECT_EQ(NavigationBody(type),
+                  head + u"ID 2 BELOW 100\r\nID 99 BELOW 101 ABOVE 2\r\n"_s + tail);
+    }
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+namespace vellumo {
+
+// What a question may be at most, and what a person is told of more. Lengths are in UTF-16 units.
+
+struct Limit {
+    qsizetype most;
+    QLatin1StringView message;
+
+    /// The message where something of this size is over the limit, empty otherwise.
+    constexpr QLatin1StringView Objection(qsizetype size) const
+    {
+        return size > most ? message : QLatin1StringView();
+    }
+};
+
+inline constexpr Limit questionCountLimit = {
+    128, QLatin1StringView("The maximum number of questions is 128.")};
+inline constexpr Limit titleLimit = {
+    20, QLatin1StringView("Please keep the title length to 20 characters or less.")};
+inline constexpr Limit questionTextLimit = {
+    255, QLatin1StringView("Please keep the question length to 255 characters or less.")};
+inline constexpr Limit columnNameLimit = {
+    255, QLatin1StringView("Please keep the column name length to 255 characters or less.")};
+inline constexpr Limit itemLimit = {
+    32, QLatin1StringView("Please keep the item length to 32 characters or less.")};
+inline constexpr Limit pulldownLimit = {
+    255, QLatin1StringView("Please keep the list to 255 items or less.")};
+inline constexpr Limit checkboxLimit = {
+    32, QLatin1StringView("Please keep the Check Box to 32 items or less.")};
+
+} // namespace vellumo
