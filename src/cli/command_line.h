@@ -9,10 +9,10 @@ namespace vellumo {
 /// Which words a command takes besides --help and --json.
 struct CommandShape {
     int mostInputs = 1;
-    QString whichInput = {}; ///< what is asked for when none is named
-    bool output = false;     ///< -o NAME
-    bool identifier = false; ///< --guid HEX32
-    bool timeout = false;    ///< --timeout SECONDS
+    QLatin1StringView whichInput = {}; ///< what is asked for when none is named
+    bool output = false;               ///< -o NAME
+    bool identifier = false;           ///< --guid HEX32
+    bool timeout = false;              ///< --timeout SECONDS
 };
 
 /// What was asked for after the command's name.

@@ -1,6 +1,6 @@
 #include "cli/create_command.h"
 
-#include "cli/files.h"
+#include "cli/inputs.h"
 #include "cli/review_command.h"
 #include "cli/verify_command.h"
 #include "model/texts.h"

@@ -1,6 +1,6 @@
 #include "cli/info_command.h"
 
-#include "cli/files.h"
+#include "cli/inputs.h"
 #include "model/form_fields.h"
 #include "model/project_format.h"
 #include "model/project_reader.h"

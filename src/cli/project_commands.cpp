@@ -1,6 +1,6 @@
 #include "cli/project_commands.h"
 
-#include "cli/files.h"
+#include "cli/inputs.h"
 #include "model/project_writer.h"
 #include "palmgen/script_generator.h"
 #include "platform/identifier.h"

@@ -1,6 +1,6 @@
 #include "cli/review_command.h"
 
-#include "cli/files.h"
+#include "cli/inputs.h"
 #include "validation/delivery_warnings.h"
 #include "validation/project_review.h"
 

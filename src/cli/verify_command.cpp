@@ -1,6 +1,6 @@
 #include "cli/verify_command.h"
 
-#include "cli/files.h"
+#include "cli/inputs.h"
 #include "readback/database_check.h"
 #include "validation/project_review.h"
 

@@ -10,7 +10,7 @@ using namespace vellumo;
 namespace {
 
 const CommandShape everything = {.mostInputs = 2,
-                                 .whichInput = u"Which one?"_s,
+                                 .whichInput = "Which one?"_L1,
                                  .output = true,
                                  .identifier = true,
                                  .timeout = true};
@@ -88,7 +88,7 @@ TEST(CommandLine, RefusesWhatMakesNoSense)
 
 TEST(CommandLine, TakesOnlyTheOptionsOfTheCommand)
 {
-    const CommandShape nothing = {.whichInput = u"Which one?"_s};
+    const CommandShape nothing = {.whichInput = "Which one?"_L1};
     EXPECT_EQ(RefusalOf({u"a"_s, u"--json"_s}, nothing), u"taken"_s);
     for (const QStringList &words :
          {QStringList{u"a"_s, u"--guid"_s, QString(32, u'A')}, QStringList{u"a"_s, u"-o"_s, u"b"_s},

@@ -1,4 +1,4 @@
-#include "cli/files.h"
+#include "cli/inputs.h"
 
 #include "model/project_format.h"
 #include "model/project_reader.h"

@@ -1,0 +1,110 @@
+#include "cli/commands.h"
+
+#include "cli/create_command.h"
+#include "cli/info_command.h"
+#include "cli/project_commands.h"
+#include "cli/review_command.h"
+#include "cli/verify_command.h"
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+constexpr int anyNumber = std::numeric_limits<int>::max();
+constexpr auto whichProject = "Which project? Please name a .vmp file."_L1;
+constexpr auto whichDatabase = "Which database? Please name a .prc file."_L1;
+constexpr auto whichFile = "Which file? Please name a .vmp or .prc file."_L1;
+
+constexpr Command commands[] = {
+    {.name = "review"_L1,
+     .synopsis = "PROJECT..."_L1,
+     .help = "Tells what is wrong with each project, as the designer's error list has it,\n"
+             "and then what would not arrive on the handheld as typed.\n"_L1,
+     .shape = {.mostInputs = anyNumber, .whichInput = whichProject},
+     .run = ReviewProjects},
+    {.name = "create"_L1,
+     .synopsis = "PROJECT... [-o DIR] [--guid HEX32] [--timeout SECONDS]"_L1,
+     .help = "Reviews each project, makes its database, reads that back and prints its\n"
+             "path. DIR is \"My Vellumo\" in the documents folder unless given.\n"_L1,
+     .shape = {.mostInputs = anyNumber,
+               .whichInput = whichProject,
+               .output = true,
+               .identifier = true,
+               .timeout = true},
+     .run = CreateDatabases},
+    {.name = "verify"_L1,
+     .synopsis = "DATABASE [PROJECT]"_L1,
+     .help = "Reads a database back and, with a project, holds it against that.\n"_L1,
+     .shape = {.mostInputs = 2, .whichInput = whichDatabase},
+     .run = VerifyDatabase},
+    {.name = "info"_L1,
+     .synopsis = "PROJECT|DATABASE"_L1,
+     .help = "Tells what is in it.\n"_L1,
+     .shape = {.mostInputs = 1, .whichInput = whichFile},
+     .run = TellInfo},
+    {.name = "script"_L1,
+     .synopsis = "PROJECT [-o FILE] [--guid HEX32]"_L1,
+     .help = "Writes the resource script alone, to standard output unless FILE is given.\n"_L1,
+     .shape = {.mostInputs = 1, .whichInput = whichProject, .output = true, .identifier = true},
+     .run = WriteScript},
+    {.name = "rewrite"_L1,
+     .synopsis = "PROJECT [-o FILE]"_L1,
+     .help = "Reads a project and saves it as the designer does, in its place unless FILE\n"
+             "is given.\n"_L1,
+     .shape = {.mostInputs = 1, .whichInput = whichProject, .output = true},
+     .run = RewriteProject},
+};
+
+constexpr QLatin1StringView head =
+    "vellumo turns projects of Vellumo Designer into Palm databases, without a window.\n\n"_L1;
+
+constexpr QLatin1StringView tail = R"(  vellumo --help | --version
+
+  --guid HEX32       the identifier to build in, 32 hexadecimal digits; a new one
+                     is made unless given
+  --timeout SECONDS  how long each tool may take, 60 unless given
+  --json             one JSON object a line for each finding, result or error
+  --                 what follows are names, whatever they begin with
+  -                  in place of a file: standard input or output
+
+Exit status: 0 fine; 1 findings, or the project does not pass; 2 wrong use; 3 an
+input is unreadable or no project or database; 4 a tool is missing or failed; 5 an
+output could not be written. Of several projects each is tried, and the highest
+status is returned.
+)"_L1;
+
+/// Each line of the text with six blanks in front.
+QString Indented(QLatin1StringView text)
+{
+    QString indented;
+    for (const QLatin1StringView line : text.tokenize(u'\n', Qt::SkipEmptyParts))
+        indented.append("      "_L1).append(line).append(u'\n');
+    return indented;
+}
+
+} // namespace
+
+std::span<const Command> Commands()
+{
+    return commands;
+}
+
+const Command *CommandNamed(const QString &name)
+{
+    const auto *found = std::ranges::find(commands, name, &Command::name);
+    return found == std::end(commands) ? nullptr : found;
+}
+
+QString HelpText()
+{
+    QString text = head;
+    for (const Command &command : commands)
+        text += "  vellumo %1 %2\n"_L1.arg(command.name, command.synopsis) + Indented(command.help);
+    return text + tail;
+}
+
+} // namespace vellumo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "cli/command_line.h"
+#include "cli/console.h"
+
+#include <span>
+
+namespace vellumo {
+
+/// A command of vellumo; everything that is to be said of it stands in its row.
+struct Command {
+    QLatin1StringView name;
+    QLatin1StringView synopsis; ///< what follows the name, such as "PROJECT... [-o DIR]"
+    QLatin1StringView help;     ///< what it does, in lines that fit a terminal
+    CommandShape shape;
+    Exit (*run)(const CommandLine &line, const Console &console);
+};
+
+/// In the order in which the help tells of them.
+std::span<const Command> Commands();
+
+/// The command of exactly this name; null where there is none.
+const Command *CommandNamed(const QString &name);
+
+/// What --help prints.
+QString HelpText();
+
+} // namespace vellumo
