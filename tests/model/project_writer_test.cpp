@@ -1,5 +1,7 @@
 #include "model/project_writer.h"
 
+#include "model/project_reader.h"
+#include "support/files.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
@@ -219,4 +221,21 @@ TEST(ProjectWriter, RefusesWhatTheFileCannotHold)
               }),
               u"The form name"_s + tail)
         << "the first in the file's order";
+}
+
+TEST(ProjectWriter, WritesTheExampleOfItsPage)
+{
+    const QByteArray page = BytesOf(DataFile(u"../../docs/project-file.md"_s));
+    const qsizetype start = page.indexOf("    <?xml");
+    const qsizetype end = page.indexOf("    </root>\n") + 12;
+    ASSERT_GT(end, start);
+    QByteArray example = "\n" + page.sliced(start, end - start);
+    example = example.replace("\n    ", "\n").trimmed().replace("\n", "\r\n") + "\r\n";
+
+    const Result<Project> project = ReadProject(example);
+    ASSERT_TRUE(project) << Describe(project.error()).toStdString();
+    EXPECT_EQ(project->source.ItemsOf(2), QStringList{u"Wren"_s});
+    const Result<QByteArray> written = WriteProject(*project);
+    ASSERT_TRUE(written);
+    EXPECT_EQ(*written, example);
 }
