@@ -10,6 +10,9 @@ using namespace vellumo;
 
 namespace {
 
+const QString wrongType = u"This type is wrong!"_s;
+const QString tooMany = u"The maximum number of questions is 128."_s;
+
 /// A project that no designer made: every rule is broken, and some rows are nonsense.
 QByteArray BrokenProject()
 {
@@ -43,13 +46,15 @@ TEST(BadProject, OpensShowsReviewsAndIsSavedUnchanged)
     ASSERT_TRUE(WriteBytes(path, bytes));
 
     Designer designer(path);
-    const PromptScript prompts;
+    const PromptScript prompts({u"OK"_s});
     EXPECT_EQ(designer.project().source.QuestionCount(), 500);
     for (const int step : {1, 2, 3, 4}) {
         designer.ClickTab(step);
         EXPECT_FALSE(designer.window.grab().isNull());
     }
     designer.Click("cmdReviewForm");
+    EXPECT_EQ(prompts.texts(), QStringList{u"There are errors in your Vellsheet. "
+                                           "Please check the Error List for details."_s});
     EXPECT_EQ(designer.Find<QListWidget>("lstError")->count(), 5);
     EXPECT_FALSE(designer.ProjectChanged());
 
@@ -64,20 +69,31 @@ TEST(BadProject, IsWalkedThroughAndChanged)
     ASSERT_TRUE(WriteBytes(path, BrokenProject()));
     const Designer designer(path);
     {
-        const PromptScript closesEveryBox;
+        const PromptScript nothingIsTold;
         designer.ClickTab(2);
     }
     auto *grid = designer.Find<QTableView>("DataGrid1");
+    // Three of the five types, which take turns, are told to be wrong whenever they are previewed.
+    const auto told = [](int question, int times) {
+        const bool isType = question % 5 == 0 || question % 5 == 4;
+        return isType ? QStringList() : QStringList(times, wrongType);
+    };
     for (int row = 0; row < 12; ++row) {
+        SCOPED_TRACE(row);
         grid->setCurrentIndex(grid->model()->index(row * 40, 0));
         {
-            const PromptScript closesEveryBox;
+            const QStringList boxes = told(row, 2) + QStringList{tooMany};
+            const PromptScript prompts(QStringList(boxes.size(), u"OK"_s));
             designer.Click("cmdUp");
             designer.Click("cmdDown");
             designer.Click("cmdDuplic");
+            EXPECT_EQ(prompts.texts(), boxes);
         }
-        const PromptScript prompts({u"Yes"_s});
+        const QStringList ofTheNext = told(row + 1, 1);
+        const PromptScript prompts(QStringList{u"Yes"_s} + QStringList(ofTheNext.size(), u"OK"_s));
         designer.Click("cmdDel");
+        EXPECT_EQ(prompts.texts(),
+                  QStringList{u"Are you sure you want to delete this question?"_s} + ofTheNext);
     }
     EXPECT_EQ(designer.project().source.QuestionCount(), 488);
 }

@@ -204,6 +204,7 @@ TEST_F(FileOpenForm, OkAsksForAFileThatNobodyWasAskedFor)
     Press(Qt::Key_Down);
     Press(Qt::Key_Return);
     EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(script.fileDialogs().size(), 2);
     EXPECT_EQ(form.Chosen().path, QDir::toNativeSeparators(Path(u"b.vmp"_s)));
     EXPECT_EQ(hidden, 1);
 }
@@ -213,6 +214,7 @@ TEST_F(FileOpenForm, EscapeAndTheTitleBarTakeTheSelectionAndLeaveTheSettings)
     const PromptScript script({Path(u"a.vmp"_s)});
     showThis->setChecked(false);
     Click(open);
+    EXPECT_EQ(script.fileDialogs().size(), 1);
     Press(Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(form.Chosen().choice, u"Existing"_s);

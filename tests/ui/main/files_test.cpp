@@ -10,6 +10,8 @@ namespace {
 
 const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
 const QString question = u"Do you want to save changes to your Vellsheet project?"_s;
+const QString saveAs = u"Save File As "_s;
+const QString open = u"Open File "_s;
 
 void MakeChanged(const Designer &designer)
 {
@@ -45,6 +47,8 @@ TEST(New, ClearsTheErrorList)
     designer.ClickTab(4);
     const PromptScript prompts({u"OK"_s});
     designer.Click("cmdReviewForm");
+    EXPECT_EQ(prompts.texts(), QStringList{u"There are errors in your Vellsheet. "
+                                           "Please check the Error List for details."_s});
     ASSERT_EQ(designer.Find<QListWidget>("lstError")->count(), 3);
     designer.Choose("mnuFileNew");
     EXPECT_EQ(designer.Find<QListWidget>("lstError")->count(), 0);
@@ -79,7 +83,6 @@ TEST(New, AsksOnceAndGoesByTheAnswer)
             EXPECT_EQ(prompts.boxes()[0].text, question);
             EXPECT_EQ(prompts.boxes()[0].defaultButton, u"Cancel"_s);
             EXPECT_EQ(prompts.fileDialogs().size(), row.fileDialogs);
-            EXPECT_TRUE(prompts.answersLeft().isEmpty());
             EXPECT_EQ(designer.project().FormName, row.proceeds ? u""_s : u"Survey"_s);
             EXPECT_EQ(designer.ProjectChanged(), !row.proceeds);
         }
@@ -93,7 +96,7 @@ TEST(Save, WritesTheFileThatTheUserChooses)
     const PromptScript prompts({u"survey"_s});
     designer.Choose("mnuFileSave");
 
-    EXPECT_EQ(prompts.fileDialogs(), QStringList{u"Save File As "_s});
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{saveAs});
     const QString path = designer.projects + u"/survey.vmp"_s;
     EXPECT_EQ(designer.window.document().path(), path)
         << "in the projects folder, with the extension";
@@ -125,6 +128,7 @@ TEST(SaveAs, StartsWithTheFolderAndTheNameOfTheProject)
     const Designer designer(path);
     const PromptScript prompts({u"b"_s});
     designer.Choose("mnuFileSaveAS");
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{saveAs});
     EXPECT_EQ(prompts.fileNames(), QStringList{u"a.vmp"_s});
     EXPECT_EQ(designer.window.document().path(), folder.filePath(u"b.vmp"_s));
     EXPECT_EQ(BytesOf(folder.filePath(u"b.vmp"_s)), BytesOf(path));
@@ -135,6 +139,7 @@ TEST(SaveAs, StartsInTheProjectsFolderForANewProject)
     const Designer designer;
     const PromptScript prompts({u"c"_s});
     designer.Choose("mnuFileSaveAS");
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{saveAs});
     EXPECT_EQ(prompts.fileNames(), QStringList{u""_s});
     EXPECT_EQ(designer.window.document().path(), designer.projects + u"/c.vmp"_s);
 }
@@ -189,7 +194,7 @@ TEST(Open, ReadsTheChosenProjectAndReviewsItInSilence)
     const PromptScript prompts({sample});
     designer.ClickTab(3);
     designer.Click("cmdToolbar_2");
-    EXPECT_EQ(prompts.fileDialogs(), QStringList{u"Open File "_s});
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{open});
     EXPECT_TRUE(prompts.boxes().empty());
     EXPECT_EQ(designer.window.document().path(), sample);
     EXPECT_EQ(designer.project().source.QuestionCount(), 10);
@@ -204,6 +209,7 @@ TEST(Open, LeavesTheProjectAloneWhenTheDialogIsCancelled)
     const Designer designer(sample);
     const PromptScript prompts({u""_s});
     designer.Choose("mnuFileOpen");
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{open});
     EXPECT_EQ(designer.window.document().path(), sample);
     EXPECT_EQ(designer.project().source.QuestionCount(), 10);
 }
@@ -214,7 +220,8 @@ TEST(Open, GoesOnAfterASaveThatDidNotHappen)
     MakeChanged(designer);
     const PromptScript prompts({u"Yes"_s, u""_s, sample});
     designer.Choose("mnuFileOpen");
-    EXPECT_EQ(prompts.fileDialogs(), (QStringList{u"Save File As "_s, u"Open File "_s}));
+    EXPECT_EQ(prompts.texts(), QStringList{question});
+    EXPECT_EQ(prompts.fileDialogs(), (QStringList{saveAs, open}));
     EXPECT_EQ(designer.window.document().path(), sample);
 }
 
@@ -224,6 +231,7 @@ TEST(Open, StopsAtCancelAlone)
     MakeChanged(designer);
     const PromptScript prompts({u"Cancel"_s});
     designer.Choose("mnuFileOpen");
+    EXPECT_EQ(prompts.texts(), QStringList{question});
     EXPECT_TRUE(prompts.fileDialogs().isEmpty());
     EXPECT_EQ(designer.project().FormName, u"Survey"_s);
 }
@@ -236,6 +244,7 @@ TEST(Open, RefusesAFileThatIsNoProject)
     ASSERT_TRUE(WriteBytes(path, "no project"));
     const PromptScript prompts({path, u"OK"_s});
     designer.Choose("mnuFileOpen");
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{open});
     ASSERT_EQ(prompts.boxes().size(), 1u);
     EXPECT_EQ(prompts.boxes()[0].text, u"This file is not a valid VMP file."_s);
     EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Critical);
@@ -271,7 +280,8 @@ TEST(Exit, AsksOnceAndStaysWhenTheSaveDidNotHappen)
         MakeChanged(designer);
         const PromptScript prompts(row.answers);
         designer.Choose("mnuFileExit");
-        EXPECT_EQ(prompts.boxes().size(), 1u);
+        EXPECT_EQ(prompts.texts(), QStringList{question});
+        EXPECT_EQ(prompts.fileDialogs(), QStringList(row.answers.size() - 1, saveAs));
         EXPECT_EQ(designer.window.isVisible(), !row.closes);
     }
 }
@@ -296,7 +306,8 @@ TEST(TitleBar, AsksOnceAndStaysWhenTheSaveDidNotHappen)
         MakeChanged(designer);
         const PromptScript prompts(row.answers);
         EXPECT_EQ(designer.CloseByTitleBar(), row.closes);
-        EXPECT_EQ(prompts.boxes().size(), 1u);
+        EXPECT_EQ(prompts.texts(), QStringList{question});
+        EXPECT_EQ(prompts.fileDialogs(), QStringList(row.answers.size() - 1, saveAs));
         EXPECT_EQ(helpClosed, 1) << "help goes in every case";
     }
 }
@@ -310,6 +321,8 @@ TEST(TitleBar, RemembersASaveThatFailedBefore)
     EXPECT_FALSE(designer.CloseByTitleBar()) << "the failed save was not forgotten";
     EXPECT_FALSE(designer.ProjectChanged()) << "although this one succeeded";
     EXPECT_TRUE(designer.CloseByTitleBar());
+    EXPECT_EQ(prompts.texts(), QStringList{question});
+    EXPECT_EQ(prompts.fileDialogs(), QStringList(2, saveAs));
 }
 
 TEST(TitleBar, ForgetsASaveThatFailedFromTheToolbar)
@@ -319,6 +332,8 @@ TEST(TitleBar, ForgetsASaveThatFailedFromTheToolbar)
     const PromptScript prompts({u""_s, u"Yes"_s, u"kept"_s});
     designer.Click("cmdToolbar_1");
     EXPECT_TRUE(designer.CloseByTitleBar());
+    EXPECT_EQ(prompts.texts(), QStringList{question});
+    EXPECT_EQ(prompts.fileDialogs(), QStringList(2, saveAs));
 }
 
 TEST(CloseByTheProgram, AsksNothing)

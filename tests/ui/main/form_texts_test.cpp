@@ -104,6 +104,8 @@ TEST(FormTexts, DoNotCountAsChangedByALookAtThem)
         designer.ClickTab(step);
     designer.ClickTab(4);
     designer.Click("cmdReviewForm");
+    EXPECT_EQ(prompts.texts(), QStringList{u"Your Vellsheet has been validated successfully!\r\n"
+                                           "Press the Create Vellsheet button to create it."_s});
     EXPECT_FALSE(designer.ProjectChanged());
 }
 

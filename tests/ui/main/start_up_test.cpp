@@ -110,6 +110,7 @@ TEST_F(AStart, TakesTheChoiceOfTheChooser)
     EXPECT_EQ(fresh.choice, u"New"_s);
     EXPECT_EQ(fresh.path, u""_s) << "a new project must not be saved over the file chosen before";
     EXPECT_EQ(m_choosers, 2);
+    EXPECT_EQ(script.fileDialogs().size(), 2);
 }
 
 TEST_F(AStart, AnExistingProjectWithoutAPathIsANewOne)

@@ -53,6 +53,7 @@ TEST_F(StartWindows, FirstStartWithAFileChosenAndTheBoxUnticked)
     });
     const Start start = StartedWith({});
     EXPECT_TRUE(splashSeen);
+    EXPECT_EQ(script.fileDialogs().size(), 1);
     EXPECT_EQ(m_site.requests().size(), 1) << "one look for a newer version";
     EXPECT_EQ(start.choice, u"Existing"_s);
     EXPECT_EQ(start.path, QDir::toNativeSeparators(m_folder.filePath(u"a.vmp"_s)));

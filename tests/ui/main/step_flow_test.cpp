@@ -167,6 +167,7 @@ TEST(StepFlow, BrowsePutsTheChosenFolderIntoTheBox)
 
     const PromptScript prompts({u""_s});
     designer.Click("cmdBrowse");
+    EXPECT_EQ(prompts.fileDialogs(), QStringList{u"Select a folder"_s});
     EXPECT_EQ(designer.Text("txt3_appDir"), expected) << "cancelled";
 }
 

@@ -243,6 +243,7 @@ TEST_F(UpdateCheck, SpeaksWithATrustedSite)
     const auto server = WebServer::Encrypted([](const QString &) { return Page("1.1.3"); });
     const PromptScript script({u"Yes"_s});
     Check(server->Address());
+    EXPECT_EQ(script.boxes().size(), 1u);
     EXPECT_EQ(m_opened, QStringList{server->Address() + u"/download"_s});
     ExpectAllClosed(*server);
 }

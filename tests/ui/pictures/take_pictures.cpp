@@ -56,6 +56,7 @@ void TakeSteps(const QString &folder)
             designer.Find<QLineEdit>("txtAppVersion")->setText(u"1.0 beta"_s);
             designer.Find<QLineEdit>("txt3_appDir")->setText(u"C:"_s);
             designer.Click("cmdReviewForm");
+            EXPECT_EQ(prompts.boxes().size(), 1u) << "what the review found";
         }
         Keep(designer.window, folder + u"/step-%1.png"_s.arg(step));
     }

@@ -104,6 +104,7 @@ TEST(ItemListEditor, RefusesAnItemThatItHas)
     desk.Press(desk.names.add);
     desk.Press(desk.names.add);
     EXPECT_EQ(Texts(prompts), QStringList{exists});
+    EXPECT_EQ(prompts.questions(), QStringList(3, anItem));
     EXPECT_EQ(desk.Shown(), (QStringList{u"Red"_s, u"red"_s}));
 }
 
@@ -129,6 +130,7 @@ TEST(ItemListEditor, TrimsTheFirstAnswerBeforeItMeasuresIt)
     EXPECT_EQ(desk.Shown(), QStringList{longest});
     desk.Press(desk.names.add);
     EXPECT_EQ(Texts(prompts), (QStringList{tooLong, tooLong})) << "a repeated answer is measured";
+    EXPECT_EQ(prompts.questions(), QStringList(4, anItem));
     EXPECT_EQ(desk.Shown(), (QStringList{longest, u"  "_s})) << "and stored as it stands";
 }
 
@@ -140,8 +142,8 @@ TEST(ItemListEditor, AddsNothingWhenTheUserGivesUp)
         const PromptScript prompts(answers);
         desk.Press(desk.names.add);
         EXPECT_EQ(desk.Shown(), QStringList());
-        EXPECT_TRUE(prompts.answersLeft().isEmpty());
-        EXPECT_EQ(prompts.boxes().size(), answers.size() == 3 ? 1u : 0u);
+        EXPECT_EQ(Texts(prompts), answers.size() == 3 ? QStringList{quotes} : QStringList());
+        EXPECT_EQ(prompts.questions(), QStringList(answers.size() == 3 ? 2 : 1, anItem));
     }
 }
 
@@ -292,6 +294,7 @@ TEST(ItemListEditor, AddsWithoutLosingTheSelection)
     desk.Pick(0);
     const PromptScript prompts({u"c"_s});
     desk.Press(desk.names.add);
+    EXPECT_EQ(prompts.questions(), QStringList{anItem});
     desk.Press(u"cmd_AddState"_s);
     EXPECT_EQ(desk.Shown().size(), 54);
     EXPECT_EQ(desk.Selected(), QStringList{u"a"_s});
@@ -304,6 +307,7 @@ TEST(ItemListEditor, WorksByKeys)
     const PromptScript prompts({u"c"_s});
     desk.editor.SetItems({u"a"_s, u"b"_s});
     desk.Type(Qt::Key_Insert);
+    EXPECT_EQ(prompts.questions(), QStringList{anItem});
     EXPECT_EQ(desk.Shown(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
     desk.Type(Qt::Key_End);
     desk.Type(Qt::Key_Up, Qt::AltModifier);

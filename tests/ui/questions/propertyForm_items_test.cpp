@@ -10,6 +10,7 @@ namespace {
 using PropertyFormItems = PropertyFormTest;
 
 const QString pulldown = u"Pulldown List"_s;
+const QString deleteAll = u"Are you sure you want to delete all the items?"_s;
 
 QStringList Numbered(int count)
 {
@@ -26,6 +27,7 @@ TEST_F(PropertyFormItems, RunsQuotesAndNoItemsTogether)
     {
         const PromptScript prompts({u"Yes"_s});
         Click("cmd_Clear");
+        EXPECT_EQ(prompts.texts(), QStringList{deleteAll});
     }
     EXPECT_EQ(Objections(), u"Double quotes are not allowed in Title and Column Name."
                             u"Please enter at least one item."_s);
@@ -60,6 +62,7 @@ TEST_F(PropertyFormItems, ShowsTheStoredItemsAgainWhenATypeIsPicked)
     Open();
     const PromptScript prompts({u"Yes"_s});
     Click("cmd_Clear");
+    EXPECT_EQ(prompts.texts(), QStringList{deleteAll});
     ASSERT_EQ(ShownItems(), QStringList());
     auto *types = The<QComboBox>("cboType");
     types->setFocus();

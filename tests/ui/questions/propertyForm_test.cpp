@@ -95,6 +95,7 @@ TEST_F(PropertyForm, StoresWhatWasEdited)
     {
         const PromptScript prompts({u"d"_s});
         Click("cmdNew");
+        EXPECT_EQ(prompts.questions(), QStringList{u"Please add the item to the List."_s});
     }
     ExpectAccepted();
     EXPECT_EQ(Row().Title, u"Sort"_s);

@@ -9,6 +9,7 @@ namespace {
 
 const QString another = u"You have successfully created a question.\r\n"
                         "Would you like to create another one?"_s;
+const QString anItem = u"Please add an item to the List."_s;
 
 TEST(WizardFinish, WritesTheQuestionAndAsksForAnother)
 {
@@ -71,6 +72,8 @@ TEST(WizardFinish, KeepsOnlyTheTypeForAnotherQuestion)
     QTest::mouseClick(desk.Find<QPushButton>(u"cmdWiz4_Add"_s), Qt::LeftButton);
     desk.Press(finish);
     EXPECT_FALSE(desk.IsOpen()) << "the question was closed by its title bar";
+    EXPECT_EQ(prompts.questions(), QStringList(2, anItem));
+    EXPECT_EQ(prompts.texts(), QStringList(2, another));
 
     const auto &items = desk.document.source().Items().Rows();
     ASSERT_EQ(items.size(), 2u);
@@ -93,6 +96,7 @@ TEST(WizardFinish, WritesNoItemsOfATypeThatHasNone)
         desk.Press(next);
     const PromptScript prompts({u"No"_s});
     desk.Press(finish);
+    EXPECT_EQ(prompts.texts(), QStringList{another});
     EXPECT_EQ(desk.document.source().Questions().Current().Type, u"Notes"_s);
     EXPECT_EQ(desk.document.source().Items().Count(), 0);
 }
@@ -132,12 +136,14 @@ TEST(WizardFinish, RemembersTheTenLatestTitles)
         const PromptScript prompts({u"Yes"_s});
         titles += u"T%1"_s.arg(i);
         desk.Make(titles.last());
+        EXPECT_EQ(prompts.texts(), QStringList{another});
     }
     EXPECT_EQ(desk.document.project().TitleList, titles.sliced(1));
     EXPECT_EQ(desk.Offered(), QStringList{u""_s} + titles) << "the open drop-down grows on";
     {
         const PromptScript prompts({u"Yes"_s});
         desk.Make(u"T5"_s);
+        EXPECT_EQ(prompts.texts(), QStringList{another});
         EXPECT_EQ(desk.document.project().TitleList, titles.sliced(1));
     }
     desk.Open();
@@ -160,6 +166,7 @@ TEST(WizardFinish, TakesATitleFromTheDropDown)
     QTest::keyClicks(desk.Question(), u"Which?"_s);
     const PromptScript prompts({u"No"_s});
     desk.Press(finish);
+    EXPECT_EQ(prompts.texts(), QStringList{another});
     EXPECT_EQ(desk.document.source().Questions().Current().Title, u"Bird"_s);
     EXPECT_EQ(desk.document.project().TitleList, (QStringList{u""_s, u"Bird"_s}));
 }
@@ -253,6 +260,8 @@ TEST(WizardFinish, IsReachedByKeysAlone)
     Type(desk, Qt::Key_F, Qt::AltModifier);
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return !desk.IsOpen(); }));
+    EXPECT_EQ(prompts.questions(), QStringList(2, anItem));
+    EXPECT_EQ(prompts.texts(), QStringList{another});
     ASSERT_EQ(desk.document.source().QuestionCount(), 1);
     const QuestionRow &row = desk.document.source().Questions().Current();
     EXPECT_EQ(row.Type, u"Checkboxes"_s);
@@ -270,6 +279,7 @@ TEST(WizardFinish, IsReachedByEnterWhereNextIsNot)
     desk.Items()->SetItems({u"Red"_s});
     const PromptScript prompts({u"No"_s});
     Type(desk, Qt::Key_Return);
+    EXPECT_EQ(prompts.texts(), QStringList{another});
     EXPECT_FALSE(desk.IsOpen());
     EXPECT_EQ(desk.document.source().QuestionCount(), 1);
 }

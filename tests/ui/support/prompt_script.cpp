@@ -40,7 +40,7 @@ void Press(QMessageBox &box, const QString &caption)
     box.close();
 }
 
-QLineEdit *NameBox(const QFileDialog &dialog)
+QLineEdit *NameBox(const QDialog &dialog)
 {
     return dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
 }
@@ -71,6 +71,22 @@ PromptScript::PromptScript(QStringList answers) : m_answers(std::move(answers))
 PromptScript::~PromptScript()
 {
     qApp->removeEventFilter(this);
+    for (const QString &answer : m_answers)
+        ADD_FAILURE() << "nobody asked for the answer '" << answer.toStdString() << "'";
+    EXPECT_TRUE(m_boxes.IsRead()) << "nobody looked at: "
+                                  << m_boxes.Read().back().text.toStdString();
+    EXPECT_TRUE(m_questions.IsRead())
+        << "nobody looked at: " << m_questions.Read().back().toStdString();
+    EXPECT_TRUE(m_fileDialogs.IsRead())
+        << "nobody looked at: " << m_fileDialogs.Read().back().toStdString();
+}
+
+QStringList PromptScript::texts() const
+{
+    QStringList texts;
+    for (const SeenBox &box : boxes())
+        texts += box.text;
+    return texts;
 }
 
 bool PromptScript::eventFilter(QObject *watched, QEvent *event)
@@ -88,24 +104,40 @@ bool PromptScript::eventFilter(QObject *watched, QEvent *event)
 
 void PromptScript::Answer(QDialog *dialog)
 {
-    const QString answer = NextAnswer();
+    const QString answer = NextAnswer(Keep(*dialog));
     if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
-        m_boxes.push_back(Look(*box));
         Press(*box, answer);
     } else if (auto *input = qobject_cast<QInputDialog *>(dialog)) {
-        m_questions += input->labelText();
         input->setTextValue(answer);
         answer.isEmpty() ? input->reject() : input->accept();
     } else if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
-        m_fileDialogs += files->windowTitle();
-        m_fileNames += NameBox(*files)->text();
         Choose(*files, answer);
     }
 }
 
-QString PromptScript::NextAnswer()
+/// Gives what a failure may call the dialog by.
+QString PromptScript::Keep(const QDialog &dialog)
 {
-    return m_answers.isEmpty() ? QString() : m_answers.takeFirst();
+    if (const auto *box = qobject_cast<const QMessageBox *>(&dialog)) {
+        m_boxes.Add(Look(*box));
+        return box->text();
+    }
+    if (const auto *input = qobject_cast<const QInputDialog *>(&dialog)) {
+        m_questions.Add(input->labelText());
+        return input->labelText();
+    }
+    m_fileDialogs.Add(dialog.windowTitle());
+    m_fileNames += NameBox(dialog)->text();
+    return dialog.windowTitle();
+}
+
+QString PromptScript::NextAnswer(const QString &shown)
+{
+    if (m_answers.isEmpty()) {
+        ADD_FAILURE() << "nobody expected: " << shown.toStdString();
+        return {};
+    }
+    return m_answers.takeFirst();
 }
 
 } // namespace vellumo

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <utility>
 #include <vector>
 
 class QDialog;
@@ -20,12 +21,37 @@ struct SeenBox {
     QString defaultButton; ///< caption
 };
 
+/// What was shown, and whether the test has looked at it since.
+template <typename List> class Shown
+{
+public:
+    void Add(typename List::value_type one)
+    {
+        m_all.push_back(std::move(one));
+        m_isRead = false;
+    }
+    const List &Read() const
+    {
+        m_isRead = true;
+        return m_all;
+    }
+    bool IsRead() const { return m_isRead; }
+
+private:
+    List m_all;
+    mutable bool m_isRead = true;
+};
+
 /// Answers the boxes of the system while it lives, as a user would, and keeps what they showed.
 ///
 /// Each message box, input box and file dialog that opens takes the next answer: for a message box
 /// the caption of the button to press, for an input box the text to enter, for a file dialog the
 /// path to choose. "" cancels an input box or file dialog and closes a message box by its title
-/// bar; so does every dialog for which no answer is left.
+/// bar.
+///
+/// The answers are all that may be asked, and all that must be: the test fails where a box opens
+/// for which no answer is left (it is then closed), where an answer was never asked for, and where
+/// the test did not look at what was shown.
 class PromptScript : public QObject
 {
     Q_OBJECT
@@ -35,26 +61,27 @@ public:
     ~PromptScript() override;
 
     /// Message boxes, in the order in which they were shown.
-    const std::vector<SeenBox> &boxes() const { return m_boxes; }
+    const std::vector<SeenBox> &boxes() const { return m_boxes.Read(); }
+    /// Their texts.
+    QStringList texts() const;
     /// The prompts of the input boxes.
-    const QStringList &questions() const { return m_questions; }
+    const QStringList &questions() const { return m_questions.Read(); }
     /// The titles of the file dialogs.
-    const QStringList &fileDialogs() const { return m_fileDialogs; }
+    const QStringList &fileDialogs() const { return m_fileDialogs.Read(); }
     /// The file names that they proposed.
     const QStringList &fileNames() const { return m_fileNames; }
-    /// Answers that nobody asked for yet.
-    const QStringList &answersLeft() const { return m_answers; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void Answer(QDialog *dialog);
-    QString NextAnswer();
+    QString Keep(const QDialog &dialog);
+    QString NextAnswer(const QString &shown);
 
     QStringList m_answers;
-    std::vector<SeenBox> m_boxes;
-    QStringList m_questions;
-    QStringList m_fileDialogs;
+    Shown<std::vector<SeenBox>> m_boxes;
+    Shown<QStringList> m_questions;
+    Shown<QStringList> m_fileDialogs;
     QStringList m_fileNames;
 };
 
