@@ -24,7 +24,8 @@ printf 'leak:libdbus\nleak:libfontconfig\nleak:libGLX\n' >"$work/suppressions"
 export LSAN_OPTIONS=suppressions=$work/suppressions:print_suppressions=0
 
 exec {display_pipe}<> <(:)
-Xvfb -displayfd "$display_pipe" -screen 0 1280x1024x24 -nolisten tcp 2>"$work/xvfb.log" &
+# -noreset: else it starts anew, and drops whoever comes, when the last window went for a moment.
+Xvfb -noreset -displayfd "$display_pipe" -screen 0 1280x1024x24 -nolisten tcp 2>"$work/xvfb.log" &
 started=($!)
 cleanup() {
     kill "${started[@]}" 2>/dev/null || true
