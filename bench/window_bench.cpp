@@ -143,12 +143,3 @@ BENCHMARK(LoadAndReview)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenInWindow)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char *argv[])
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

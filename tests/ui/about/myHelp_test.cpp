@@ -1,22 +1,16 @@
 #include "ui/about/myHelp.h"
 
-#include "help/help_topics.h"
 #include "support/files.h"
 #include "support/print.h"
 #include "ui/about/help_browser.h"
 #include "ui/about/help_window.h"
-#include "ui/common/link_label.h"
 #include "ui/support/prompt_script.h"
 
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <iostream>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
@@ -210,36 +204,6 @@ TEST(myHelp, CanBeUsedBesideAModalWindow)
     });
     wizard.exec();
     EXPECT_TRUE(early && early->isVisible());
-}
-
-/// How long a user waits from the click on a link to the page, each time in a new window.
-TEST(myHelp, TellsHowLongAPageTakes)
-{
-    Asker asker;
-    LinkLabel link;
-    link.setText(u"types"_s);
-    link.show();
-    QObject::connect(&link, &LinkLabel::Followed, &link, [&] {
-        asker.help.ShowHelp(HH_HELP_CONTEXT, HelpContext::questionWizard, &asker.window);
-    });
-    std::vector<double> milliseconds;
-    for (int run = 0; run < 21; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        QTest::mouseClick(&link, Qt::LeftButton);
-        ASSERT_EQ(HelpWindows().size(), 1);
-        HelpWindow *window = HelpWindows().front();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
-        window->repaint();
-        milliseconds.push_back(double(timer.nsecsElapsed()) / 1e6);
-        asker.help.CloseWindows();
-        QApplication::processEvents();
-    }
-    const double first = milliseconds.front();
-    std::ranges::sort(milliseconds);
-    std::cout << "from click to page: first " << first << " ms, median "
-              << milliseconds[milliseconds.size() / 2] << " ms, slowest " << milliseconds.back()
-              << " ms\n";
 }
 
 } // namespace
