@@ -1,5 +1,6 @@
 #include "support/print.h"
 #include "ui/about/frmAbout.h"
+#include "ui/about/help_window.h"
 #include "ui/common/link_label.h"
 #include "ui/main/fileOpenForm.h"
 #include "ui/questions/frmWizard.h"
@@ -15,6 +16,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QTextEdit>
 
 #include <map>
 #include <set>
@@ -32,7 +34,7 @@ bool TakesInput(const QWidget *widget)
         return false;
     return qobject_cast<const QLineEdit *>(widget) ||
            qobject_cast<const QPlainTextEdit *>(widget) ||
-           qobject_cast<const QComboBox *>(widget) ||
+           qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QComboBox *>(widget) ||
            qobject_cast<const QAbstractButton *>(widget) ||
            qobject_cast<const QAbstractItemView *>(widget) ||
            qobject_cast<const LinkLabel *>(widget);
@@ -92,23 +94,55 @@ void ExpectMnemonicsOnce(const QWidget &window)
             claim(action->text());
 }
 
-/// Walks with Tab from the window's first widget until it comes round.
-void ExpectTabReachesAll(QWidget &window)
+using Widgets = std::set<const QWidget *>;
+
+/// The visible buttons of which this is one and only one at a time is checked.
+QList<QRadioButton *> GroupOf(const QRadioButton &button)
 {
-    std::set<const QWidget *> reached;
+    QList<QRadioButton *> group;
+    for (auto *other :
+         button.parentWidget()->findChildren<QRadioButton *>(QString(), Qt::FindDirectChildrenOnly))
+        if (other->isVisible() && other->autoExclusive())
+            group += other;
+    return group;
+}
+
+/// From where Tab entered a group, the arrows lead through all of it and back.
+void ExpectArrowsReachAll(QRadioButton &entered, Widgets &reached)
+{
+    EXPECT_TRUE(entered.isChecked()) << entered.objectName().toStdString();
+    const QList<QRadioButton *> group = GroupOf(entered);
+    for (const Qt::Key arrow : {Qt::Key_Up, Qt::Key_Down})
+        for (qsizetype i = 0; i < group.size(); ++i) {
+            QTest::keyClick(QApplication::focusWidget(), arrow);
+            const auto *focus = qobject_cast<QRadioButton *>(QApplication::focusWidget());
+            ASSERT_TRUE(focus && group.contains(focus)) << "the arrows lead out of the group";
+            EXPECT_TRUE(focus->isChecked()) << focus->objectName().toStdString();
+            reached.insert(focus);
+        }
+    for (qsizetype i = 0; i < group.size() && QApplication::focusWidget() != &entered; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(QApplication::focusWidget(), &entered);
+}
+
+/// Walks with Tab from the window's first widget until it comes round, and with the arrows where
+/// Tab leads into a group of radio buttons.
+void ExpectKeysReachAll(QWidget &window)
+{
+    Widgets reached;
     for (int tabs = 0; tabs < 80; ++tabs) {
-        const QWidget *focus = QApplication::focusWidget();
+        QWidget *focus = QApplication::focusWidget();
+        auto *radio = qobject_cast<QRadioButton *>(focus);
+        if (radio && !reached.contains(radio))
+            ExpectArrowsReachAll(*radio, reached);
         for (const QWidget *widget = focus; widget && widget != &window;
              widget = widget->parentWidget())
             reached.insert(widget);
-        QTest::keyClick(focus ? QApplication::focusWidget() : &window, Qt::Key_Tab);
+        QTest::keyClick(focus ? focus : &window, Qt::Key_Tab);
     }
-    for (const QWidget *input : InputsOf(window)) {
-        const bool isOff = !input->isEnabled();
-        const bool byArrows = qobject_cast<const QRadioButton *>(input) && !reached.empty();
-        EXPECT_TRUE(isOff || byArrows || reached.contains(input))
+    for (const QWidget *input : InputsOf(window))
+        EXPECT_TRUE(!input->isEnabled() || reached.contains(input))
             << input->objectName().toStdString();
-    }
 }
 
 void ExpectUsable(QWidget &window)
@@ -119,7 +153,7 @@ void ExpectUsable(QWidget &window)
     EXPECT_FALSE(InputsOf(window).isEmpty());
     ExpectNames(window);
     ExpectMnemonicsOnce(window);
-    ExpectTabReachesAll(window);
+    ExpectKeysReachAll(window);
 }
 
 TEST(EveryWindow, IsUsableWithoutMouseAndWithoutSight)
@@ -168,6 +202,22 @@ TEST(EveryWindow, OfTheWizardToo)
         if (step == 4)
             wizard.findChild<QPlainTextEdit *>(u"txtWiz3_1"_s)->setPlainText(u"Which?"_s);
     }
+}
+
+TEST(EveryWindow, OfTheHelpToo)
+{
+    auto file = HelpFile::Open(QStringLiteral(HELP_FILE));
+    ASSERT_TRUE(file) << Describe(file.error()).toStdString();
+    const QString page = file->DefaultPage();
+    HelpWindow help(
+        std::move(*file), [](const QString &) {}, nullptr);
+    help.ShowPage(page);
+    ExpectUsable(help);
+
+    SCOPED_TRACE("with its find bar");
+    QTest::keyClick(&help, Qt::Key_F, Qt::ControlModifier);
+    ASSERT_TRUE(help.findChild<QLineEdit *>(u"txtFind"_s)->isVisible());
+    ExpectUsable(help);
 }
 
 TEST(EveryWindow, HasNoCommandTwiceInAMenu)
