@@ -55,7 +55,11 @@ await() {
     done
 }
 
-has_focus() { [ "$(xdotool getactivewindow getwindowname)" = "$1" ]; }
+# Not only active for the window manager, but also where the keys go.
+has_focus() {
+    [ "$(xdotool getactivewindow getwindowname)" = "$1" ] &&
+        [ "$(xdotool getwindowfocus getwindowname)" = "$1" ]
+}
 window() { await 20 "no window '$1'" has_focus "$1"; }
 # The splash has the same title, but another size.
 is_main() { xdotool getactivewindow getwindowgeometry | grep -q 'Geometry: 860x620'; }
