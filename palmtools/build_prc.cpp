@@ -4,9 +4,9 @@
 #include "palmtools/build_prc_call.h"
 #include "palmtools/database.h"
 #include "palmtools/database_name.h"
-#include "palmtools/diagnostics.h"
 #include "palmtools/files.h"
 #include "palmtools/palm_time.h"
+#include "palmtools/shown.h"
 
 #include <ctime>
 #include <exception>

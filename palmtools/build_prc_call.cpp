@@ -1,6 +1,6 @@
 #include "palmtools/build_prc_call.h"
 
-#include "palmtools/diagnostics.h"
+#include "palmtools/shown.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "palmtools/diagnostics.h"
-#include "palmtools/resources.h"
+#include "palmtools/resource.h"
 
 #include <string_view>
 #include <vector>

@@ -47,15 +47,6 @@ void AppendHeader(Bytes &bytes, const DatabaseHeader &header, std::size_t count)
 
 } // namespace
 
-std::vector<ResourceView> ViewsOf(const std::vector<Resource> &resources)
-{
-    std::vector<ResourceView> views;
-    views.reserve(resources.size());
-    for (const Resource &resource : resources)
-        views.push_back({resource.type, resource.number, resource.bytes});
-    return views;
-}
-
 Result<Bytes> EncodeDatabase(const DatabaseHeader &header,
                              const std::vector<ResourceView> &resources)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "palmtools/bytes.h"
-#include "palmtools/resources.h"
+#include "palmtools/resource.h"
 #include "palmtools/result.h"
 
 #include <cstdint>
@@ -19,16 +19,6 @@ struct DatabaseHeader {
     FourBytes type = 0;
     FourBytes creator = 0;
 };
-
-/// A resource that lies in a buffer of someone else.
-struct ResourceView {
-    FourBytes type;
-    std::uint16_t number;
-    std::string_view bytes;
-};
-
-/// The views of resources, which must outlive them.
-std::vector<ResourceView> ViewsOf(const std::vector<Resource> &resources);
 
 /// The whole database, its resources in the order given; at most 65,535 of them.
 /// Fails when it would grow beyond what 32-bit offsets reach.

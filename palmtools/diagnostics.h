@@ -34,7 +34,4 @@ enum class MessageStyle {
 /// One line of output, with its line end.
 std::string MessageOf(const Diagnostic &diagnostic, std::string_view path, MessageStyle style);
 
-/// The bytes with control characters written out, so that a message stays on one line.
-std::string Shown(std::string_view bytes);
-
 } // namespace palmtools

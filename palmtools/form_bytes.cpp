@@ -1,7 +1,7 @@
 #include "palmtools/form_bytes.h"
 
 #include "palmtools/object_bytes.h"
-#include "palmtools/resources.h"
+#include "palmtools/resource_list.h"
 
 namespace palmtools {
 namespace {

@@ -1,6 +1,7 @@
 #include "palmtools/pilrc_call.h"
 
 #include "palmtools/ascii.h"
+#include "palmtools/shown.h"
 
 #include <cstddef>
 #include <optional>

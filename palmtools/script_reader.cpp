@@ -1,6 +1,7 @@
 #include "palmtools/script_reader.h"
 
 #include "palmtools/ascii.h"
+#include "palmtools/shown.h"
 
 #include <utility>
 

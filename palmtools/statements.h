@@ -1,7 +1,7 @@
 #pragma once
 
 #include "palmtools/arguments.h"
-#include "palmtools/resources.h"
+#include "palmtools/resource_list.h"
 
 namespace palmtools {
 

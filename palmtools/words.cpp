@@ -1,6 +1,7 @@
 #include "palmtools/words.h"
 
 #include "palmtools/ascii.h"
+#include "palmtools/shown.h"
 
 #include <limits>
 #include <string>

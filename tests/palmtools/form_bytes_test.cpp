@@ -1,6 +1,6 @@
 #include "palmtools/form_bytes.h"
 
-#include "palmtools/resources.h"
+#include "palmtools/resource_list.h"
 #include "palmtools/support.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "palmtools/words.h"
 
+#include "palmtools/shown.h"
 #include "palmtools/support.h"
 
 #include <gtest/gtest.h>

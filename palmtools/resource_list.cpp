@@ -1,7 +1,6 @@
-#include "palmtools/resources.h"
+#include "palmtools/resource_list.h"
 
-#include "palmtools/diagnostics.h"
-
+#include <string>
 #include <utility>
 
 namespace palmtools {
@@ -26,21 +25,6 @@ std::string NameAsRepeated(FourBytes type, std::uint16_t number)
 }
 
 } // namespace
-
-FourBytes FourBytesOf(std::string_view text)
-{
-    Bytes bytes;
-    AppendField(bytes, text, 4);
-    return BigEndian32At(bytes, 0);
-}
-
-std::string ShownType(FourBytes type)
-{
-    Bytes bytes;
-    AppendBigEndian32(bytes, type);
-    bytes.resize(bytes.find_last_not_of('\0') + 1);
-    return Shown(bytes);
-}
 
 void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t number,
                          std::uint64_t size)

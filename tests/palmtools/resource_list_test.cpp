@@ -1,4 +1,4 @@
-#include "palmtools/resources.h"
+#include "palmtools/resource_list.h"
 
 #include "palmtools/support.h"
 
@@ -26,19 +26,7 @@ std::string Admitted(std::string_view type, const std::vector<std::uint64_t> &si
     return texts;
 }
 
-TEST(Resources, HaveTypesThatOrderAsBytesDo)
-{
-    EXPECT_EQ(FourBytesOf("tFRM"), 0x7446524Du);
-    EXPECT_EQ(FourBytesOf("ab"), 0x61620000u);
-    EXPECT_EQ(FourBytesOf("\xFF"), 0xFF000000u);
-    EXPECT_EQ(FourBytesOf("abcde"), FourBytesOf("abcd"));
-    EXPECT_EQ(FourBytesOf(""), 0u);
-    EXPECT_EQ(ShownType(FourBytesOf("tFRM")), "tFRM");
-    EXPECT_EQ(ShownType(FourBytesOf("a\n")), "a\\x0A");
-    EXPECT_EQ(ShownType(0), "");
-}
-
-TEST(Resources, AreLimitedInSize)
+TEST(ResourceList, LimitsSizes)
 {
     const struct {
         const char *what;
@@ -60,7 +48,7 @@ TEST(Resources, AreLimitedInSize)
     }
 }
 
-TEST(Resources, AreThereOnce)
+TEST(ResourceList, HasEachResourceOnce)
 {
     const struct {
         const char *type, *text;
@@ -90,7 +78,7 @@ TEST(Resources, AreThereOnce)
     }
 }
 
-TEST(Resources, AreLimitedInNumber)
+TEST(ResourceList, LimitsTheirNumber)
 {
     EXPECT_EQ(Admitted("many", std::vector<std::uint64_t>(65535, 0)), "");
 

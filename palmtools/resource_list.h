@@ -1,31 +1,16 @@
 #pragma once
 
-#include "palmtools/bytes.h"
+#include "palmtools/resource.h"
 #include "palmtools/script_reader.h"
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace palmtools {
 
-/// The four bytes of a type or creator, the first one highest, so that they order as bytes do.
-using FourBytes = std::uint32_t;
-
-/// The first four bytes of a text, filled up with zero bytes.
-FourBytes FourBytesOf(std::string_view text);
-
-/// The bytes for a message, without the zero bytes at their end.
-std::string ShownType(FourBytes type);
-
-struct Resource {
-    FourBytes type;
-    std::uint16_t number;
-    Bytes bytes;
-};
-
+/// Bytes that a resource can have.
 constexpr std::uint64_t largestResource = 65535;
 
 /// The resources of a script, in its order.
