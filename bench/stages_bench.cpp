@@ -5,8 +5,8 @@
 #include "model/project_reader.h"
 #include "model/project_writer.h"
 #include "palmgen/script_generator.h"
-#include "palmtools/compiler.h"
-#include "palmtools/database.h"
+#include "palmtools/common/database.h"
+#include "palmtools/pilrc/compiler.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
-#include "palmtools/build_prc.h"
-#include "palmtools/compiler.h"
-#include "palmtools/pilrc.h"
+#include "palmtools/build_prc/build_prc.h"
+#include "palmtools/pilrc/compiler.h"
+#include "palmtools/pilrc/pilrc.h"
 #include "palmtools/support.h"
 
 #include <gtest/gtest.h>

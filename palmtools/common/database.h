@@ -1,0 +1,36 @@
+#pragma once
+
+#include "palmtools/common/bytes.h"
+#include "palmtools/common/resource.h"
+#include "palmtools/common/result.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace palmtools {
+
+/// What the header of a resource database says; times are seconds as the handheld counts them.
+struct DatabaseHeader {
+    std::string name; ///< what goes beyond 31 bytes is cut off
+    bool hidden = false;
+    std::uint32_t time = 0; ///< of the creation and of the last change
+    FourBytes type = 0;
+    FourBytes creator = 0;
+};
+
+/// The whole database, its resources in the order given; at most 65,535 of them.
+/// Fails when it would grow beyond what 32-bit offsets reach.
+Result<Bytes> EncodeDatabase(const DatabaseHeader &header,
+                             const std::vector<ResourceView> &resources);
+
+/// The resources of a database in the order of its entries; they point into the bytes.
+/// What is wrong with a damaged one is told in the error.
+Result<std::vector<ResourceView>> DecodeDatabase(std::string_view bytes);
+
+/// Puts the resources into the order that a database has, by type and number.
+/// Fails if two have the same type and number.
+Result<std::vector<ResourceView>> Sorted(std::vector<ResourceView> resources);
+
+} // namespace palmtools

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "palmtools/common/bytes.h"
+#include "palmtools/common/result.h"
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+namespace palmtools {
+
+/// All bytes of a file.
+Result<Bytes> ReadFile(const std::filesystem::path &path);
+
+/// Makes the file have these bytes, or tells why it has not.
+///
+/// They are written to a new file in the same folder, which then takes the place of the target. On
+/// a failure the new file is removed and the target, if there was one, is as it was before.
+std::optional<Error> ReplaceFile(const std::filesystem::path &target, std::string_view bytes);
+
+} // namespace palmtools

@@ -1,0 +1,59 @@
+#include "palmtools/pilrc/compiler.h"
+
+#include "palmtools/pilrc/statements.h"
+
+namespace palmtools {
+namespace {
+
+struct Statement {
+    std::string_view name;
+    void (*read)(ArgumentReader &arguments, ResourceList &resources);
+};
+
+constexpr Statement statements[] = {
+    {"HEX", ReadHex},
+    {"STRINGTABLE", ReadStringTable},
+    {"FORM", ReadForm},
+    {"NAVIGATION", ReadNavigation},
+    {"APPLICATIONICONNAME", ReadApplicationIconName},
+    {"VERSION", ReadVersion},
+};
+
+void ReadStatement(ArgumentReader &arguments, ResourceList &resources)
+{
+    for (const Statement &statement : statements) {
+        if (arguments.words().TakeName(statement.name)) {
+            statement.read(arguments, resources);
+            return;
+        }
+    }
+    arguments.words().FailExpected("statement");
+}
+
+std::vector<Resource> ReadScript(ScriptReader &words)
+{
+    if (words.NextIs(WordKind::end))
+        words.Fail("the script is empty");
+    ArgumentReader arguments(words);
+    ResourceList resources;
+    while (!words.NextIs(WordKind::end))
+        ReadStatement(arguments, resources);
+    return resources.TakeAll();
+}
+
+} // namespace
+
+Compilation CompileScript(std::string_view script)
+{
+    Compilation compilation;
+    try {
+        ScriptReader words(script, compilation.diagnostics);
+        compilation.resources = ReadScript(words);
+    } catch (const ScriptError &error) {
+        compilation.failed = true;
+        compilation.diagnostics.push_back({Severity::error, error.line(), error.what()});
+    }
+    return compilation;
+}
+
+} // namespace palmtools

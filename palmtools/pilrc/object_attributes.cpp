@@ -1,0 +1,93 @@
+#include "palmtools/pilrc/object_attributes.h"
+
+#include "palmtools/common/ascii.h"
+#include "palmtools/pilrc/font_widths.h"
+
+#include <string>
+
+namespace palmtools {
+namespace {
+
+void ReadFont(ArgumentReader &arguments, FormObject &object)
+{
+    object.font = arguments.Number();
+    if (!FontIsKnown(object.font))
+        arguments.words().Fail("font " + std::to_string(object.font) + " is not known");
+}
+
+void ReadColumnWidths(ArgumentReader &arguments, FormObject &object)
+{
+    object.columnWidths.clear();
+    const std::int64_t columns = object.columns & 0xFFFF;
+    for (std::int64_t column = 0; column < columns; ++column)
+        object.columnWidths.push_back(arguments.Field(16));
+}
+
+template <bool FormObject::*flag, bool value> void Set(ArgumentReader &, FormObject &object)
+{
+    object.*flag = value;
+}
+
+template <auto FormObject::*number> void Read16(ArgumentReader &arguments, FormObject &object)
+{
+    object.*number = arguments.Field(16);
+}
+
+struct Attribute {
+    std::string_view name;
+    AttributeSet set;
+    void (*read)(ArgumentReader &arguments, FormObject &object);
+};
+
+constexpr Attribute attributes[] = {
+    {"USABLE", usable, Set<&FormObject::usable, true>},
+    {"NONUSABLE", usable, Set<&FormObject::usable, false>},
+    {"FONT", font, ReadFont},
+    {"LEFTANCHOR", anchor, Set<&FormObject::leftAnchor, true>},
+    {"RIGHTANCHOR", anchor, Set<&FormObject::leftAnchor, false>},
+    {"FRAME", frame, Set<&FormObject::frame, true>},
+    {"NOFRAME", frame, Set<&FormObject::frame, false>},
+    {"GROUP", group,
+     [](ArgumentReader &from, FormObject &object) { object.group = from.Field(8); }},
+    {"EDITABLE", editable, Set<&FormObject::editable, true>},
+    {"NONEDITABLE", editable, Set<&FormObject::editable, false>},
+    {"SINGLELINE", lines, Set<&FormObject::singleLine, true>},
+    {"MULTIPLELINES", lines, Set<&FormObject::singleLine, false>},
+    {"UNDERLINED", underlined, Set<&FormObject::underlined, true>},
+    {"NUMERIC", numeric, Set<&FormObject::numeric, true>},
+    {"MAXCHARS", maxChars, Read16<&FormObject::maxChars>},
+    {"VISIBLEITEMS", visibleItems, Read16<&FormObject::visibleItems>},
+    {"ROWS", tableSize, Read16<&FormObject::rows>},
+    {"COLUMNS", tableSize, Read16<&FormObject::columns>},
+    {"COLUMNWIDTHS", tableSize, ReadColumnWidths},
+    {"VALUE", scrollRange, Read16<&FormObject::value>},
+    {"MIN", scrollRange, Read16<&FormObject::min>},
+    {"MAX", scrollRange, Read16<&FormObject::max>},
+    {"PAGESIZE", scrollRange, Read16<&FormObject::pageSize>},
+};
+
+const Attribute *AttributeOf(const Word &word)
+{
+    if (word.kind != WordKind::name)
+        return nullptr;
+    for (const Attribute &attribute : attributes) {
+        if (EqualIgnoringCase(word.written, attribute.name))
+            return &attribute;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void ReadAttributes(ArgumentReader &arguments, unsigned allowed, FormObject &object)
+{
+    ScriptReader &words = arguments.words();
+    while (const Attribute *attribute = AttributeOf(words.Peek())) {
+        if ((allowed & attribute->set) == 0)
+            words.Fail(std::string(words.Peek().written) + " does not belong here");
+        words.Take();
+        attribute->read(arguments, object);
+    }
+}
+
+} // namespace palmtools

@@ -1,0 +1,56 @@
+#include "palmtools/pilrc/resource_list.h"
+
+#include <string>
+#include <utility>
+
+namespace palmtools {
+namespace {
+
+constexpr std::uint64_t largestSafeResource = 65000;
+constexpr std::size_t mostResources = 65535;
+
+/// What the resource is called in a message.
+std::string NameOf(FourBytes type, std::uint16_t number)
+{
+    return "resource '" + ShownType(type) + "' " + std::to_string(number);
+}
+
+std::string NameAsRepeated(FourBytes type, std::uint16_t number)
+{
+    if (type == FourBytesOf("tFRM"))
+        return "form " + std::to_string(number);
+    if (type == FourBytesOf("tSTL"))
+        return "string table " + std::to_string(number);
+    return NameOf(type, number);
+}
+
+} // namespace
+
+void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t number,
+                         std::uint64_t size)
+{
+    const std::uint64_t key = std::uint64_t{type} << 16 | number;
+    if (!m_known.insert(key).second)
+        words.Fail(NameAsRepeated(type, number) + " is there twice");
+    if (m_known.size() > mostResources)
+        words.Fail("the script has more than 65535 resources");
+
+    const std::string bytes = " has " + std::to_string(size) + " bytes";
+    if (size > largestResource)
+        words.Fail(NameOf(type, number) + bytes + ", more than 65535");
+    if (size > largestSafeResource)
+        words.Warn(NameOf(type, number) + bytes);
+}
+
+void ResourceList::Add(ScriptReader &words, Resource resource)
+{
+    Admit(words, resource.type, resource.number, resource.bytes.size());
+    Keep(std::move(resource));
+}
+
+void ResourceList::Keep(Resource resource)
+{
+    m_resources.push_back(std::move(resource));
+}
+
+} // namespace palmtools

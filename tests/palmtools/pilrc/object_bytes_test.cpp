@@ -1,0 +1,223 @@
+#include "palmtools/pilrc/object_bytes.h"
+
+#include "palmtools/support.h"
+
+#include <gtest/gtest.h>
+
+namespace palmtools {
+namespace {
+
+using Kind = ObjectKind;
+
+constexpr Rectangle place = {1, 2, 0x103, -4};
+
+std::string EncodedAs(const FormObject &object)
+{
+    Bytes bytes;
+    AppendObject(bytes, object);
+    return bytes;
+}
+
+TEST(ObjectBytes, LieAsTheHandheldReadsThem)
+{
+    const struct {
+        const char *what;
+        FormObject object;
+        int directoryKind;
+        std::string bytes;
+    } rows[] = {
+        {"title, even",
+         {.kind = Kind::title, .texts = {"abc"}},
+         9,
+         FromHex("000000000000000000000000 61626300")},
+        {"title, padded",
+         {.kind = Kind::title, .texts = {"Finder"}},
+         9,
+         FromHex("000000000000000000000000 46696E646572 0000")},
+        {"label",
+         {.kind = Kind::label, .number = 1, .place = place, .texts = {"a"}, .font = 1},
+         8,
+         FromHex("0001 0001 0002 8000 01 0000000000 6100")},
+        {"label, not usable",
+         {.kind = Kind::label, .number = 0xFFFF, .place = place, .texts = {""}, .usable = false},
+         8,
+         FromHex("FFFF 0001 0002 0000 00 0000000000 0000")},
+        {"popup list",
+         {.kind = Kind::popupList, .number = 2, .listNumber = 3},
+         10,
+         FromHex("0002 0003")},
+        {"indicator",
+         {.kind = Kind::graffitiIndicator, .place = {142, 126, 9, 10}},
+         11,
+         FromHex("008E 007E")},
+        {"gadget",
+         {.kind = Kind::gadget, .number = 2, .place = place},
+         12,
+         FromHex("0002 C000 0001 0002 0103 FFFC 0000000000000000")},
+        {"gadget, not usable",
+         {.kind = Kind::gadget, .number = 2, .place = place, .usable = false},
+         12,
+         FromHex("0002 4000 0001 0002 0103 FFFC 0000000000000000")},
+        {"scroll bar",
+         {.kind = Kind::scrollBar,
+          .number = 3,
+          .place = place,
+          .value = 50,
+          .min = -1,
+          .max = 100,
+          .pageSize = 10},
+         13,
+         FromHex("0001 0002 0103 FFFC 0003 80 00 0032 FFFF 0064 000A 00000000")},
+        {"scroll bar, not usable",
+         {.kind = Kind::scrollBar, .number = 3, .place = place, .usable = false},
+         13,
+         FromHex("0001 0002 0103 FFFC 0003 00 00 0000 0000 0000 0000 00000000")},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(EncodedAs(row.object), row.bytes);
+        EXPECT_EQ(DirectoryKind(row.object.kind), row.directoryKind);
+    }
+}
+
+TEST(ObjectBytes, OfFields)
+{
+    const auto field = [](const char *flags, const char *maxChars, const char *font) {
+        return FromHex("0002 0001 0002 0103 FFFC") + FromHex(flags) + std::string(16, '\0') +
+               FromHex(maxChars) + std::string(8, '\0') + FromHex(font) + FromHex("00");
+    };
+    const FormObject plain = {.kind = Kind::field, .number = 2, .place = place};
+    EXPECT_EQ(EncodedAs(plain), field("B200", "0000", "00"));
+    EXPECT_EQ(DirectoryKind(Kind::field), 0);
+
+    FormObject notes = plain;
+    notes.singleLine = false;
+    notes.underlined = true;
+    notes.maxChars = 255;
+    EXPECT_EQ(EncodedAs(notes), field("A240", "00FF", "00"));
+
+    FormObject numeric = plain;
+    numeric.underlined = numeric.numeric = true;
+    numeric.font = 1;
+    EXPECT_EQ(EncodedAs(numeric), field("B242", "0000", "01"));
+
+    FormObject fixed = plain;
+    fixed.editable = false;
+    EXPECT_EQ(EncodedAs(fixed), field("9200", "0000", "00"));
+    fixed.usable = false;
+    EXPECT_EQ(EncodedAs(fixed), field("1200", "0000", "00"));
+}
+
+TEST(ObjectBytes, OfControls)
+{
+    const struct {
+        const char *what;
+        Kind kind;
+        bool usable, leftAnchor, frame;
+        const char *flags, *style;
+    } rows[] = {
+        {"button", Kind::button, true, true, true, "C900", "00"},
+        {"button without a frame", Kind::button, true, true, false, "C800", "00"},
+        {"button, not usable", Kind::button, false, true, true, "4900", "00"},
+        {"button, right anchor", Kind::button, true, false, true, "C100", "00"},
+        {"a check box has no frame", Kind::checkBox, true, true, true, "C800", "02"},
+        {"check box, right anchor", Kind::checkBox, true, false, true, "C000", "02"},
+        {"a popup trigger has no frame", Kind::popupTrigger, true, true, true, "C800", "03"},
+        {"a selector trigger has one", Kind::selectorTrigger, true, true, true, "C900", "04"},
+        {"selector trigger, bare", Kind::selectorTrigger, false, false, true, "4100", "04"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        const FormObject object = {.kind = row.kind,
+                                   .number = 99,
+                                   .place = place,
+                                   .texts = {"ab"},
+                                   .usable = row.usable,
+                                   .leftAnchor = row.leftAnchor,
+                                   .frame = row.frame,
+                                   .font = 3,
+                                   .group = 255};
+        EXPECT_EQ(EncodedAs(object), FromHex("0063 0001 0002 0103 FFFC 00000000") +
+                                         FromHex(row.flags) + FromHex(row.style) +
+                                         FromHex("03 FF 00 616200 00"));
+        EXPECT_EQ(DirectoryKind(row.kind), 1);
+    }
+}
+
+TEST(ObjectBytes, OfLists)
+{
+    const std::string front = FromHex("0003 0001 0002 0103 FFFC");
+    const FormObject empty = {.kind = Kind::list, .number = 3, .place = place};
+    EXPECT_EQ(EncodedAs(empty),
+              front + FromHex("C000 00000000 0000 00000000 00") + std::string(9, '\0'));
+
+    FormObject two = empty;
+    two.texts = {"ab", ""};
+    two.usable = false;
+    two.font = 1;
+    EXPECT_EQ(EncodedAs(two), front + FromHex("4000 00000000 0002 00000000 01") +
+                                  std::string(9 + 8, '\0') + FromHex("616200 00"));
+
+    FormObject odd = empty;
+    odd.texts = {"ab"};
+    EXPECT_EQ(EncodedAs(odd).substr(32), FromHex("00000000 616200 00"));
+    EXPECT_EQ(DirectoryKind(Kind::list), 2);
+}
+
+TEST(ObjectBytes, OfTables)
+{
+    const std::string front = FromHex("0002 0001 0002 0103 FFFC");
+    const FormObject bare = {.kind = Kind::table, .number = 2, .place = place, .editable = false};
+    EXPECT_EQ(EncodedAs(bare), front + FromHex("0000 0000 0000") + std::string(58, '\0'));
+
+    FormObject filled = bare;
+    filled.editable = true;
+    filled.columns = 3;
+    filled.rows = 2;
+    filled.columnWidths = {12, 300};
+    const std::string none(12, '\0');
+    const std::string row = FromHex("0000 000B 00000000 01 01 0000");
+    EXPECT_EQ(EncodedAs(filled), front + FromHex("4000 0003 0002") + std::string(58, '\0') +
+                                     FromHex("000C 0000 0001") + none + FromHex("012C 0000 0001") +
+                                     none + FromHex("0000 0000 0001") + none + row + row +
+                                     std::string(8 * 2 * 3, '\0'));
+
+    FormObject fewer = filled;
+    fewer.columns = 1;
+    EXPECT_EQ(EncodedAs(fewer).substr(74, 6), FromHex("000C 0000 0001"));
+    EXPECT_EQ(EncodedAs(fewer).size(), 74u + 18 + 2 * 12 + 2 * 8);
+    EXPECT_EQ(DirectoryKind(Kind::table), 3);
+}
+
+TEST(ObjectBytes, HaveTheSizeThatWasReckoned)
+{
+    constexpr Kind kinds[] = {
+        Kind::title,        Kind::label,  Kind::field,     Kind::button,
+        Kind::checkBox,     Kind::list,   Kind::popupList, Kind::selectorTrigger,
+        Kind::popupTrigger, Kind::gadget, Kind::table,     Kind::graffitiIndicator,
+        Kind::scrollBar,
+    };
+    for (const Kind kind : kinds) {
+        for (const std::string_view text : {"", "a", "ab", "abc"}) {
+            SCOPED_TRACE(static_cast<int>(kind));
+            FormObject object = {.kind = kind, .rows = 3, .columns = 2};
+            if (DirectoryKind(kind) == 1 || kind == Kind::title || kind == Kind::label)
+                object.texts = {text};
+            if (kind == Kind::list)
+                object.texts = {text, "x", text};
+            EXPECT_EQ(ObjectSize(object), EncodedAs(object).size());
+            EXPECT_EQ(ObjectSize(object) % 2, 0u);
+        }
+    }
+}
+
+TEST(ObjectBytes, OfAHugeTableAreCountedWithoutBuildingIt)
+{
+    const FormObject table = {.kind = Kind::table, .rows = 65535, .columns = 65535};
+    EXPECT_EQ(ObjectSize(table), 74u + 30u * 65535 + 8ull * 65535 * 65535);
+    const FormObject negative = {.kind = Kind::table, .rows = -1, .columns = 0};
+    EXPECT_EQ(ObjectSize(negative), 74u + 12u * 65535);
+}
+
+} // namespace
+} // namespace palmtools
