@@ -7,6 +7,7 @@
 #include "palmtools/common/database.h"
 #include "palmtools/common/files.h"
 #include "palmtools/common/shown.h"
+#include "palmtools/common/tool_texts.h"
 
 #include <ctime>
 #include <exception>
@@ -14,22 +15,23 @@
 namespace palmtools {
 namespace {
 
-constexpr const char *usage =
-    "usage: build-prc [-t TYPE] [--hidden] OUT.prc NAME CREATOR FILE.ro\n"
-    "       build-prc [-t TYPE] [--hidden] -o OUT.prc -n NAME -c CREATOR FILE.ro\n";
-constexpr const char *help =
-    "Builds the database OUT.prc for the handheld from the resource file FILE.ro.\n"
-    "\n"
-    "  -t, --type TYPE        type of the database, four bytes; appl if not given\n"
-    "  -c, --creator CREATOR  its creator, four bytes\n"
-    "  -n, --name NAME        its name, at most 31 bytes\n"
-    "  -o, --output OUT.prc   where it goes\n"
-    "  --hidden               hide it in the handheld's launcher\n"
-    "  --no-check-resources   accepted; resources are never checked\n"
-    "  --no-check-header      do not warn about an empty name or creator\n"
-    "  --no-check             both of these\n"
-    "  --help                 show this help\n"
-    "  --version              show the version\n";
+constexpr ToolTexts texts = {
+    .name = "build-prc",
+    .usage = "usage: build-prc [-t TYPE] [--hidden] OUT.prc NAME CREATOR FILE.ro\n"
+             "       build-prc [-t TYPE] [--hidden] -o OUT.prc -n NAME -c CREATOR FILE.ro\n",
+    .help = "Builds the database OUT.prc for the handheld from the resource file FILE.ro.\n"
+            "\n"
+            "  -t, --type TYPE        type of the database, four bytes; appl if not given\n"
+            "  -c, --creator CREATOR  its creator, four bytes\n"
+            "  -n, --name NAME        its name, at most 31 bytes\n"
+            "  -o, --output OUT.prc   where it goes\n"
+            "  --hidden               hide it in the handheld's launcher\n"
+            "  --no-check-resources   accepted; resources are never checked\n"
+            "  --no-check-header      do not warn about an empty name or creator\n"
+            "  --no-check             both of these\n"
+            "  --help                 show this help\n"
+            "  --version              show the version\n",
+};
 
 int Fail(const Error &error, std::ostream &err)
 {
@@ -100,19 +102,12 @@ int Run(const std::vector<std::string> &arguments, std::ostream &out, std::ostre
     const auto call = ReadBuildPrcCall(arguments);
     if (!call) {
         Fail(call.error(), err);
-        err << usage;
+        err << texts.usage;
         return 1;
     }
-    switch (call->wish) {
-    case BuildPrcCall::Wish::help:
-        out << usage << help;
+    if (AnswerWish(call->wish, texts, out))
         return 0;
-    case BuildPrcCall::Wish::version:
-        out << "build-prc " PALMTOOLS_VERSION " (Vellumo Designer)\n";
-        return 0;
-    default:
-        return Build(*call, err);
-    }
+    return Build(*call, err);
 }
 
 } // namespace

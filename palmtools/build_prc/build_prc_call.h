@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palmtools/common/options.h"
 #include "palmtools/common/result.h"
 
 #include <string>
@@ -9,9 +10,7 @@ namespace palmtools {
 
 /// What the command line asks for, in either way of calling; nothing is judged yet but its form.
 struct BuildPrcCall {
-    enum class Wish { build, help, version };
-
-    Wish wish = Wish::build;
+    Wish wish = Wish::work;
     std::string output = {};
     std::string name = {};
     std::string type = "appl";

@@ -2,6 +2,7 @@
 
 #include "palmtools/common/database.h"
 #include "palmtools/common/files.h"
+#include "palmtools/common/tool_texts.h"
 #include "palmtools/pilrc/compiler.h"
 #include "palmtools/pilrc/pilrc_call.h"
 
@@ -10,17 +11,19 @@
 namespace palmtools {
 namespace {
 
-constexpr const char *usage = "usage: pilrc -ro [-q] [-V] [-I DIR]... [-o OUT] FILE [OUT]\n";
-constexpr const char *help =
-    "Compiles the resource script FILE into the resource file OUT, else FILE.ro.\n"
-    "\n"
-    "  -ro        write one resource file (required)\n"
-    "  -I DIR     a folder in which FILE is looked for as well; may be repeated\n"
-    "  -o OUT     the resource file\n"
-    "  -q         say nothing on standard output\n"
-    "  -V         write messages as PATH(LINE): error : TEXT\n"
-    "  --help     show this help\n"
-    "  --version  show the version\n";
+constexpr ToolTexts texts = {
+    .name = "pilrc",
+    .usage = "usage: pilrc -ro [-q] [-V] [-I DIR]... [-o OUT] FILE [OUT]\n",
+    .help = "Compiles the resource script FILE into the resource file OUT, else FILE.ro.\n"
+            "\n"
+            "  -ro        write one resource file (required)\n"
+            "  -I DIR     a folder in which FILE is looked for as well; may be repeated\n"
+            "  -o OUT     the resource file\n"
+            "  -q         say nothing on standard output\n"
+            "  -V         write messages as PATH(LINE): error : TEXT\n"
+            "  --help     show this help\n"
+            "  --version  show the version\n",
+};
 
 // Constant, so that a script gives the same file from run to run.
 constexpr std::uint32_t resourceFileTime = 0xADC0BEA0;
@@ -104,25 +107,18 @@ int Compile(const PilrcCall &call, std::ostream &out, std::ostream &err)
 int Run(const std::vector<std::string> &arguments, std::ostream &out, std::ostream &err)
 {
     if (arguments.empty()) {
-        out << usage << help;
+        AnswerWish(Wish::help, texts, out);
         return 1;
     }
     const auto call = ReadPilrcCall(arguments);
     if (!call) {
         Fail(call.error(), err);
-        err << usage;
+        err << texts.usage;
         return 1;
     }
-    switch (call->wish) {
-    case PilrcCall::Wish::help:
-        out << usage << help;
+    if (AnswerWish(call->wish, texts, out))
         return 0;
-    case PilrcCall::Wish::version:
-        out << "pilrc " PALMTOOLS_VERSION " (Vellumo Designer)\n";
-        return 0;
-    default:
-        return Compile(*call, out, err);
-    }
+    return Compile(*call, out, err);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "palmtools/pilrc/pilrc_call.h"
 
 #include "palmtools/common/ascii.h"
-#include "palmtools/common/shown.h"
 
 #include <cstddef>
 #include <optional>
@@ -9,72 +8,38 @@
 namespace palmtools {
 namespace {
 
-/// What the options say, before it is judged.
-struct Options {
+/// What the options and the plain arguments say, before it is judged.
+struct Told {
     PilrcCall call = {};
     bool asksForOneFile = false;
-    std::optional<std::string> output = {};
-    bool hasSeveralOutputs = false;
-
-    void SetOutput(const std::string &path)
-    {
-        hasSeveralOutputs = output.has_value();
-        output = path;
-    }
+    std::vector<std::string> outputs = {};
 };
 
-struct Option {
-    std::string_view name;
-    bool takesValue;
-    void (*apply)(Options &options, const std::string &value);
-};
-
-using Wish = PilrcCall::Wish;
-
-constexpr Option optionTable[] = {
-    {"-ro", false, [](Options &options, const std::string &) { options.asksForOneFile = true; }},
-    {"-I", true,
-     [](Options &options, const std::string &value) { options.call.folders.push_back(value); }},
-    {"-q", false, [](Options &options, const std::string &) { options.call.quiet = true; }},
-    {"-V", false,
-     [](Options &options, const std::string &) { options.call.style = MessageStyle::microsoft; }},
-    {"-o", true, [](Options &options, const std::string &value) { options.SetOutput(value); }},
-    {"--help", false,
-     [](Options &options, const std::string &) { options.call.wish = Wish::help; }},
-    {"--version", false,
-     [](Options &options, const std::string &) { options.call.wish = Wish::version; }},
-};
-
-const Option *OptionOf(std::string_view argument)
+Result<Wish> ReadOptionsInto(Told &told, CommandLine &line)
 {
-    for (const Option &option : optionTable) {
-        if (EqualIgnoringCase(option.name, argument))
-            return &option;
-    }
-    return nullptr;
+    using Text = const std::string &;
+    PilrcCall &call = told.call;
+    const Option options[] = {
+        {"-ro", "", false, [&](Text) { told.asksForOneFile = true; }},
+        {"-I", "", true, [&](Text folder) { call.folders.push_back(folder); }},
+        {"-q", "", false, [&](Text) { call.quiet = true; }},
+        {"-V", "", false, [&](Text) { call.style = MessageStyle::microsoft; }},
+        {"-o", "", true, [&](Text path) { told.outputs.push_back(path); }},
+    };
+    return ReadOptions(line, options, NameCase::ignored);
 }
 
-bool IsOption(std::string_view argument)
+std::optional<Error> TakePlainArguments(Told &told, CommandLine &line)
 {
-    return argument.substr(0, 1) == "-";
-}
-
-/// Takes the options at the front; next is then the first plain argument. A wish for help or for
-/// the version ends the reading.
-std::optional<Error> ReadOptions(const std::vector<std::string> &arguments, Options &options,
-                                 std::size_t &next)
-{
-    while (next < arguments.size() && IsOption(arguments[next])) {
-        const std::string &name = arguments[next++];
-        const Option *option = OptionOf(name);
-        if (!option)
-            return Error{"unknown option '" + Shown(name) + "'"};
-        if (option->takesValue && next == arguments.size())
-            return Error{"option '" + name + "' lacks its argument"};
-        option->apply(options, option->takesValue ? arguments[next++] : std::string());
-        if (options.call.wish != Wish::compile)
-            break;
-    }
+    if (!told.asksForOneFile)
+        return Error{"option '-ro' is missing; resources are written to one file only"};
+    if (line.AtEnd())
+        return Error{"the script is missing"};
+    told.call.script = line.Take();
+    if (!line.AtEnd())
+        told.outputs.push_back(line.Take());
+    if (!line.AtEnd() || told.outputs.size() > 1)
+        return Error{"too many arguments"};
     return std::nullopt;
 }
 
@@ -82,23 +47,19 @@ std::optional<Error> ReadOptions(const std::vector<std::string> &arguments, Opti
 
 Result<PilrcCall> ReadPilrcCall(const std::vector<std::string> &arguments)
 {
-    Options options;
-    std::size_t next = 0;
-    if (const auto error = ReadOptions(arguments, options, next))
+    CommandLine line(arguments);
+    Told told;
+    const auto wish = ReadOptionsInto(told, line);
+    if (!wish)
+        return wish.error();
+    told.call.wish = *wish;
+    if (*wish != Wish::work)
+        return told.call;
+    if (const auto error = TakePlainArguments(told, line))
         return *error;
-    if (options.call.wish != Wish::compile)
-        return options.call;
-    if (!options.asksForOneFile)
-        return Error{"option '-ro' is missing; resources are written to one file only"};
-    if (next == arguments.size())
-        return Error{"the script is missing"};
-    options.call.script = arguments[next++];
-    if (next < arguments.size())
-        options.SetOutput(arguments[next++]);
-    if (next < arguments.size() || options.hasSeveralOutputs)
-        return Error{"too many arguments"};
-    options.call.output = ResourceFileOf(options.call.script, options.output.value_or("."));
-    return options.call;
+    const std::string asked = told.outputs.empty() ? "." : told.outputs.front();
+    told.call.output = ResourceFileOf(told.call.script, asked);
+    return told.call;
 }
 
 std::string ResourceFileOf(std::string_view script, std::string_view asked)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palmtools/common/options.h"
 #include "palmtools/common/result.h"
 #include "palmtools/pilrc/diagnostics.h"
 
@@ -11,9 +12,7 @@ namespace palmtools {
 
 /// What the command line asks for.
 struct PilrcCall {
-    enum class Wish { compile, help, version };
-
-    Wish wish = Wish::compile;
+    Wish wish = Wish::work;
     std::string script = {};
     std::string output = {};
     std::vector<std::string> folders = {}; ///< in which the script is looked for

@@ -111,7 +111,6 @@ TEST(BuildPrcCall, IsRefused)
 
 TEST(BuildPrcCall, AsksForHelpOrTheVersion)
 {
-    using Wish = BuildPrcCall::Wish;
     EXPECT_EQ(ReadBuildPrcCall({"--help"})->wish, Wish::help);
     EXPECT_EQ(ReadBuildPrcCall({"--hidden", "--version", "-x"})->wish, Wish::version);
     EXPECT_FALSE(ReadBuildPrcCall({"-x", "--help"}));

@@ -66,7 +66,6 @@ TEST(PilrcCall, EndsOptionsAtTheScript)
 
 TEST(PilrcCall, AsksForHelpOrTheVersion)
 {
-    using Wish = PilrcCall::Wish;
     EXPECT_EQ(ReadPilrcCall({"--help"})->wish, Wish::help);
     EXPECT_EQ(ReadPilrcCall({"-ro", "--VERSION"})->wish, Wish::version);
     EXPECT_EQ(ReadPilrcCall({"--help", "--version", "-x"})->wish, Wish::help);
