@@ -5,6 +5,7 @@
 #include "model/project_reader.h"
 #include "model/project_writer.h"
 #include "palmgen/script_generator.h"
+#include "palmtools/build_prc/database_builder.h"
 #include "palmtools/common/database.h"
 #include "palmtools/pilrc/compiler.h"
 

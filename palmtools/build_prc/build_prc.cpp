@@ -1,16 +1,14 @@
 #include "palmtools/build_prc/build_prc.h"
 
 #include "palmtools/build_prc/build_prc_call.h"
-#include "palmtools/build_prc/database_name.h"
-#include "palmtools/build_prc/palm_time.h"
+#include "palmtools/build_prc/database_builder.h"
 #include "palmtools/common/ascii.h"
-#include "palmtools/common/database.h"
 #include "palmtools/common/files.h"
-#include "palmtools/common/shown.h"
 #include "palmtools/common/tool_texts.h"
 
 #include <ctime>
 #include <exception>
+#include <utility>
 
 namespace palmtools {
 namespace {
@@ -43,53 +41,44 @@ void Warn(const BuildPrcCall &call, std::ostream &err)
 {
     if (!call.warnsAboutHeader)
         return;
-    if (call.name.empty())
+    if (call.identity.name.empty())
         err << "build-prc: warning: the database name is empty\n";
-    if (call.creator.empty())
+    if (call.identity.creator.empty())
         err << "build-prc: warning: the creator is empty\n";
 }
 
-std::optional<Error> CheckArguments(const BuildPrcCall &call)
+std::optional<Error> CheckEndings(const BuildPrcCall &call)
 {
     if (!EndsIgnoringCase(call.output, ".prc"))
         return Error{"the name of a database must end in .prc", call.output};
     if (!EndsIgnoringCase(call.input, ".ro") && !EndsIgnoringCase(call.input, ".prc"))
         return Error{"the name of a resource file must end in .ro or .prc", call.input};
-    if (call.type.size() != 4)
-        return Error{"the type '" + Shown(call.type) + "' is not 4 bytes long"};
-    if (!call.creator.empty() && call.creator.size() != 4)
-        return Error{"the creator '" + Shown(call.creator) + "' is not 4 bytes long"};
     return std::nullopt;
 }
 
-Result<Bytes> DatabaseOf(const BuildPrcCall &call, const std::string &name,
-                         std::string_view resourceFile)
+/// The database of a resource file; a fault of its resources is told as one of the file.
+Result<Bytes> DatabaseOf(const DatabaseHeader &header, const std::string &path)
 {
-    const DatabaseHeader header{.name = name,
-                                .hidden = call.hidden,
-                                .time = PalmTimeOf(std::time(nullptr)),
-                                .type = FourBytesOf(call.type),
-                                .creator = FourBytesOf(call.creator)};
-    auto resources = DecodeDatabase(resourceFile);
+    const auto resourceFile = ReadFile(path);
+    if (!resourceFile)
+        return resourceFile.error();
+    auto resources = DecodeDatabase(*resourceFile);
     if (resources)
         resources = Sorted(std::move(*resources));
     if (!resources)
-        return Error{resources.error().text, call.input};
+        return Error{resources.error().text, path};
     return EncodeDatabase(header, *resources);
 }
 
 int Build(const BuildPrcCall &call, std::ostream &err)
 {
-    if (const auto error = CheckArguments(call))
+    if (const auto error = CheckEndings(call))
         return Fail(*error, err);
-    const auto name = DatabaseNameOf(call.name);
-    if (!name)
-        return Fail(name.error(), err);
+    const auto header = HeaderOf(call.identity, std::time(nullptr));
+    if (!header)
+        return Fail(header.error(), err);
     Warn(call, err);
-    const auto resourceFile = ReadFile(call.input);
-    if (!resourceFile)
-        return Fail(resourceFile.error(), err);
-    const auto database = DatabaseOf(call, *name, *resourceFile);
+    const auto database = DatabaseOf(*header, call.input);
     if (!database)
         return Fail(database.error(), err);
     if (const auto error = ReplaceFile(call.output, *database))

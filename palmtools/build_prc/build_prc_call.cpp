@@ -16,11 +16,11 @@ Result<Wish> ReadOptionsInto(Told &told, CommandLine &line)
     using Text = const std::string &;
     BuildPrcCall &call = told.call;
     const Option options[] = {
-        {"-t", "--type", true, [&](Text type) { call.type = type; }},
+        {"-t", "--type", true, [&](Text type) { call.identity.type = type; }},
         {"-c", "--creator", true, [&](Text creator) { told.creator = creator; }},
         {"-n", "--name", true, [&](Text name) { told.name = name; }},
         {"-o", "--output", true, [&](Text path) { told.output = path; }},
-        {"", "--hidden", false, [&](Text) { call.hidden = true; }},
+        {"", "--hidden", false, [&](Text) { call.identity.hidden = true; }},
         {"", "--no-check-resources", false, [](Text) {}},
         {"", "--no-check-header", false, [&](Text) { call.warnsAboutHeader = false; }},
         {"", "--no-check", false, [&](Text) { call.warnsAboutHeader = false; }},
@@ -33,14 +33,15 @@ std::optional<Error> TakeFromOptions(Told &told)
     if (!told.output || !told.name || !told.creator)
         return Error{"options -o, -n and -c go together"};
     told.call.output = *told.output;
-    told.call.name = *told.name;
-    told.call.creator = *told.creator;
+    told.call.identity.name = *told.name;
+    told.call.identity.creator = *told.creator;
     return std::nullopt;
 }
 
 std::optional<Error> TakeFromLine(Told &told, CommandLine &line)
 {
-    for (std::string *place : {&told.call.output, &told.call.name, &told.call.creator}) {
+    for (std::string *place :
+         {&told.call.output, &told.call.identity.name, &told.call.identity.creator}) {
         if (line.AtEnd())
             return Error{"OUT, NAME, CREATOR and FILE.ro are required"};
         *place = line.Take();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palmtools/build_prc/database_builder.h"
 #include "palmtools/common/options.h"
 #include "palmtools/common/result.h"
 
@@ -12,11 +13,8 @@ namespace palmtools {
 struct BuildPrcCall {
     Wish wish = Wish::work;
     std::string output = {};
-    std::string name = {};
-    std::string type = "appl";
-    std::string creator = {};
+    DatabaseIdentity identity = {};
     std::string input = {};
-    bool hidden = false;
     bool warnsAboutHeader = true;
 };
 

@@ -1,8 +1,6 @@
 #include "palmtools/common/database.h"
 
-#include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace palmtools {
 namespace {
@@ -17,11 +15,6 @@ constexpr std::size_t gapSize = 2;
 constexpr int resourceDatabase = 0x0001;
 constexpr int hiddenDatabase = 0x0100;
 constexpr int formatVersion = 1;
-
-std::uint64_t KeyOf(const ResourceView &resource)
-{
-    return std::uint64_t{resource.type} << 16 | resource.number;
-}
 
 std::uint64_t EncodedSize(const std::vector<ResourceView> &resources)
 {
@@ -96,20 +89,6 @@ Result<std::vector<ResourceView>> DecodeDatabase(std::string_view bytes)
         resources[index] = {BigEndian32At(bytes, entry), BigEndian16At(bytes, entry + 4),
                             bytes.substr(offset, end - offset)};
         end = offset;
-    }
-    return resources;
-}
-
-Result<std::vector<ResourceView>> Sorted(std::vector<ResourceView> resources)
-{
-    std::sort(resources.begin(), resources.end(),
-              [](const auto &left, const auto &right) { return KeyOf(left) < KeyOf(right); });
-    const auto twin = std::adjacent_find(
-        resources.begin(), resources.end(),
-        [](const auto &left, const auto &right) { return KeyOf(left) == KeyOf(right); });
-    if (twin != resources.end()) {
-        return Error{"resource '" + ShownType(twin->type) + "' " + std::to_string(twin->number) +
-                     " is there twice"};
     }
     return resources;
 }

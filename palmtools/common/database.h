@@ -11,6 +11,8 @@
 
 namespace palmtools {
 
+// The layout of a resource database: docs/palm-formats.md, "One layout for both files".
+
 /// What the header of a resource database says; times are seconds as the handheld counts them.
 struct DatabaseHeader {
     std::string name; ///< what goes beyond 31 bytes is cut off
@@ -28,9 +30,5 @@ Result<Bytes> EncodeDatabase(const DatabaseHeader &header,
 /// The resources of a database in the order of its entries; they point into the bytes.
 /// What is wrong with a damaged one is told in the error.
 Result<std::vector<ResourceView>> DecodeDatabase(std::string_view bytes);
-
-/// Puts the resources into the order that a database has, by type and number.
-/// Fails if two have the same type and number.
-Result<std::vector<ResourceView>> Sorted(std::vector<ResourceView> resources);
 
 } // namespace palmtools

@@ -18,6 +18,12 @@ FourBytes FourBytesOf(std::string_view text);
 /// The bytes for a message, without the zero bytes at their end.
 std::string ShownType(FourBytes type);
 
+/// Tells resources apart and orders them as a database does: by type, then by number.
+constexpr std::uint64_t KeyOf(FourBytes type, std::uint16_t number)
+{
+    return std::uint64_t{type} << 16 | number;
+}
+
 /// A resource of a database; no two of one database have the same type and number.
 struct Resource {
     FourBytes type;

@@ -1,10 +1,10 @@
 #include "palmtools/pilrc/pilrc.h"
 
-#include "palmtools/common/database.h"
 #include "palmtools/common/files.h"
 #include "palmtools/common/tool_texts.h"
 #include "palmtools/pilrc/compiler.h"
 #include "palmtools/pilrc/pilrc_call.h"
+#include "palmtools/pilrc/resource_file.h"
 
 #include <exception>
 
@@ -24,9 +24,6 @@ constexpr ToolTexts texts = {
             "  --help     show this help\n"
             "  --version  show the version\n",
 };
-
-// Constant, so that a script gives the same file from run to run.
-constexpr std::uint32_t resourceFileTime = 0xADC0BEA0;
 
 struct Script {
     std::string path;
@@ -63,11 +60,7 @@ void List(const std::vector<Resource> &resources, std::ostream &out)
 std::optional<Error> WriteResourceFile(const std::string &path,
                                        const std::vector<Resource> &resources)
 {
-    const DatabaseHeader header{.name = path,
-                                .time = resourceFileTime,
-                                .type = FourBytesOf("RESO"),
-                                .creator = FourBytesOf("pRES")};
-    const auto bytes = EncodeDatabase(header, ViewsOf(resources));
+    const auto bytes = EncodeResourceFile(path, resources);
     if (!bytes)
         return bytes.error();
     return ReplaceFile(path, *bytes);

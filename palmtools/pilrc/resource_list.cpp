@@ -29,8 +29,7 @@ std::string NameAsRepeated(FourBytes type, std::uint16_t number)
 void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t number,
                          std::uint64_t size)
 {
-    const std::uint64_t key = std::uint64_t{type} << 16 | number;
-    if (!m_known.insert(key).second)
+    if (!m_known.insert(KeyOf(type, number)).second)
         words.Fail(NameAsRepeated(type, number) + " is there twice");
     if (m_known.size() > mostResources)
         words.Fail("the script has more than 65535 resources");

@@ -9,8 +9,9 @@ using ArgumentReader = std::vector<std::string>;
 
 std::string Shown(const BuildPrcCall &call)
 {
-    return call.output + "|" + call.name + "|" + call.type + "|" + call.creator + "|" + call.input +
-           (call.hidden ? "|hidden" : "") + (call.warnsAboutHeader ? "" : "|silent");
+    const auto &[name, type, creator, hidden] = call.identity;
+    return call.output + "|" + name + "|" + type + "|" + creator + "|" + call.input +
+           (hidden ? "|hidden" : "") + (call.warnsAboutHeader ? "" : "|silent");
 }
 
 TEST(BuildPrcCall, IsReadInEitherWay)

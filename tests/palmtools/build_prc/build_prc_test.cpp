@@ -1,7 +1,7 @@
 #include "palmtools/build_prc/build_prc.h"
 
+#include "palmtools/build_prc/database_builder.h"
 #include "palmtools/build_prc/local_zone.h"
-#include "palmtools/common/database.h"
 #include "palmtools/support.h"
 
 #include <gtest/gtest.h>

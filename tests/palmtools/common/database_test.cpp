@@ -118,25 +118,5 @@ TEST(Database, IsReadAtTheLimitsOfItsOffsets)
     EXPECT_EQ(Listed(DecodeDatabase(atEnd)), "ab1=xyz cd2=q ab3= ");
 }
 
-TEST(Database, SortsByTypeAndNumber)
-{
-    const Views views = {{FourBytesOf("tver"), 1, "a"},    {FourBytesOf("tFRM"), 10, "b"},
-                         {FourBytesOf("tFRM"), 9, "c"},    {FourBytesOf("\xE4"), 1, "d"},
-                         {FourBytesOf("flds"), 1000, "e"}, {FourBytesOf("tFRM"), 65535, "f"},
-                         {FourBytesOf("tAIN"), 1000, "g"}, {FourBytesOf("fl"), 2000, "h"}};
-    EXPECT_EQ(Listed(Sorted(views)), "fl2000=h flds1000=e tAIN1000=g tFRM9=c tFRM10=b "
-                                     "tFRM65535=f tver1=a \xE4"
-                                     "1=d ");
-}
-
-TEST(Database, HasEveryResourceOnce)
-{
-    EXPECT_EQ(Listed(Sorted({{1, 5, "a"},
-                             {FourBytesOf("tFRM"), 7, "b"},
-                             {1, 6, "c"},
-                             {FourBytesOf("tFRM"), 7, "d"}})),
-              "resource 'tFRM' 7 is there twice");
-}
-
 } // namespace
 } // namespace palmtools
