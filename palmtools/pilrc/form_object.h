@@ -1,6 +1,6 @@
 #pragma once
 
-#include "palmtools/pilrc/numbers.h"
+#include "palmtools/pilrc/rectangle.h"
 
 #include <cstdint>
 #include <optional>
@@ -45,8 +45,8 @@ struct FormObject {
     std::int64_t group = 0;
     std::int64_t maxChars = 0;
     std::optional<std::int64_t> visibleItems = {};
-    std::int64_t rows = 0;
-    std::int64_t columns = 0;
+    std::uint16_t rows = 0;
+    std::uint16_t columns = 0;
     std::vector<std::int64_t> columnWidths = {};
     std::int64_t value = 0;
     std::int64_t min = 0;

@@ -1,15 +1,11 @@
 #pragma once
 
+#include "palmtools/pilrc/rectangle.h"
 #include "palmtools/pilrc/script_reader.h"
 
 #include <cstdint>
 
 namespace palmtools {
-
-/// Pixels, as they were settled; what is stored is checked where it is read.
-struct Rectangle {
-    std::int64_t x = 0, y = 0, w = 0, h = 0;
-};
 
 /// Reads a number argument: numbers, words such as PREVLEFT, parentheses and operators.
 ///

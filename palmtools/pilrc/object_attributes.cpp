@@ -18,8 +18,7 @@ void ReadFont(ArgumentReader &arguments, FormObject &object)
 void ReadColumnWidths(ArgumentReader &arguments, FormObject &object)
 {
     object.columnWidths.clear();
-    const std::int64_t columns = object.columns & 0xFFFF;
-    for (std::int64_t column = 0; column < columns; ++column)
+    for (int column = 0; column < object.columns; ++column)
         object.columnWidths.push_back(arguments.Field(16));
 }
 
@@ -31,6 +30,12 @@ template <bool FormObject::*flag, bool value> void Set(ArgumentReader &, FormObj
 template <auto FormObject::*number> void Read16(ArgumentReader &arguments, FormObject &object)
 {
     object.*number = arguments.Field(16);
+}
+
+/// A count below zero is stored by its low bits, and means as many.
+template <auto FormObject::*count> void ReadCount(ArgumentReader &arguments, FormObject &object)
+{
+    object.*count = static_cast<std::uint16_t>(arguments.Field(16) & 0xFFFF);
 }
 
 struct Attribute {
@@ -57,8 +62,8 @@ constexpr Attribute attributes[] = {
     {"NUMERIC", numeric, Set<&FormObject::numeric, true>},
     {"MAXCHARS", maxChars, Read16<&FormObject::maxChars>},
     {"VISIBLEITEMS", visibleItems, Read16<&FormObject::visibleItems>},
-    {"ROWS", tableSize, Read16<&FormObject::rows>},
-    {"COLUMNS", tableSize, Read16<&FormObject::columns>},
+    {"ROWS", tableSize, ReadCount<&FormObject::rows>},
+    {"COLUMNS", tableSize, ReadCount<&FormObject::columns>},
     {"COLUMNWIDTHS", tableSize, ReadColumnWidths},
     {"VALUE", scrollRange, Read16<&FormObject::value>},
     {"MIN", scrollRange, Read16<&FormObject::min>},

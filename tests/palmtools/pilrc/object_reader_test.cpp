@@ -282,6 +282,14 @@ TEST(ObjectReader, ReadsAsManyWidthsAsThereAreColumns)
     EXPECT_THROW(Objects(table + "COLUMNS 2 COLUMNWIDTHS 5 ROWS 1").Next(), ScriptError);
 }
 
+TEST(ObjectReader, CountsRowsAndColumnsByTheirLow16Bits)
+{
+    const FormObject table = Objects("TABLE ID 1 AT (1 2 3 4) ROWS (-1) COLUMNS (-32768)").Next();
+    EXPECT_EQ(table.rows, 65535);
+    EXPECT_EQ(table.columns, 32768);
+    EXPECT_EQ(Objects("TABLE ID 1 AT (1 2 3 4) ROWS 65535").Next().rows, 65535);
+}
+
 TEST(ObjectReader, LeavesWhatIsNoObject)
 {
     std::vector<Diagnostic> warnings;
