@@ -1,28 +1,39 @@
 #include "palmtools/pilrc/form_bytes.h"
 
+#include "palmtools/common/record.h"
 #include "palmtools/pilrc/object_bytes.h"
 #include "palmtools/pilrc/resource_list.h"
 
 namespace palmtools {
 namespace {
 
+// The layout is that of docs/palm-formats.md, "Forms".
+
+constexpr std::size_t windowFlagsAt = 8;
+constexpr std::size_t placeAt = 10;
+constexpr std::size_t frameAt = 30;
+constexpr std::size_t numberAt = 40;
+constexpr std::size_t flagsAt = 42;
+constexpr std::size_t objectCountAt = 62;
 constexpr std::size_t headerSize = 68;
+
+constexpr std::size_t entryKindAt = 0;
+constexpr std::size_t entryOffsetAt = 2;
 constexpr std::size_t entrySize = 6;
+
 constexpr int focusableDialog = 0x1200;
+constexpr int usable = 0x8000;
+constexpr int saveBehind = 0x0800;
 
 void AppendHeader(Bytes &bytes, const FormHeader &header, std::size_t objects)
 {
-    AppendZeros(bytes, 8);
-    AppendBigEndian16(bytes, focusableDialog);
-    AppendRectangle(bytes, header.place);
-    AppendZeros(bytes, 12);
-    AppendBigEndian16(bytes, header.frame ? 1 : 0);
-    AppendZeros(bytes, 8);
-    AppendBigEndian16(bytes, header.number);
-    AppendBigEndian16(bytes, (header.usable ? 0x8000 : 0) | (header.saveBehind ? 0x0800 : 0));
-    AppendZeros(bytes, 18);
-    AppendBigEndian16(bytes, static_cast<std::int64_t>(objects));
-    AppendZeros(bytes, 4);
+    Record record(bytes, headerSize);
+    record.Put16(windowFlagsAt, focusableDialog);
+    PutRectangle(record, placeAt, header.place);
+    record.Put16(frameAt, header.frame ? 1 : 0);
+    record.Put16(numberAt, header.number);
+    record.Put16(flagsAt, (header.usable ? usable : 0) | (header.saveBehind ? saveBehind : 0));
+    record.Put16(objectCountAt, static_cast<std::int64_t>(objects));
 }
 
 } // namespace
@@ -49,10 +60,10 @@ Bytes FormBytes::Build(const FormHeader &header) const
     bytes.reserve(Size());
     AppendHeader(bytes, header, m_directory.size());
     const std::size_t firstObject = headerSize + entrySize * m_directory.size();
-    for (const Entry &entry : m_directory) {
-        AppendByte(bytes, entry.kind);
-        AppendByte(bytes, 0);
-        AppendBigEndian32(bytes, static_cast<std::int64_t>(firstObject + entry.offset));
+    for (const Entry &object : m_directory) {
+        Record entry(bytes, entrySize);
+        entry.Put8(entryKindAt, object.kind);
+        entry.Put32(entryOffsetAt, static_cast<std::int64_t>(firstObject + object.offset));
     }
     bytes += m_objects;
     return bytes;

@@ -13,9 +13,7 @@ std::uint8_t DirectoryKind(ObjectKind kind);
 /// Bytes that AppendObject() adds; always even. Found without building anything.
 std::uint64_t ObjectSize(const FormObject &object);
 
-/// Appends the object as it lies in a form.
+/// Appends the object as it lies in a form: docs/palm-formats.md, "The objects of a form".
 void AppendObject(Bytes &bytes, const FormObject &object);
-
-void AppendRectangle(Bytes &bytes, const Rectangle &rectangle);
 
 } // namespace palmtools
