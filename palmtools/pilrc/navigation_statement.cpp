@@ -1,36 +1,51 @@
 #include "palmtools/pilrc/statements.h"
 
+#include "palmtools/common/record.h"
+
 #include <optional>
 #include <utility>
 
 namespace palmtools {
 namespace {
 
+// The layout is that of docs/palm-formats.md, "Navigations".
+
+constexpr std::size_t versionAt = 0;
+constexpr std::size_t itemCountAt = 2;
+constexpr std::size_t headerSizeAt = 4;
+constexpr std::size_t itemSizeAt = 6;
+constexpr std::size_t initialStateAt = 8;
+constexpr std::size_t initialObjectAt = 12;
+constexpr std::size_t headerSize = 20;
+
+constexpr std::size_t itemNumberAt = 0;
+constexpr std::size_t itemAboveAt = 4;
+constexpr std::size_t itemBelowAt = 6;
+constexpr std::size_t itemSize = 8;
+
 constexpr int formatVersion = 1;
-constexpr int headerSize = 20;
-constexpr int itemSize = 8;
 
 struct NavigationHeader {
-    std::optional<std::int64_t> initialState = {};
-    std::int64_t initialObject = 0;
+    std::int64_t initialState = 0, initialObject = 0;
 };
 
 NavigationHeader ReadHeader(ArgumentReader &arguments)
 {
     ScriptReader &words = arguments.words();
-    NavigationHeader header;
+    std::optional<std::int64_t> initialState;
+    std::int64_t initialObject = 0;
     for (;;) {
         if (words.TakeName("INITIALSTATE"))
-            header.initialState = arguments.Field(32);
+            initialState = arguments.Field(32);
         else if (words.TakeName("INITIALOBJECTID"))
-            header.initialObject = arguments.Field(16);
+            initialObject = arguments.Field(16);
         else
             break;
     }
     words.ExpectName("begin");
-    if (!header.initialState)
+    if (!initialState)
         words.Fail("INITIALSTATE is missing");
-    return header;
+    return {*initialState, initialObject};
 }
 
 void AppendItem(Bytes &bytes, ArgumentReader &arguments)
@@ -46,10 +61,21 @@ void AppendItem(Bytes &bytes, ArgumentReader &arguments)
         else
             break;
     }
-    AppendBigEndian16(bytes, number);
-    AppendBigEndian16(bytes, 0);
-    AppendBigEndian16(bytes, above);
-    AppendBigEndian16(bytes, below);
+    Record item(bytes, itemSize);
+    item.Put16(itemNumberAt, number);
+    item.Put16(itemAboveAt, above);
+    item.Put16(itemBelowAt, below);
+}
+
+void AppendHeader(Bytes &bytes, const NavigationHeader &header, std::size_t items)
+{
+    Record record(bytes, headerSize);
+    record.Put16(versionAt, formatVersion);
+    record.Put16(itemCountAt, static_cast<std::int64_t>(items));
+    record.Put16(headerSizeAt, headerSize);
+    record.Put16(itemSizeAt, itemSize);
+    record.Put32(initialStateAt, header.initialState);
+    record.Put16(initialObjectAt, header.initialObject);
 }
 
 } // namespace
@@ -64,13 +90,7 @@ void ReadNavigation(ArgumentReader &arguments, ResourceList &resources)
     while (!arguments.words().TakeName("end"));
 
     Bytes bytes;
-    AppendBigEndian16(bytes, formatVersion);
-    AppendBigEndian16(bytes, static_cast<std::int64_t>(items.size() / itemSize));
-    AppendBigEndian16(bytes, headerSize);
-    AppendBigEndian16(bytes, itemSize);
-    AppendBigEndian32(bytes, *header.initialState);
-    AppendBigEndian16(bytes, header.initialObject);
-    AppendZeros(bytes, 6);
+    AppendHeader(bytes, header, items.size() / itemSize);
     bytes += items;
     resources.Add(arguments.words(), {FourBytesOf("fnav"), number, std::move(bytes)});
 }
