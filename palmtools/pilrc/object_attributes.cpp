@@ -38,13 +38,16 @@ template <auto FormObject::*count> void ReadCount(ArgumentReader &arguments, For
     object.*count = static_cast<std::uint16_t>(arguments.Field(16) & 0xFFFF);
 }
 
-struct Attribute {
+/// A word that tells an attribute, and how it is read.
+struct AttributeWord {
     std::string_view name;
-    AttributeSet set;
+    Attribute attribute;
     void (*read)(ArgumentReader &arguments, FormObject &object);
 };
 
-constexpr Attribute attributes[] = {
+using enum Attribute;
+
+constexpr AttributeWord attributeWords[] = {
     {"USABLE", usable, Set<&FormObject::usable, true>},
     {"NONUSABLE", usable, Set<&FormObject::usable, false>},
     {"FONT", font, ReadFont},
@@ -71,11 +74,11 @@ constexpr Attribute attributes[] = {
     {"PAGESIZE", scrollRange, Read16<&FormObject::pageSize>},
 };
 
-const Attribute *AttributeOf(const Word &word)
+const AttributeWord *AttributeWordOf(const Word &word)
 {
     if (word.kind != WordKind::name)
         return nullptr;
-    for (const Attribute &attribute : attributes) {
+    for (const AttributeWord &attribute : attributeWords) {
         if (EqualIgnoringCase(word.written, attribute.name))
             return &attribute;
     }
@@ -84,14 +87,14 @@ const Attribute *AttributeOf(const Word &word)
 
 } // namespace
 
-void ReadAttributes(ArgumentReader &arguments, unsigned allowed, FormObject &object)
+void ReadAttributes(ArgumentReader &arguments, AttributeSet allowed, FormObject &object)
 {
     ScriptReader &words = arguments.words();
-    while (const Attribute *attribute = AttributeOf(words.Peek())) {
-        if ((allowed & attribute->set) == 0)
+    while (const AttributeWord *word = AttributeWordOf(words.Peek())) {
+        if (!allowed.Has(word->attribute))
             words.Fail(std::string(words.Peek().written) + " does not belong here");
         words.Take();
-        attribute->read(arguments, object);
+        word->read(arguments, object);
     }
 }
 

@@ -1,10 +1,8 @@
 #include "palmtools/pilrc/object_reader.h"
 
 #include "palmtools/common/ascii.h"
-#include "palmtools/pilrc/font_widths.h"
 #include "palmtools/pilrc/object_attributes.h"
-
-#include <algorithm>
+#include "palmtools/pilrc/object_place.h"
 
 namespace palmtools {
 namespace {
@@ -13,43 +11,39 @@ enum class Texts { none, one, any };
 enum class Numbers { none, own, triggerAndList };
 enum class Shape { none, position, rectangle };
 
+/// What a script tells of a kind of object, in this order.
 struct ObjectRule {
     std::string_view name;
     ObjectKind kind;
     Texts texts;
     Numbers numbers;
     Shape shape;
-    unsigned attributes;
-    int margin; ///< pixels that AUTO adds to the width of the text
+    AttributeSet attributes;
 };
 
 using enum ObjectKind;
+using enum Attribute;
+
+constexpr AttributeSet ofField = {usable, font, editable, lines, underlined, numeric, maxChars};
+constexpr AttributeSet ofButton = {usable, font, anchor, frame};
+constexpr AttributeSet ofCheckBox = {usable, font, anchor, group};
+constexpr AttributeSet ofTrigger = {usable, font, anchor};
 
 constexpr ObjectRule objectRules[] = {
-    {"TITLE", title, Texts::one, Numbers::none, Shape::none, noAttributes, 0},
-    {"LABEL", label, Texts::one, Numbers::own, Shape::position, font | usable, 0},
-    {"FIELD", field, Texts::none, Numbers::own, Shape::rectangle,
-     usable | font | editable | lines | underlined | numeric | maxChars, 0},
-    {"BUTTON", button, Texts::one, Numbers::own, Shape::rectangle, usable | font | anchor | frame,
-     12},
-    {"CHECKBOX", checkBox, Texts::one, Numbers::own, Shape::rectangle,
-     usable | font | anchor | group, 18},
-    {"SELECTORTRIGGER", selectorTrigger, Texts::one, Numbers::own, Shape::rectangle,
-     usable | font | anchor, 6},
-    {"POPUPTRIGGER", popupTrigger, Texts::one, Numbers::own, Shape::rectangle,
-     usable | font | anchor, 18},
-    {"LIST", list, Texts::any, Numbers::own, Shape::rectangle, usable | font | visibleItems, 6},
-    {"POPUPLIST", popupList, Texts::none, Numbers::triggerAndList, Shape::none, noAttributes, 0},
-    {"GRAFFITISTATEINDICATOR", graffitiIndicator, Texts::none, Numbers::none, Shape::position,
-     noAttributes, 0},
-    {"GADGET", gadget, Texts::none, Numbers::own, Shape::rectangle, usable, 0},
-    {"TABLE", table, Texts::none, Numbers::own, Shape::rectangle, editable | tableSize, 0},
-    {"SCROLLBAR", scrollBar, Texts::none, Numbers::own, Shape::rectangle, usable | scrollRange, 0},
+    {"TITLE", title, Texts::one, Numbers::none, Shape::none, {}},
+    {"LABEL", label, Texts::one, Numbers::own, Shape::position, {font, usable}},
+    {"FIELD", field, Texts::none, Numbers::own, Shape::rectangle, ofField},
+    {"BUTTON", button, Texts::one, Numbers::own, Shape::rectangle, ofButton},
+    {"CHECKBOX", checkBox, Texts::one, Numbers::own, Shape::rectangle, ofCheckBox},
+    {"SELECTORTRIGGER", selectorTrigger, Texts::one, Numbers::own, Shape::rectangle, ofTrigger},
+    {"POPUPTRIGGER", popupTrigger, Texts::one, Numbers::own, Shape::rectangle, ofTrigger},
+    {"LIST", list, Texts::any, Numbers::own, Shape::rectangle, {usable, font, visibleItems}},
+    {"POPUPLIST", popupList, Texts::none, Numbers::triggerAndList, Shape::none, {}},
+    {"GRAFFITISTATEINDICATOR", graffitiIndicator, Texts::none, Numbers::none, Shape::position, {}},
+    {"GADGET", gadget, Texts::none, Numbers::own, Shape::rectangle, {usable}},
+    {"TABLE", table, Texts::none, Numbers::own, Shape::rectangle, {editable, tableSize}},
+    {"SCROLLBAR", scrollBar, Texts::none, Numbers::own, Shape::rectangle, {usable, scrollRange}},
 };
-
-constexpr std::int64_t listLineHeight = 11;
-constexpr std::int64_t mostLinesShown = 14;
-constexpr std::int64_t greatestListHeight = 160;
 
 const ObjectRule *RuleOf(const Word &word)
 {
@@ -90,33 +84,15 @@ Place ReadPlace(ArgumentReader &arguments, Shape shape)
     }
 }
 
-std::int64_t WidestText(const FormObject &object)
+/// The sizes were fields where they were written; one that was settled may not be.
+void SettlePlace(ArgumentReader &arguments, const Place &place, Shape shape, FormObject &object)
 {
-    std::int64_t widest = 0;
-    for (const std::string_view text : object.texts)
-        widest = std::max(widest, TextWidth(text, object.font));
-    return widest;
-}
-
-std::int64_t ListHeight(const FormObject &object, std::int64_t height)
-{
-    if (object.visibleItems)
-        return std::min(listLineHeight * *object.visibleItems, greatestListHeight);
-    if (height == 0) {
-        const auto items = static_cast<std::int64_t>(object.texts.size());
-        return listLineHeight * std::min(items, mostLinesShown);
+    object.place = SettledPlace(place, object);
+    if (shape == Shape::rectangle) {
+        arguments.CheckedField(object.place.w, 16);
+        arguments.CheckedField(object.place.h, 16);
     }
-    return height;
-}
-
-/// An indicator always has the same size; a label has that of its text.
-Rectangle Settled(const Place &place, const ObjectRule &rule, const FormObject &object)
-{
-    if (rule.kind == graffitiIndicator)
-        return {place.x, place.y, 9, 10};
-    const std::int64_t w = place.w ? *place.w : WidestText(object) + rule.margin;
-    const std::int64_t h = place.h ? *place.h : FontHeight(object.font) + 1;
-    return {place.x, place.y, w, rule.kind == list ? ListHeight(object, h) : h};
+    arguments.SetPrevious(object.place);
 }
 
 } // namespace
@@ -132,16 +108,10 @@ std::optional<FormObject> ReadObject(ArgumentReader &arguments)
     ReadTexts(arguments, rule->texts, object);
     ReadNumbers(arguments, rule->numbers, object);
     const Place place = ReadPlace(arguments, rule->shape);
-    // The font may be told last, so what depends on it is settled here.
     ReadAttributes(arguments, rule->attributes, object);
-    if (rule->shape == Shape::none)
-        return object;
-    object.place = Settled(place, *rule, object);
-    if (rule->shape == Shape::rectangle) {
-        arguments.CheckedField(object.place.w, 16);
-        arguments.CheckedField(object.place.h, 16);
-    }
-    arguments.SetPrevious(object.place);
+    // Not before, since the font, on which open sizes depend, may be told last.
+    if (rule->shape != Shape::none)
+        SettlePlace(arguments, place, rule->shape, object);
     return object;
 }
 
