@@ -21,13 +21,10 @@ constexpr Statement statements[] = {
 
 void ReadStatement(ArgumentReader &arguments, ResourceList &resources)
 {
-    for (const Statement &statement : statements) {
-        if (arguments.words().TakeName(statement.name)) {
-            statement.read(arguments, resources);
-            return;
-        }
-    }
-    arguments.words().FailExpected("statement");
+    const Statement *statement = arguments.words().TakeIn(statements);
+    if (!statement)
+        arguments.words().FailExpected("statement");
+    statement->read(arguments, resources);
 }
 
 std::vector<Resource> ReadScript(ScriptReader &words)

@@ -22,17 +22,6 @@ constexpr FormFlag formFlags[] = {
     {"SAVEBEHIND", &FormHeader::saveBehind, true}, {"NOSAVEBEHIND", &FormHeader::saveBehind, false},
 };
 
-bool TakeFormFlag(ScriptReader &words, FormHeader &header)
-{
-    for (const FormFlag &flag : formFlags) {
-        if (words.TakeName(flag.name)) {
-            header.*flag.flag = flag.value;
-            return true;
-        }
-    }
-    return false;
-}
-
 FormHeader ReadHeader(ArgumentReader &arguments)
 {
     FormHeader header;
@@ -40,8 +29,8 @@ FormHeader ReadHeader(ArgumentReader &arguments)
     const Place place = arguments.PositionAndSize();
     header.place = {place.x, place.y, place.w.value_or(0), place.h.value_or(FontHeight(0) + 1)};
     arguments.SetPrevious(header.place);
-    while (TakeFormFlag(arguments.words(), header)) {
-    }
+    while (const FormFlag *flag = arguments.words().TakeIn(formFlags))
+        header.*flag->flag = flag->value;
     return header;
 }
 

@@ -78,10 +78,8 @@ std::int64_t NumberReader::ReadPart()
     }
     if (m_words.NextIs(WordKind::number))
         return m_words.Take().value;
-    for (const PreviousWord &word : previousWords) {
-        if (m_words.TakeName(word.name))
-            return Checked(word.value(m_previous));
-    }
+    if (const PreviousWord *word = m_words.TakeIn(previousWords))
+        return Checked(word->value(m_previous));
     m_words.FailExpected("number");
 }
 

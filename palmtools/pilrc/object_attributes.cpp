@@ -1,6 +1,5 @@
 #include "palmtools/pilrc/object_attributes.h"
 
-#include "palmtools/common/ascii.h"
 #include "palmtools/pilrc/font_widths.h"
 
 #include <string>
@@ -74,23 +73,12 @@ constexpr AttributeWord attributeWords[] = {
     {"PAGESIZE", scrollRange, Read16<&FormObject::pageSize>},
 };
 
-const AttributeWord *AttributeWordOf(const Word &word)
-{
-    if (word.kind != WordKind::name)
-        return nullptr;
-    for (const AttributeWord &attribute : attributeWords) {
-        if (EqualIgnoringCase(word.written, attribute.name))
-            return &attribute;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 void ReadAttributes(ArgumentReader &arguments, AttributeSet allowed, FormObject &object)
 {
     ScriptReader &words = arguments.words();
-    while (const AttributeWord *word = AttributeWordOf(words.Peek())) {
+    while (const AttributeWord *word = words.NextIn(attributeWords)) {
         if (!allowed.Has(word->attribute))
             words.Fail(std::string(words.Peek().written) + " does not belong here");
         words.Take();

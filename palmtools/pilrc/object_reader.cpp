@@ -1,6 +1,5 @@
 #include "palmtools/pilrc/object_reader.h"
 
-#include "palmtools/common/ascii.h"
 #include "palmtools/pilrc/object_attributes.h"
 #include "palmtools/pilrc/object_place.h"
 
@@ -45,17 +44,6 @@ constexpr ObjectRule objectRules[] = {
     {"SCROLLBAR", scrollBar, Texts::none, Numbers::own, Shape::rectangle, {usable, scrollRange}},
 };
 
-const ObjectRule *RuleOf(const Word &word)
-{
-    if (word.kind != WordKind::name)
-        return nullptr;
-    for (const ObjectRule &rule : objectRules) {
-        if (EqualIgnoringCase(word.written, rule.name))
-            return &rule;
-    }
-    return nullptr;
-}
-
 void ReadTexts(ArgumentReader &arguments, Texts texts, FormObject &object)
 {
     if (texts == Texts::one)
@@ -99,10 +87,9 @@ void SettlePlace(ArgumentReader &arguments, const Place &place, Shape shape, For
 
 std::optional<FormObject> ReadObject(ArgumentReader &arguments)
 {
-    const ObjectRule *rule = RuleOf(arguments.words().Peek());
+    const ObjectRule *rule = arguments.words().TakeIn(objectRules);
     if (!rule)
         return std::nullopt;
-    arguments.words().Take();
 
     FormObject object{.kind = rule->kind};
     ReadTexts(arguments, rule->texts, object);

@@ -1,6 +1,5 @@
 #include "palmtools/pilrc/script_reader.h"
 
-#include "palmtools/common/ascii.h"
 #include "palmtools/common/shown.h"
 
 #include <utility>

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "palmtools/common/ascii.h"
 #include "palmtools/pilrc/words.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +29,11 @@ public:
     bool NextIsName(std::string_view name);
     bool NextIsSign(char sign);
 
+    /// The row of a table that has the next word as its name, or nothing; the case does not count.
+    template <typename Row, std::size_t count> const Row *NextIn(const Row (&table)[count]);
+    /// Likewise, and takes the word if there is such a row.
+    template <typename Row, std::size_t count> const Row *TakeIn(const Row (&table)[count]);
+
     /// Takes the next word if it is this one.
     bool TakeName(std::string_view name);
     bool TakeSign(char sign);
@@ -45,5 +54,25 @@ private:
     Word m_next;
     bool m_hasNext = false;
 };
+
+template <typename Row, std::size_t count>
+const Row *ScriptReader::NextIn(const Row (&table)[count])
+{
+    if (!NextIs(WordKind::name))
+        return nullptr;
+    const auto row = std::ranges::find_if(
+        table, [this](std::string_view name) { return EqualIgnoringCase(m_next.written, name); },
+        &Row::name);
+    return row == std::end(table) ? nullptr : row;
+}
+
+template <typename Row, std::size_t count>
+const Row *ScriptReader::TakeIn(const Row (&table)[count])
+{
+    const Row *row = NextIn(table);
+    if (row)
+        Take();
+    return row;
+}
 
 } // namespace palmtools
