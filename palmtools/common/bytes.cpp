@@ -30,13 +30,6 @@ void AppendZeroEnded(Bytes &bytes, std::string_view text)
     bytes += '\0';
 }
 
-void AppendField(Bytes &bytes, std::string_view text, std::size_t size)
-{
-    const std::string_view kept = text.substr(0, size);
-    bytes += kept;
-    AppendZeros(bytes, size - kept.size());
-}
-
 void PadToEven(Bytes &bytes)
 {
     if (bytes.size() % 2 != 0)

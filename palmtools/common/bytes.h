@@ -21,9 +21,6 @@ void AppendBigEndian32(Bytes &bytes, std::int64_t value);
 /// The text and the zero byte that ends it.
 void AppendZeroEnded(Bytes &bytes, std::string_view text);
 
-/// The first bytes of a text in a field of fixed size, filled up with zero bytes.
-void AppendField(Bytes &bytes, std::string_view text, std::size_t size);
-
 /// Adds a zero byte if the size is odd.
 void PadToEven(Bytes &bytes);
 

@@ -4,13 +4,6 @@
 
 namespace palmtools {
 
-FourBytes FourBytesOf(std::string_view text)
-{
-    Bytes bytes;
-    AppendField(bytes, text, 4);
-    return BigEndian32At(bytes, 0);
-}
-
 std::string ShownType(FourBytes type)
 {
     Bytes bytes;

@@ -13,7 +13,13 @@ namespace palmtools {
 using FourBytes = std::uint32_t;
 
 /// The first four bytes of a text, filled up with zero bytes.
-FourBytes FourBytesOf(std::string_view text);
+constexpr FourBytes FourBytesOf(std::string_view text)
+{
+    FourBytes bytes = 0;
+    for (std::size_t i = 0; i < sizeof bytes; ++i)
+        bytes = bytes << 8 | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0u);
+    return bytes;
+}
 
 /// The bytes for a message, without the zero bytes at their end.
 std::string ShownType(FourBytes type);

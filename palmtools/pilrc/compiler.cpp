@@ -1,6 +1,10 @@
 #include "palmtools/pilrc/compiler.h"
 
-#include "palmtools/pilrc/statements.h"
+#include "palmtools/pilrc/form_statement.h"
+#include "palmtools/pilrc/hex_statement.h"
+#include "palmtools/pilrc/navigation_statement.h"
+#include "palmtools/pilrc/string_table_statement.h"
+#include "palmtools/pilrc/text_statements.h"
 
 namespace palmtools {
 namespace {

@@ -1,6 +1,7 @@
-#include "palmtools/pilrc/statements.h"
+#include "palmtools/pilrc/navigation_statement.h"
 
 #include "palmtools/common/record.h"
+#include "palmtools/pilrc/resource_types.h"
 
 #include <optional>
 #include <utility>
@@ -92,7 +93,7 @@ void ReadNavigation(ArgumentReader &arguments, ResourceList &resources)
     Bytes bytes;
     AppendHeader(bytes, header, items.size() / itemSize);
     bytes += items;
-    resources.Add(arguments.words(), {FourBytesOf("fnav"), number, std::move(bytes)});
+    resources.Add(arguments.words(), {navigationType, number, std::move(bytes)});
 }
 
 } // namespace palmtools

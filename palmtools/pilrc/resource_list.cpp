@@ -1,5 +1,7 @@
 #include "palmtools/pilrc/resource_list.h"
 
+#include "palmtools/pilrc/resource_types.h"
+
 #include <string>
 #include <utility>
 
@@ -17,9 +19,9 @@ std::string NameOf(FourBytes type, std::uint16_t number)
 
 std::string NameAsRepeated(FourBytes type, std::uint16_t number)
 {
-    if (type == FourBytesOf("tFRM"))
+    if (type == formType)
         return "form " + std::to_string(number);
-    if (type == FourBytesOf("tSTL"))
+    if (type == stringTableType)
         return "string table " + std::to_string(number);
     return NameOf(type, number);
 }

@@ -21,26 +21,6 @@ TEST(Bytes, HaveTheHighestByteFirst)
     EXPECT_EQ(BigEndian16At(bytes, 7), 0xFFFE);
 }
 
-TEST(Bytes, FillFields)
-{
-    const struct {
-        const char *what, *text;
-        std::size_t size;
-        const char *bytes;
-    } rows[] = {
-        {"shorter", "ab", 4, "61620000"},
-        {"as long", "abcd", 4, "61626364"},
-        {"longer", "abcde", 4, "61626364"},
-        {"empty", "", 2, "0000"},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        Bytes bytes;
-        AppendField(bytes, row.text, row.size);
-        EXPECT_EQ(bytes, FromHex(row.bytes));
-    }
-}
-
 TEST(Bytes, ArePaddedWhenTheyAreOdd)
 {
     Bytes bytes;

@@ -2,8 +2,11 @@
 
 #include "palmtools/pilrc/compiler.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace palmtools {
 
@@ -18,5 +21,25 @@ inline std::string DiagnosticsOf(std::string_view script)
     }
     return lines;
 }
+
+/// A script and the diagnostics that it must have.
+struct ScriptRow {
+    const char *what;
+    std::string script, diagnostics;
+};
+
+inline void ExpectDiagnostics(const std::vector<ScriptRow> &rows)
+{
+    for (const ScriptRow &row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(DiagnosticsOf(row.script), row.diagnostics);
+        const bool isError = row.diagnostics.find(" error ") != row.diagnostics.npos;
+        EXPECT_EQ(CompileScript(row.script).failed, isError);
+        EXPECT_EQ(CompileScript(row.script).resources.empty(), isError);
+    }
+}
+
+/// How a form begins, on two lines; what follows stands on the third.
+inline const std::string form = "FORM ID 1 AT (0 0 160 160)\nBEGIN\n";
 
 } // namespace palmtools
