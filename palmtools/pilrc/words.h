@@ -1,8 +1,8 @@
 #pragma once
 
 #include "palmtools/pilrc/diagnostics.h"
+#include "palmtools/pilrc/script_cursor.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -24,38 +24,22 @@ struct Word {
 class WordScanner
 {
 public:
-    /// Warnings about comments are added to the list.
-    WordScanner(std::string_view script, std::vector<Diagnostic> &warnings);
+    /// Warnings about comments are added to the list, which must outlive the scanner.
+    WordScanner(std::string_view script, std::vector<Diagnostic> &warnings)
+        : m_cursor(script), m_warnings(warnings)
+    {}
 
     /// The next word; at the end of the script the word end, as often as asked for.
     /// Throws ScriptError where the bytes make no word.
     Word Next();
 
     /// The line of the word that Next() gave, at the end that of the last line.
-    int line() const { return m_wordLine; }
+    int line() const { return m_line; }
 
 private:
-    bool AtEnd() const { return m_position == m_script.size(); }
-    bool StartsHere(std::string_view text) const;
-    bool AtLineEnd() const;
-    void TakeLineEnd();
-    void SkipToWord();
-    void SkipLineComment();
-    void SkipBlockComment();
-    int LastLine() const;
-
-    Word ScanText();
-    Word ScanNumber();
-    Word ScanName();
-    Word WordUpTo(std::size_t end, WordKind kind, std::uint32_t value = 0);
-    [[noreturn]] void FailHere(const std::string &text) const;
-    [[noreturn]] void FailAtZeroByte() const;
-
-    std::string_view m_script;
+    ScriptCursor m_cursor;
     std::vector<Diagnostic> &m_warnings;
-    std::size_t m_position = 0;
     int m_line = 1;
-    int m_wordLine = 1;
 };
 
 } // namespace palmtools

@@ -174,24 +174,5 @@ TEST(Words, SkipComments)
     });
 }
 
-TEST(Words, WarnWhereACommentBeginsInsideAnother)
-{
-    std::vector<Diagnostic> warnings;
-    const std::string_view script = "/*\n/* */\n\n /* */ */";
-    WordScanner(script, warnings).Next();
-    ASSERT_EQ(warnings.size(), 2u);
-    EXPECT_EQ(warnings[0].line, 2);
-    EXPECT_EQ(warnings[1].line, 4);
-    EXPECT_EQ(warnings[1].text, "comment inside a comment");
-    EXPECT_EQ(warnings[1].severity, Severity::warning);
-}
-
-TEST(Words, SurviveDeeplyNestedComments)
-{
-    const std::string deep = Repeated("/*", 100000);
-    EXPECT_EQ(WordsOf(deep), "1 error the comment is not closed");
-    EXPECT_EQ(WordsOf(deep + Repeated("*/", 100000) + "a"), "1 name a\n1 end");
-}
-
 } // namespace
 } // namespace palmtools
