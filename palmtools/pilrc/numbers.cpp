@@ -1,16 +1,13 @@
 #include "palmtools/pilrc/numbers.h"
 
-#include "palmtools/common/ascii.h"
+#include "palmtools/pilrc/arithmetic.h"
 
-#include <cstdlib>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 namespace palmtools {
 namespace {
-
-constexpr std::int64_t largestNumber = 0xFFFFFFFF;
 
 struct PreviousWord {
     std::string_view name;
@@ -28,11 +25,14 @@ constexpr PreviousWord previousWords[] = {
 
 /// What waits for the value that is being read.
 struct Pending {
-    char sign; ///< of an operator; '(' of a parenthesis, '~' of a leading minus
-    std::int64_t left = 0;
+    enum class Kind { parenthesis, leadingMinus, operation };
+
+    Kind kind;
+    const Operator *operation = nullptr;
+    std::int64_t left = 0; ///< of the operation
 };
 
-constexpr char leadingMinus = '~';
+using Kind = Pending::Kind;
 
 class NumberReader
 {
@@ -46,10 +46,7 @@ public:
 private:
     std::int64_t ReadPart();
     std::optional<std::int64_t> Finish(std::int64_t value);
-    std::int64_t Apply(const Pending &operation, std::int64_t right) const;
-    std::int64_t Product(std::int64_t left, std::int64_t right) const;
-    std::int64_t Checked(std::int64_t value) const;
-    bool OperatorIsPending() const;
+    bool IsPending(Kind kind) const { return !m_pending.empty() && m_pending.back().kind == kind; }
 
     ScriptReader &m_words;
     const Rectangle &m_previous;
@@ -70,77 +67,44 @@ std::int64_t NumberReader::ReadPart()
 {
     for (;;) {
         if (m_words.TakeSign('('))
-            m_pending.push_back({'('});
+            m_pending.push_back({Kind::parenthesis});
         else if (m_words.TakeSign('-'))
-            m_pending.push_back({leadingMinus});
+            m_pending.push_back({Kind::leadingMinus});
         else
             break;
     }
     if (m_words.NextIs(WordKind::number))
         return m_words.Take().value;
+    // The place of an object may reach beyond what a number can be.
     if (const PreviousWord *word = m_words.TakeIn(previousWords))
-        return Checked(word->value(m_previous));
+        return CheckedNumber(word->value(m_previous), m_words);
     m_words.FailExpected("number");
 }
 
 /// Puts the value where it was waited for; nothing if an operator follows and wants another part.
+///
+/// An operation waits for one part only, which makes operators apply from left to right. A leading
+/// minus stays until no operator follows, and so takes all that is behind it.
 std::optional<std::int64_t> NumberReader::Finish(std::int64_t value)
 {
     for (;;) {
-        if (OperatorIsPending()) {
-            value = Apply(m_pending.back(), value);
+        if (IsPending(Kind::operation)) {
+            const Pending &pending = m_pending.back();
+            value = pending.operation->apply(pending.left, value, m_words);
             m_pending.pop_back();
         }
-        for (const char sign : {'+', '-', '*', '/'}) {
-            if (m_words.TakeSign(sign)) {
-                m_pending.push_back({sign, value});
-                return std::nullopt;
-            }
+        if (const Operator *operation = TakeOperator(m_words)) {
+            m_pending.push_back({Kind::operation, operation, value});
+            return std::nullopt;
         }
         if (m_pending.empty())
             return value;
-        if (m_pending.back().sign == '(')
+        if (IsPending(Kind::parenthesis))
             m_words.ExpectSign(')');
         else
             value = -value;
         m_pending.pop_back();
     }
-}
-
-std::int64_t NumberReader::Apply(const Pending &operation, std::int64_t right) const
-{
-    switch (operation.sign) {
-    case '+':
-        return Checked(operation.left + right);
-    case '-':
-        return Checked(operation.left - right);
-    case '*':
-        return Product(operation.left, right);
-    default:
-        if (right == 0)
-            m_words.Fail("division by zero");
-        return operation.left / right;
-    }
-}
-
-std::int64_t NumberReader::Product(std::int64_t left, std::int64_t right) const
-{
-    if (left != 0 && std::abs(right) > largestNumber / std::abs(left))
-        m_words.Fail("the number is too large");
-    return left * right;
-}
-
-std::int64_t NumberReader::Checked(std::int64_t value) const
-{
-    if (std::abs(value) > largestNumber)
-        m_words.Fail("the number is too large");
-    return value;
-}
-
-bool NumberReader::OperatorIsPending() const
-{
-    return !m_pending.empty() && m_pending.back().sign != '(' &&
-           m_pending.back().sign != leadingMinus;
 }
 
 } // namespace
