@@ -79,7 +79,7 @@ void ReplaceQuestion(benchmark::State &state)
 {
     Project project = LargestProject();
     project.source.MoveLast();
-    const EditedQuestion edited = {.title = u"Kind"_s,
+    const Question edited = {.title = u"Kind"_s,
                                    .question = u"Which kind?"_s,
                                    .type = u"Pulldown List"_s,
                                    .columnName = u"Kind"_s,
