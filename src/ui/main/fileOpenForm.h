@@ -1,9 +1,10 @@
 #pragma once
 
-#include "ui/main/start_up.h"
+#include "ui/main/start.h"
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 
 namespace vellumo {

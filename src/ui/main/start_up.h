@@ -1,20 +1,11 @@
 #pragma once
 
 #include "ui/common/environment.h"
+#include "ui/main/start.h"
 
-#include <QLatin1StringView>
 #include <QStringList>
 
 namespace vellumo {
-
-inline constexpr QLatin1StringView newProject{"New"};
-inline constexpr QLatin1StringView existingProject{"Existing"};
-
-/// What the main window opens with.
-struct Start {
-    QString choice = newProject; ///< newProject or existingProject
-    QString path = {};           ///< of the project file; empty for a new project
-};
 
 /// The path of the project that a command line names, without the program's own name: all of its
 /// words, joined by blanks. A path without the platform's separator lies in the application folder.
