@@ -7,20 +7,41 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# install_missing PACKAGE...: installs the Debian packages that are not there yet. On a system
-# without apt-get it does nothing; the configuration then says what is missing.
+# installed PACKAGE...: whether one of them is.
+installed() {
+    dpkg-query -W -f '${Status}\n' "$@" 2>/dev/null | grep 'ok installed' >/dev/null
+}
+
+# first_offered PACKAGE...: the first that the system's package sources have. Where they have none,
+# the first of all, so that apt-get tells its name.
+first_offered() {
+    local package
+    for package in "$@"; do
+        if LC_ALL=C apt-cache policy "$package" | grep 'Candidate: [^(]' >/dev/null; then
+            printf '%s\n' "$package"
+            return
+        fi
+    done
+    printf '%s\n' "$1"
+}
+
+# install_missing PACKAGE[|PACKAGE...]...: installs the Debian packages that are not there yet; the
+# releases have some under different names. On a system without apt-get it does nothing; the
+# configuration then says what is missing.
 install_missing() {
     command -v apt-get >/dev/null 2>&1 || return 0
-    local package missing=()
-    for package in "$@"; do
-        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
-            missing+=("$package")
+    local names missing=() packages=()
+    for names in "$@"; do
+        installed ${names//|/ } || missing+=("$names")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
     say "Installing ${missing[*]}"
     as_root apt-get update -q >&2
+    for names in "${missing[@]}"; do
+        packages+=("$(first_offered ${names//|/ })")
+    done
     as_root env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -q --no-install-recommends "${missing[@]}" >&2
+        apt-get install -y -q --no-install-recommends "${packages[@]}" >&2
 }
 
 # quietly COMMAND...: runs a command and shows what it printed only when it failed.
@@ -35,5 +56,6 @@ quietly() {
     rm -f "$log"
 }
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libchm-dev)
-test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl openbox p7zip-full time xdotool xvfb)
+build_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libchm-dev)
+test_packages=(libgtest-dev libbenchmark-dev libpalm-pdb-perl openbox 'p7zip-full|7zip' time xdotool
+    xvfb)
