@@ -1,7 +1,8 @@
 // Renders the handheld's screens as the pictures of the help, since not every viewer of help files
 // knows drawings: render-pictures DRAWINGS PICTURES, two folders. Run it when a drawing changed.
 #include <QGuiApplication>
-#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
 
 #include <iostream>
 
@@ -18,12 +19,14 @@ int main(int argc, char *argv[])
         return 1;
     }
     for (int number = 103; number <= 112; ++number) {
-        QImageReader reader(u"%1/%2.svg"_s.arg(folders[0]).arg(number));
-        reader.setScaledSize({320, 320});
-        const QImage picture = reader.read().convertToFormat(QImage::Format_RGB888);
-        if (picture.isNull() || !picture.save(u"%1/%2.png"_s.arg(folders[1]).arg(number))) {
-            std::cerr << "render-pictures: " << number << ": " << reader.errorString().toStdString()
-                      << '\n';
+        QSvgRenderer drawing(u"%1/%2.svg"_s.arg(folders[0]).arg(number));
+        QImage picture(320, 320, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        drawing.render(&painter);
+        painter.end();
+        picture.convertTo(QImage::Format_RGB888);
+        if (!drawing.isValid() || !picture.save(u"%1/%2.png"_s.arg(folders[1]).arg(number))) {
+            std::cerr << "render-pictures: " << number << " cannot be read or written\n";
             return 1;
         }
     }

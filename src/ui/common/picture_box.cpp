@@ -1,8 +1,8 @@
 #include "ui/common/picture_box.h"
 
-#include <QImageReader>
 #include <QPainter>
 #include <QStyle>
+#include <QSvgRenderer>
 
 namespace vellumo {
 
@@ -56,7 +56,7 @@ void PictureBox::Show(const QIcon &picture, const QString &path)
 {
     m_picture = picture;
     if (ShowsPicture())
-        m_ownSize = QImageReader(path).size();
+        m_ownSize = QSvgRenderer(path).defaultSize();
     updateGeometry();
     update();
 }

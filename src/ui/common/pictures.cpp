@@ -42,7 +42,7 @@ constexpr DrawingFile drawingFiles[] = {
 
 QString PathOf(QStringView name)
 {
-    return u":/pictures/%1.svg"_s.arg(name);
+    return u":/pictures/%1.drawing"_s.arg(name);
 }
 
 const DrawingFile &FileOf(Drawing drawing)

@@ -3,8 +3,11 @@
 #include "support/print.h"
 #include "ui/common/picture_box.h"
 
+#include <QApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -39,17 +42,52 @@ const Drawing buttonDrawings[] = {
     Drawing::Help,
 };
 
-bool IsDrawn(const QIcon &icon, QSize size, qreal ratio)
+/// Takes the plug-ins away before the first picture is asked for; the window system has its own.
+class WithoutPlugIns : public testing::Environment
 {
-    const QPixmap pixmap = icon.pixmap(size, ratio);
+    void SetUp() override { QCoreApplication::setLibraryPaths({}); }
+};
+
+const auto *const withoutPlugIns = testing::AddGlobalTestEnvironment(new WithoutPlugIns);
+
+std::set<QRgb> ColoursOf(const QPixmap &pixmap)
+{
     const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
-    if (image.size() != size * ratio)
-        return false;
     std::set<QRgb> colours;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             colours.insert(image.pixel(x, y));
-    return colours.size() > 3;
+    return colours;
+}
+
+bool IsDrawn(const QIcon &icon, QSize size, qreal ratio)
+{
+    const QPixmap pixmap = icon.pixmap(size, ratio);
+    return pixmap.size() == size * ratio && ColoursOf(pixmap).size() > 3;
+}
+
+QByteArray Contents(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+/// What the pattern's first group matches in the file, each once.
+std::set<QString> FindAll(const QString &pattern, const QString &path)
+{
+    const QRegularExpression expression(pattern);
+    std::set<QString> found;
+    for (const auto &match : expression.globalMatch(QString::fromUtf8(Contents(path))))
+        found.insert(match.captured(1));
+    return found;
+}
+
+std::set<QString> ColoursInFile(const QString &path)
+{
+    auto colours = FindAll(u"(?:fill|stroke)=\"(#[0-9a-f]{6})\""_s, path);
+    EXPECT_FALSE(colours.empty()) << path.toStdString();
+    return colours;
 }
 
 double Luminance(QColor colour)
@@ -86,11 +124,8 @@ TEST(Pictures, AreDrawnInEverySize)
 TEST(Pictures, OfTheTypesDiffer)
 {
     std::set<QByteArray> screens;
-    for (int number = 103; number <= 112; ++number) {
-        QFile file(PicturePath(number));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        screens.insert(file.readAll());
-    }
+    for (int number = 103; number <= 112; ++number)
+        screens.insert(Contents(PicturePath(number)));
     EXPECT_EQ(screens.size(), 10u);
 }
 
@@ -102,9 +137,18 @@ TEST(Pictures, HaveNoneForOtherNumbers)
     }
 }
 
-TEST(Pictures, OfStepsDifferWhereTheyAreOff)
+TEST(Pictures, OfStepsHaveTheirOwnWhereTheyAreOff)
 {
     for (const Drawing drawing : {Drawing::StepBack, Drawing::StepNext}) {
+        const QIcon own(PicturePath(drawing).replace(u".drawing"_s, u"_disabled.drawing"_s));
+        EXPECT_EQ(Picture(drawing).pixmap(24, QIcon::Disabled).toImage(), own.pixmap(24).toImage());
+    }
+}
+
+TEST(Pictures, OfButtonsDifferWhereTheyAreOff)
+{
+    for (const Drawing drawing : buttonDrawings) {
+        SCOPED_TRACE(PicturePath(drawing).toStdString());
         const QIcon icon = Picture(drawing);
         EXPECT_NE(icon.pixmap(24, QIcon::Normal).toImage(),
                   icon.pixmap(24, QIcon::Disabled).toImage());
@@ -113,21 +157,43 @@ TEST(Pictures, OfStepsDifferWhereTheyAreOff)
 
 TEST(Pictures, OfButtonsStandOutOnLightAndDark)
 {
-    const QRegularExpression colour(u"(?:fill|stroke)=\"(#[0-9a-f]{6})\""_s);
     for (const Drawing drawing : buttonDrawings) {
         SCOPED_TRACE(PicturePath(drawing).toStdString());
-        QFile file(PicturePath(drawing));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        auto found = colour.globalMatch(QString::fromUtf8(file.readAll()));
-        ASSERT_TRUE(found.hasNext());
-        while (found.hasNext()) {
-            const QColor drawn(found.next().captured(1));
+        for (const QString &name : ColoursInFile(PicturePath(drawing))) {
+            const QColor drawn(name);
             if (drawn == QColor(Qt::white))
                 continue; // lies on a coloured ground of its own
             EXPECT_GE(Contrast(drawn, QColor(0xef, 0xef, 0xef)), 3.0);
             EXPECT_GE(Contrast(drawn, QColor(0x2b, 0x2b, 0x2b)), 3.0);
         }
     }
+}
+
+TEST(Pictures, HaveAllTheirColoursWithoutAPlugIn)
+{
+    ASSERT_FALSE(QImageReader::supportedImageFormats().contains("svg"));
+    QDirIterator drawings(u":/pictures"_s);
+    ASSERT_TRUE(drawings.hasNext());
+    while (drawings.hasNext()) {
+        const QString path = drawings.next();
+        SCOPED_TRACE(path.toStdString());
+        // Large enough that the thinnest outline covers whole pixels.
+        const std::set<QRgb> drawn = ColoursOf(QIcon(path).pixmap(640, 640));
+        for (const QString &colour : ColoursInFile(path))
+            EXPECT_TRUE(drawn.contains(QColor(colour).rgba())) << colour.toStdString();
+    }
+}
+
+TEST(Pictures, OfWindowFilesAreThere)
+{
+    QDirIterator files(QStringLiteral(WINDOW_FILES), {u"*.ui"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    std::set<QString> named;
+    while (files.hasNext())
+        named.merge(FindAll(u"(:/pictures/[^<]*)"_s, files.next()));
+    EXPECT_GT(named.size(), 10u);
+    for (const QString &path : named)
+        EXPECT_TRUE(IsDrawn(QIcon(path), {24, 24}, 1)) << path.toStdString();
 }
 
 TEST(PictureBox, ShowsAPictureAndForgetsIt)
