@@ -18,6 +18,9 @@ protected:
         QDir(m_folder.path()).mkdir(u"tools"_s);
     }
 
+    // The folder goes away with the test, and the next one makes its own in the system's.
+    ~CreateCommand() override { qputenv("TMPDIR", m_systemTemporary); }
+
     /// Uses the named fake in place of both tools.
     void UseTools(const QByteArray &pilrc, const QByteArray &buildPrc)
     {
@@ -55,6 +58,7 @@ protected:
     QStringList Made() const { return NamesIn(InFolder(u"out"_s)); }
     QStringList LeftBehind() const { return NamesIn(m_temporary.path()); }
 
+    const QByteArray m_systemTemporary = qgetenv("TMPDIR");
     QTemporaryDir m_temporary;
 };
 
