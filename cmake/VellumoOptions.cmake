@@ -1,6 +1,8 @@
 # What every target of the project is compiled with; targets link vellumo_options for it.
 add_library(vellumo_options INTERFACE)
 target_compile_features(vellumo_options INTERFACE cxx_std_20)
+# What a later Qt calls outdated need have no successor in 6.4.
+target_compile_definitions(vellumo_options INTERFACE QT_WARN_DEPRECATED_UP_TO=0x060400)
 set(CMAKE_CXX_EXTENSIONS OFF)
 
 if(MSVC)
