@@ -4,7 +4,7 @@
 #include "model/form_fields.h"
 #include "model/project_format.h"
 #include "model/project_reader.h"
-#include "readback/describe.h"
+#include "readback/summary.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

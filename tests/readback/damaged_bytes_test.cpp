@@ -1,7 +1,7 @@
 // Databases with bytes changed or missing: nothing of that may crash, and what can be noticed is.
 
-#include "readback/describe.h"
 #include "readback/findings.h"
+#include "readback/summary.h"
 
 #include <random>
 #include <set>

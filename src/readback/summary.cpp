@@ -1,4 +1,4 @@
-#include "readback/describe.h"
+#include "readback/summary.h"
 
 #include "model/question_types.h"
 #include "platform/code_page.h"

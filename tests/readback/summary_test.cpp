@@ -1,4 +1,4 @@
-#include "readback/describe.h"
+#include "readback/summary.h"
 
 #include "readback/databases.h"
 #include "readback/projects.h"
@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
-TEST(Describe, TellsWhatIsInADatabase)
+TEST(Summary, TellsWhatIsInADatabase)
 {
     const DatabaseSummary summary = Summarize(Read(Golden(u"tentypes"_s)));
     EXPECT_EQ(summary.name, u"tentypes"_s);
@@ -25,14 +25,14 @@ TEST(Describe, TellsWhatIsInADatabase)
     EXPECT_EQ(summary.titles.value(4), u"Start"_s);
 }
 
-TEST(Describe, TakesTextsForWindows1252)
+TEST(Summary, TakesTextsForWindows1252)
 {
     const DatabaseSummary summary = Summarize(Read(Golden(u"latin1"_s)));
     EXPECT_EQ(summary.titles.value(2), u"Stra\u00DFe"_s);
     EXPECT_EQ(summary.columnNames.value(0), u"PR\u00C9NOM"_s);
 }
 
-TEST(Describe, LeavesOutWhatCannotBeRead)
+TEST(Summary, LeavesOutWhatCannotBeRead)
 {
     const PalmDatabase foreign = {.name = "x",
                                   .type = "appl",
