@@ -2,6 +2,7 @@
 
 #include "cli/inputs.h"
 #include "readback/database_check.h"
+#include "readback/soundness_check.h"
 #include "validation/project_review.h"
 
 using namespace Qt::StringLiterals;
@@ -60,7 +61,7 @@ Exit VerifyDatabase(const CommandLine &line, const Console &console)
     if (!database)
         return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
     if (line.inputs.size() == 1)
-        return TellFindings(CheckDatabase(*database), InputName(input), console);
+        return TellFindings(CheckSoundness(*database), InputName(input), console);
 
     Result<Project> project = ReadProjectInput(line.inputs[1], console);
     if (!project)

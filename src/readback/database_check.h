@@ -15,8 +15,4 @@ namespace vellumo {
 /// least that it can be.
 QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project);
 
-/// Checks a database by itself: whether it is of the kind that we make, every resource of it can be
-/// decoded, and all of them tell the same number of questions.
-QList<Finding> CheckDatabase(const PalmDatabase &database);
-
 } // namespace vellumo

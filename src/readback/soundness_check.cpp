@@ -1,4 +1,5 @@
-#include "readback/database_check.h"
+#include "readback/soundness_check.h"
+
 #include "readback/form_reader.h"
 #include "readback/navigation_reader.h"
 #include "readback/shown_text.h"
@@ -100,7 +101,7 @@ void CheckKind(QByteArrayView found, QByteArrayView expected, QLatin1StringView 
 
 } // namespace
 
-QList<Finding> CheckDatabase(const PalmDatabase &database)
+QList<Finding> CheckSoundness(const PalmDatabase &database)
 {
     QList<Finding> findings;
     CheckKind(database.type, "kelp", "database-type"_L1, "database type"_L1, findings);

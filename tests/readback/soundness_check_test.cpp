@@ -1,3 +1,5 @@
+#include "readback/soundness_check.h"
+
 #include "readback/findings.h"
 
 using namespace Qt::StringLiterals;
@@ -7,7 +9,7 @@ namespace {
 
 QStringList SoundnessOf(const QByteArray &bytes)
 {
-    return Lines(CheckDatabase(Read(bytes)));
+    return Lines(CheckSoundness(Read(bytes)));
 }
 
 /// The ten-types database with other data in one resource.

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "readback/finding.h"
+#include "readback/palm_database.h"
+
+#include <QList>
+
+namespace vellumo {
+
+/// Checks a database by itself: whether it is of the kind that we make, every resource of it can be
+/// decoded, and all of them tell the same number of questions. Empty when nothing is wrong.
+QList<Finding> CheckSoundness(const PalmDatabase &database);
+
+} // namespace vellumo
