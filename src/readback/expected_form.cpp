@@ -22,7 +22,7 @@ constexpr quint32 leastListWidth = 6;
 constexpr quint32 boldFont = 1;
 constexpr quint32 symbolFont = 3;
 
-enum Style : quint32 { Button = 0, CheckBox = 2, PopupTrigger = 3, SelectorTrigger = 4 };
+using enum ControlStyle;
 
 struct Rectangle {
     quint32 x, y, width, height;
@@ -59,11 +59,11 @@ FormObject Field(quint32 number, Rectangle place, quint32 flags, quint32 maxChar
     return field;
 }
 
-FormObject Control(Style style, quint32 number, Rectangle place, quint32 flags,
+FormObject Control(ControlStyle style, quint32 number, Rectangle place, quint32 flags,
                    const QByteArray &text)
 {
     FormObject control = Placed(ObjectKind::Control, number, place, flags);
-    control.style = style;
+    control.style = quint32(style);
     control.text = text;
     control.group = style == CheckBox ? 1 : 0;
     return control;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "readback/delivered_texts.h"
-#include "readback/form_reader.h"
+#include "readback/form.h"
 #include "readback/navigation_reader.h"
 
 namespace vellumo {

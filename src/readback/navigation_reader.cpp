@@ -1,39 +1,46 @@
 #include "readback/navigation_reader.h"
 
-#include "readback/parts.h"
+#include "readback/record_layout.h"
 
 namespace vellumo {
 namespace {
 
-constexpr quint32 version = 1;
-constexpr quint32 headerSize = 20;
-constexpr quint32 itemSize = 8;
+/// The header of a navigation, which its items follow.
+struct NavigationRecord : Navigation {
+    quint32 itemCount = 0;
+};
 
-constexpr Part<Navigation> headerParts[] = {
-    {2, nullptr, headerSize},
-    {2, nullptr, itemSize},
-    {4, &Navigation::initialState},
-    {2, &Navigation::initialObject},
-    {6},
+constexpr quint32 version = 1;
+constexpr qsizetype headerSize = 20;
+constexpr qsizetype itemSize = 8;
+
+// A navigation tells the sizes of its own records; no other than these are known.
+constexpr StoredNumber<NavigationRecord> headerNumbers[] = {
+    {0, 2, nullptr, version},
+    {2, 2, &NavigationRecord::itemCount},
+    {4, 2, nullptr, headerSize},
+    {6, 2, nullptr, itemSize},
+    {8, 4, &NavigationRecord::initialState},
+    {12, 2, &NavigationRecord::initialObject},
 };
-constexpr Part<NavigationItem> itemParts[] = {
-    {2, &NavigationItem::number},
-    {2},
-    {2, &NavigationItem::above},
-    {2, &NavigationItem::below},
+constexpr RecordLayout<NavigationRecord> headerLayout(headerSize, headerNumbers);
+
+constexpr StoredNumber<NavigationItem> itemNumbers[] = {
+    {0, 2, &NavigationItem::number},
+    {4, 2, &NavigationItem::above},
+    {6, 2, &NavigationItem::below},
 };
+constexpr RecordLayout<NavigationItem> itemLayout(itemSize, itemNumbers);
 
 } // namespace
 
 Result<Navigation> ReadNavigation(const QByteArray &resource)
 {
     ByteReader reader(resource);
-    Navigation navigation;
-    reader.PassNumber(2, version);
-    const quint32 count = reader.TakeNumber(2);
-    TakeParts<Navigation>(reader, headerParts, navigation);
-    for (quint32 i = 0; i < count && !reader.Failed(); ++i)
-        TakeParts<NavigationItem>(reader, itemParts, navigation.items.emplaceBack());
+    NavigationRecord navigation;
+    headerLayout.Take(reader, navigation);
+    for (quint32 i = 0; i < navigation.itemCount && !reader.Failed(); ++i)
+        itemLayout.Take(reader, navigation.items.emplaceBack());
     reader.PassEnd();
     if (reader.Failed())
         return Error{reader.Fault()};

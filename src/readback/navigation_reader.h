@@ -25,7 +25,8 @@ struct Navigation {
     bool operator==(const Navigation &) const = default;
 };
 
-/// Decodes the navigation of a form ('fnav') to its last byte. Fails as ReadForm does.
+/// Decodes the navigation of a form ('fnav'; docs/palm-formats.md, "Navigation") to its last byte.
+/// Fails as ReadForm does.
 Result<Navigation> ReadNavigation(const QByteArray &resource);
 
 } // namespace vellumo

@@ -1,6 +1,7 @@
 #include "readback/question_check.h"
 
 #include "readback/expected_form.h"
+#include "readback/form_reader.h"
 #include "readback/shown_text.h"
 
 #include <algorithm>
