@@ -18,6 +18,13 @@ struct Finding {
 Finding OtherText(QLatin1StringView code, const TextPlace &place, QByteArrayView found,
                   QByteArrayView expected);
 
+/// The finding that a list has another number of entries than there are questions.
+Finding OtherLength(QLatin1StringView code, const TextPlace &place, qsizetype found,
+                    qsizetype expected);
+
+/// The finding "resource-missing" for what the described resource should hold.
+Finding MissingResource(const TextPlace &place, const QString &resource);
+
 /// The finding "resource-damaged" for a resource that cannot be decoded; the damage goes on after
 /// "... is damaged: ".
 Finding DamagedResource(const TextPlace &place, const QString &damage);

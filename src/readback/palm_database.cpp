@@ -11,16 +11,13 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+// docs/palm-formats.md, "One layout for both files".
 constexpr qsizetype nameSize = 32;
+constexpr qsizetype typeSize = 4;     // of database, creator and resources
+constexpr qsizetype noTimesSize = 16; // backup time, changes, application's and sorting information
+constexpr qsizetype noListSize = 8;   // seed of numbers, next list of entries
 constexpr qsizetype gapSize = 2;
 constexpr qsizetype largestResource = 65535;
-constexpr quint32 resourceAttribute = 0x0001;
-
-/// What resources are ordered by: bytes of the type as unsigned values, then the number.
-std::pair<QByteArrayView, quint32> KeyOf(const PalmResource &resource)
-{
-    return {resource.type, resource.number};
-}
 
 QByteArray TakeName(ByteReader &reader)
 {
@@ -37,15 +34,15 @@ void TakeHeader(ByteReader &reader, PalmDatabase &database)
 {
     database.name = TakeName(reader);
     database.attributes = reader.TakeNumber(2);
-    if ((database.attributes & resourceAttribute) == 0)
+    if ((database.attributes & DatabaseAttribute::resources) == 0)
         reader.Refuse(u"it is not marked as one of resources"_s);
     database.version = reader.TakeNumber(2);
     database.created = reader.TakeNumber(4);
     database.modified = reader.TakeNumber(4);
-    reader.PassZeros(16);
-    database.type = reader.Take(4).toByteArray();
-    database.creator = reader.Take(4).toByteArray();
-    reader.PassZeros(8);
+    reader.PassZeros(noTimesSize);
+    database.type = reader.Take(typeSize).toByteArray();
+    database.creator = reader.Take(typeSize).toByteArray();
+    reader.PassZeros(noListSize);
 }
 
 /// Takes the entries and gives where each one's data begin; the resources have no data yet.
@@ -54,7 +51,7 @@ QList<qsizetype> TakeEntries(ByteReader &reader, PalmDatabase &database)
     QList<qsizetype> offsets;
     const quint32 count = reader.TakeNumber(2);
     for (quint32 i = 0; i < count && !reader.Failed(); ++i) {
-        PalmResource resource{reader.Take(4).toByteArray()};
+        PalmResource resource{reader.Take(typeSize).toByteArray()};
         resource.number = reader.TakeNumber(2);
         offsets.append(reader.TakeNumber(4));
         database.resources.append(resource);
@@ -63,15 +60,21 @@ QList<qsizetype> TakeEntries(ByteReader &reader, PalmDatabase &database)
     return offsets;
 }
 
+/// Resources are ordered by the bytes of their type as unsigned values, then by number.
 void CheckOrder(ByteReader &reader, const QList<PalmResource> &resources)
 {
+    const auto rank = [](const PalmResource &resource) {
+        return std::pair(QByteArrayView(resource.type), resource.number);
+    };
     const auto wrong = std::ranges::adjacent_find(
-        resources, [](const auto &one, const auto &next) { return KeyOf(one) >= KeyOf(next); });
+        resources, [rank](const auto &one, const auto &next) { return rank(one) >= rank(next); });
     if (wrong != resources.end())
-        reader.Refuse(u"resource %1 stands after %2"_s.arg(Describe(wrong[1]), Describe(wrong[0])));
+        reader.Refuse(u"resource %1 stands after %2"_s.arg(Describe(wrong[1].Key()),
+                                                           Describe(wrong[0].Key())));
 }
 
-/// Each resource reaches from its own offset to that of the next one.
+/// Each resource reaches from its own offset to that of the next one: sizes are not stored. As
+/// there are no gaps either, each offset is known before it is read.
 void SliceData(ByteReader &reader, PalmDatabase &database, const QList<qsizetype> &offsets)
 {
     for (qsizetype i = 0; i < offsets.size() && !reader.Failed(); ++i) {
@@ -79,10 +82,10 @@ void SliceData(ByteReader &reader, PalmDatabase &database, const QList<qsizetype
         const qsizetype end = i + 1 < offsets.size() ? offsets[i + 1] : database.size;
         if (offsets[i] != reader.Offset() || end < offsets[i] || end > database.size)
             reader.Refuse(u"resource %1 cannot reach from byte %2 to byte %3"_s.arg(
-                Describe(resource), QString::number(offsets[i]), QString::number(end)));
+                Describe(resource.Key()), QString::number(offsets[i]), QString::number(end)));
         else if (end - offsets[i] > largestResource)
             reader.Refuse(u"resource %1 has %2 bytes, more than %3"_s.arg(
-                Describe(resource), QString::number(end - offsets[i]),
+                Describe(resource.Key()), QString::number(end - offsets[i]),
                 QString::number(largestResource)));
         else
             resource.data = reader.Take(end - offsets[i]).toByteArray();
@@ -91,16 +94,9 @@ void SliceData(ByteReader &reader, PalmDatabase &database, const QList<qsizetype
 
 } // namespace
 
-const PalmResource *PalmDatabase::Find(QByteArrayView resourceType, quint32 number) const
+QString Describe(const ResourceKey &key)
 {
-    const std::pair wanted(resourceType, number);
-    const auto found = std::ranges::lower_bound(resources, wanted, {}, KeyOf);
-    return found != resources.end() && KeyOf(*found) == wanted ? &*found : nullptr;
-}
-
-QString Describe(const PalmResource &resource)
-{
-    return u"%1 %2"_s.arg(Shown(resource.type), QString::number(resource.number));
+    return u"%1 %2"_s.arg(Shown(key.type), QString::number(key.number));
 }
 
 Result<PalmDatabase> ReadDatabase(const QByteArray &bytes)

@@ -10,34 +10,45 @@ namespace vellumo {
 /// Of files that are read as databases.
 inline constexpr FileLimit databaseLimit = {16 * 1024 * 1024, QLatin1StringView("database")};
 
+/// What tells one resource of a database from another.
+struct ResourceKey {
+    QByteArrayView type; ///< 4 bytes
+    quint32 number;
+};
+
 struct PalmResource {
     QByteArray type; ///< 4 bytes
     quint32 number = 0;
     QByteArray data = {};
+
+    ResourceKey Key() const { return {type, number}; }
 };
+
+namespace DatabaseAttribute {
+inline constexpr quint32 resources = 0x0001;
+inline constexpr quint32 hidden = 0x0100;
+} // namespace DatabaseAttribute
 
 /// A database of resources as it is sent to a handheld.
 struct PalmDatabase {
-    QByteArray name; ///< in windows-1252, like every text of a database
-    QByteArray type; ///< 4 bytes, as the creator
-    QByteArray creator;
-    quint32 attributes = 0;
+    QByteArray name = {}; ///< in windows-1252, like every text of a database
+    QByteArray type = {}; ///< 4 bytes, as the creator
+    QByteArray creator = {};
+    quint32 attributes = 0; ///< DatabaseAttribute
     quint32 version = 0;
     quint32 created = 0; ///< seconds since 1904 on the clock of the place, as the next one
     quint32 modified = 0;
     QList<PalmResource> resources = {}; ///< by type, then number; no two the same
     qsizetype size = 0;                 ///< bytes of the whole file
-
-    /// Null where there is none.
-    const PalmResource *Find(QByteArrayView resourceType, quint32 number) const;
 };
 
 /// A resource for a message: 'tFRM' 3.
-QString Describe(const PalmResource &resource);
+QString Describe(const ResourceKey &key);
 
-/// Reads a database whole. Fails, with one sentence, at the first thing that the layout does not
-/// allow: an offset outside of the file or out of order, resources not in their order, a resource
-/// larger than a handheld takes, a field or gap that is not zero. Any bytes may be given.
+/// Reads a database whole (docs/palm-formats.md, "One layout for both files"). Fails, with one
+/// sentence, at the first thing that the layout does not allow: an offset outside of the file or
+/// out of order, resources not in their order, a resource larger than a handheld takes, a field or
+/// gap that is not zero. Any bytes may be given.
 ///
 /// The last resource reaches to the end of the file, so that bytes too many or too few there can
 /// only be told from its content.

@@ -35,6 +35,16 @@ inline PalmDatabase Read(const QByteArray &bytes)
     return {};
 }
 
+/// The data of a resource that a database has.
+inline QByteArray DataOf(const PalmDatabase &database, QByteArrayView type, quint32 number)
+{
+    for (const PalmResource &resource : database.resources)
+        if (resource.type == type && resource.number == number)
+            return resource.data;
+    ADD_FAILURE() << "no resource " << Describe(ResourceKey{type, number}).toStdString();
+    return {};
+}
+
 /// Bytes with a big-endian number put over those at an offset.
 inline QByteArray WithNumber(QByteArray bytes, qsizetype offset, qsizetype size, quint32 number)
 {

@@ -11,10 +11,7 @@ constexpr qsizetype firstEntry = 68;
 
 QByteArray FormBytes(const QString &database, quint32 number = 1)
 {
-    const PalmDatabase read = Read(Golden(database));
-    const PalmResource *form = read.Find("tFRM", number);
-    EXPECT_NE(form, nullptr);
-    return form ? form->data : QByteArray();
+    return DataOf(Read(Golden(database)), "tFRM", number);
 }
 
 Form ReadOk(const QByteArray &resource)
@@ -54,7 +51,7 @@ TEST(FormReader, DecodesEveryGoldenFormToItsLastByte)
         for (const PalmResource &resource : database.resources) {
             if (resource.type != "tFRM")
                 continue;
-            SCOPED_TRACE((name + u' ' + Describe(resource)).toStdString());
+            SCOPED_TRACE((name + u' ' + Describe(resource.Key())).toStdString());
             EXPECT_EQ(RefusalOf(resource.data), u"read"_s);
             EXPECT_NE(RefusalOf(resource.data + '\0'), u"read"_s);
             EXPECT_NE(RefusalOf(resource.data.chopped(1)), u"read"_s);

@@ -45,22 +45,18 @@ TEST(PalmDatabase, ReadsEveryValue)
     EXPECT_EQ(database.attributes, 0x0101u);
     EXPECT_EQ(database.version, 1u);
     ASSERT_EQ(database.resources.size(), 11);
-    EXPECT_EQ(Describe(database.resources.first()), u"'desc' 1003"_s);
+    EXPECT_EQ(Describe(database.resources.first().Key()), u"'desc' 1003"_s);
     EXPECT_EQ(database.resources.first().data, QByteArray("One question\0", 13));
-    EXPECT_EQ(Describe(database.resources.last()), u"'tver' 1"_s);
+    EXPECT_EQ(Describe(database.resources.last().Key()), u"'tver' 1"_s);
     EXPECT_EQ(database.resources.last().data, QByteArray("1.0\0", 4));
 
-    ASSERT_NE(database.Find("tFRM", 1), nullptr);
-    EXPECT_EQ(database.Find("tFRM", 1)->data.size(), 382);
-    EXPECT_EQ(database.Find("tFRM", 2), nullptr);
-    EXPECT_EQ(database.Find("TFRM", 1), nullptr);
+    EXPECT_EQ(DataOf(database, "tFRM", 1).size(), 382);
 }
 
 TEST(PalmDatabase, DescribesAResource)
 {
-    EXPECT_EQ(Describe(PalmResource{"%2%1", 7}), u"'%2%1' 7"_s);
-    EXPECT_EQ(Describe(PalmResource{QByteArray("\x1B[\0\xE9", 4), 65535}),
-              u"'\\x1b[\\x00\u00E9' 65535"_s);
+    EXPECT_EQ(Describe(ResourceKey{"%2%1", 7}), u"'%2%1' 7"_s);
+    EXPECT_EQ(Describe(ResourceKey{{"\x1B[\0\xE9", 4}, 65535}), u"'\\x1b[\\x00\u00E9' 65535"_s);
 }
 
 TEST(PalmDatabase, ReadsTheTimesAsWritten)

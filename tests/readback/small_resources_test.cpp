@@ -18,7 +18,7 @@ template <typename T> QString RefusalOf(const Result<T> &read)
 TEST(Navigation, ReadsTheItems)
 {
     const PalmDatabase database = Read(Golden(u"yesno"_s));
-    const Result<Navigation> read = ReadNavigation(database.Find("fnav", 1)->data);
+    const Result<Navigation> read = ReadNavigation(DataOf(database, "fnav", 1));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->initialState, 1u);
     EXPECT_EQ(read->initialObject, 2u);
@@ -29,7 +29,7 @@ TEST(Navigation, ReadsTheItems)
 
 TEST(Navigation, RefusesWhatDoesNotAddUp)
 {
-    const QByteArray text = Read(Golden(u"text"_s)).Find("fnav", 1)->data;
+    const QByteArray text = DataOf(Read(Golden(u"text"_s)), "fnav", 1);
     ASSERT_EQ(text.size(), 52);
     const struct {
         const char *what;

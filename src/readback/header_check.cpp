@@ -1,0 +1,49 @@
+#include "readback/header_check.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+// build-prc is told to hide it: it is nothing that a user starts.
+constexpr quint32 expectedAttributes = DatabaseAttribute::resources | DatabaseAttribute::hidden;
+constexpr quint32 expectedVersion = 1;
+
+void CheckText(QLatin1StringView code, QLatin1StringView field, QByteArrayView found,
+               QByteArrayView expected, QList<Finding> &findings)
+{
+    if (found != expected)
+        findings.append(OtherText(code, {field}, found, expected));
+}
+
+void CheckNumber(QLatin1StringView code, QLatin1StringView field, quint32 found, quint32 expected,
+                 QList<Finding> &findings)
+{
+    if (found != expected)
+        findings.append({code,
+                         {field},
+                         u"The %1: 0x%2 instead of 0x%3."_s.arg(field)
+                             .arg(found, 4, 16, QChar(u'0'))
+                             .arg(expected, 4, 16, QChar(u'0'))});
+}
+
+} // namespace
+
+void CheckKind(const PalmDatabase &database, QList<Finding> &findings)
+{
+    CheckText("database-type"_L1, "database type"_L1, database.type, "kelp", findings);
+    CheckText("database-creator"_L1, "database creator"_L1, database.creator, "Wmpt", findings);
+}
+
+void CheckHeader(const PalmDatabase &database, const QByteArray &expectedName,
+                 QList<Finding> &findings)
+{
+    CheckText("database-name"_L1, "database name"_L1, database.name, expectedName, findings);
+    CheckKind(database, findings);
+    CheckNumber("database-attributes"_L1, "database attributes"_L1, database.attributes,
+                expectedAttributes, findings);
+    CheckNumber("database-version"_L1, "database version"_L1, database.version, expectedVersion,
+                findings);
+}
+
+} // namespace vellumo
