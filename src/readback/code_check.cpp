@@ -1,6 +1,5 @@
 #include "readback/code_check.h"
 
-#include "model/question_types.h"
 #include "readback/part_check.h"
 
 using namespace Qt::StringLiterals;
@@ -15,14 +14,14 @@ struct CodeList {
     QLatin1StringView list;  ///< the whole, by its name to a user
     QLatin1StringView field; ///< one of it, likewise
     QLatin1StringView code;
-    QLatin1StringView (*codeOf)(QStringView type);
+    quint8 DeliveredType::*expected;
 };
 
 constexpr CodeList codeLists[] = {
     {valueCodesKey, &DatabaseContent::valueCodes, "list of value kinds"_L1, "value kind"_L1,
-     "value-code"_L1, FieldDataCode},
+     "value-code"_L1, &DeliveredType::valueCode},
     {typeCodesKey, &DatabaseContent::typeCodes, "list of types"_L1, "type"_L1, "type-code"_L1,
-     QuestionKindCode},
+     &DeliveredType::typeCode},
 };
 
 QString ShownCode(int code)
@@ -52,7 +51,7 @@ void CompareCodes(const QByteArray &found, const CodeList &list, const Delivered
     }
     for (qsizetype i = 0; i < questions; ++i) {
         const int is = static_cast<uchar>(found[i]);
-        const int shouldBe = QString(list.codeOf(texts.questions[i].type)).toInt(nullptr, 16);
+        const int shouldBe = texts.questions[i].type->*list.expected;
         const TextPlace place = {list.field, int(i + 1)};
         if (is != shouldBe)
             findings.append({list.code, place,

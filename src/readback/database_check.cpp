@@ -1,14 +1,12 @@
 #include "readback/database_check.h"
 
-#include "model/question_types.h"
 #include "readback/code_check.h"
 #include "readback/expected_form.h"
+#include "readback/expected_navigation.h"
 #include "readback/form_check.h"
 #include "readback/header_check.h"
 #include "readback/part_check.h"
 #include "readback/text_check.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -25,7 +23,7 @@ template <typename T> Decoded<T> PartOf(const std::map<quint32, Result<T>> &part
 void CheckQuestion(const DatabaseContent &content, const DeliveredQuestion &question, int number,
                    QList<Finding> &findings)
 {
-    if (!TypeNamed(question.type))
+    if (question.type->name.isEmpty())
         findings.append(
             {"unknown-type"_L1,
              {"type"_L1, number},
@@ -38,7 +36,7 @@ void CheckQuestion(const DatabaseContent &content, const DeliveredQuestion &ques
     const TextPlace place = {"navigation"_L1, number};
     CheckPart(PartOf(content.navigations, number), NavigationKey(key), place, findings,
               [&](const Navigation &navigation) {
-                  if (navigation != ExpectedNavigation(question.type))
+                  if (navigation != ExpectedNavigation(*question.type))
                       findings.append({"navigation"_L1, place,
                                        u"%1 is not that of its type."_s.arg(Describe(place))});
               });
@@ -57,10 +55,11 @@ void CheckForOthers(const PalmDatabase &database, qsizetype questions, QList<Fin
 
 } // namespace
 
-QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project)
+QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project,
+                             std::span<const DeliveredType> types)
 {
     QList<Finding> findings;
-    const DeliveredTexts texts = DeliverTexts(project, findings);
+    const DeliveredTexts texts = DeliverTexts(project, types, findings);
     const DatabaseContent content = DecodeDatabase(database);
     CheckHeader(database, texts.databaseName, findings);
     CheckCodes(content, texts, findings);

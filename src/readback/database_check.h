@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/project.h"
+#include "readback/delivered_types.h"
 #include "readback/finding.h"
 #include "readback/palm_database.h"
 
@@ -12,7 +13,8 @@ namespace vellumo {
 /// resources it has, and every resource to its last byte. Empty when nothing differs.
 ///
 /// Not compared: the times, the identifier beyond its shape, and the width of lists beyond the
-/// least that it can be.
-QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project);
+/// least that it can be. Only a test has reason to hand in another table of types.
+QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &project,
+                             std::span<const DeliveredType> types = deliveredTypes);
 
 } // namespace vellumo

@@ -1,6 +1,5 @@
 #include "readback/delivered_texts.h"
 
-#include "model/question_types.h"
 #include "readback/script_text.h"
 
 #include <QHash>
@@ -10,15 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
-
-QByteArray Encoded(QStringView text, const TextPlace &place, QList<Finding> &findings)
-{
-    QByteArray bytes;
-    const Outcome encoded = AppendEncoded(bytes, text, place);
-    if (!encoded)
-        findings.append({"not-encodable"_L1, place, encoded.error().text});
-    return bytes;
-}
 
 /// The items are joined with commas and split at all of them; an empty whole is no item.
 QList<QByteArray> DeliverItems(const QByteArray &joined)
@@ -39,39 +29,79 @@ QByteArray DeliverFolder(QByteArray folder)
     return folder;
 }
 
+/// Turns the texts of a project into those of a database, each with the escapes that its place in a
+/// resource script has.
+class Delivery
+{
+public:
+    Delivery(const Project &project, std::span<const DeliveredType> types, QList<Finding> &findings)
+        : m_project(project), m_types(types), m_findings(findings)
+    {
+        for (const ItemRow &row : project.source.Items().Rows())
+            m_items[row.Id].append(row.Item);
+    }
+
+    DeliveredTexts Deliver() const
+    {
+        DeliveredTexts texts;
+        // The name and the folder are no texts of the script's that escapes are interpreted in.
+        texts.databaseName = Encoded(TrimBlanks(m_project.FormName), {"database name"_L1});
+        texts.formName = AsWritten(m_project.FormName, {"form name"_L1});
+        texts.version = AsWritten(m_project.FormVersion, {"form version"_L1});
+        texts.description = AsWording(m_project.Description, {"description"_L1});
+        texts.folder = DeliverFolder(Encoded(m_project.FormPath, {"data folder"_L1}));
+        int number = 0;
+        for (const QuestionRow &row : m_project.source.Questions().Rows())
+            texts.questions.append(DeliverQuestion(row, ++number));
+        return texts;
+    }
+
+private:
+    DeliveredQuestion DeliverQuestion(const QuestionRow &row, int number) const
+    {
+        const DeliveredType &type = TypeOfName(m_types, row.Type);
+        // Rows can be left over from another type that the question had before.
+        const QStringList items = type.ownsItems ? m_items.value(row.Id) : QStringList();
+        return {.type = &type,
+                .title = AsWritten(row.Title, {"title"_L1, number}),
+                .text = AsWording(row.Question, {"question text"_L1, number}),
+                .columnName = AsWritten(row.ColumnName, {"column name"_L1, number}),
+                .items = DeliverItems(Encoded(items.join(u','), {"item list"_L1, number}))};
+    }
+
+    QByteArray Encoded(QStringView text, const TextPlace &place) const
+    {
+        QByteArray bytes;
+        const Outcome encoded = AppendEncoded(bytes, text, place);
+        if (!encoded)
+            m_findings.append({"not-encodable"_L1, place, encoded.error().text});
+        return bytes;
+    }
+
+    /// A text that stands in the script as it was typed.
+    QByteArray AsWritten(QStringView text, const TextPlace &place) const
+    {
+        return InterpretScriptText(Encoded(text, place));
+    }
+
+    /// A text in free wording, whose quotes are escaped in the script.
+    QByteArray AsWording(QStringView text, const TextPlace &place) const
+    {
+        return InterpretScriptText(WithEscapedQuotes(Encoded(text, place)));
+    }
+
+    const Project &m_project;
+    std::span<const DeliveredType> m_types;
+    QList<Finding> &m_findings;
+    QHash<int, QStringList> m_items; ///< by the Id of their question
+};
+
 } // namespace
 
-DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings)
+DeliveredTexts DeliverTexts(const Project &project, std::span<const DeliveredType> types,
+                            QList<Finding> &findings)
 {
-    const auto asWritten = [&findings](QStringView text, const TextPlace &place) {
-        return InterpretScriptText(Encoded(text, place, findings));
-    };
-    const auto asWording = [&findings](QStringView text, const TextPlace &place) {
-        return InterpretScriptText(WithEscapedQuotes(Encoded(text, place, findings)));
-    };
-
-    DeliveredTexts texts;
-    texts.databaseName = Encoded(TrimBlanks(project.FormName), {"database name"_L1}, findings);
-    texts.formName = asWritten(project.FormName, {"form name"_L1});
-    texts.version = asWritten(project.FormVersion, {"form version"_L1});
-    texts.description = asWording(project.Description, {"description"_L1});
-    texts.folder = DeliverFolder(Encoded(project.FormPath, {"data folder"_L1}, findings));
-
-    QHash<int, QStringList> items;
-    for (const ItemRow &row : project.source.Items().Rows())
-        items[row.Id].append(row.Item);
-    int number = 0;
-    for (const QuestionRow &row : project.source.Questions().Rows()) {
-        ++number;
-        const QString joined = HasItems(row.Type) ? items.value(row.Id).join(u',') : QString();
-        texts.questions.append(
-            {.type = row.Type,
-             .title = asWritten(row.Title, {"title"_L1, number}),
-             .text = asWording(row.Question, {"question text"_L1, number}),
-             .columnName = asWritten(row.ColumnName, {"column name"_L1, number}),
-             .items = DeliverItems(Encoded(joined, {"item list"_L1, number}, findings))});
-    }
-    return texts;
+    return Delivery(project, types, findings).Deliver();
 }
 
 } // namespace vellumo

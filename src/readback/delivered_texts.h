@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/project.h"
+#include "readback/delivered_types.h"
 #include "readback/finding.h"
 
 #include <QByteArray>
@@ -10,11 +11,11 @@ namespace vellumo {
 
 /// The texts of a question as the handheld must have them, in windows-1252.
 struct DeliveredQuestion {
-    QString type; ///< as the project has it
+    const DeliveredType *type; ///< never null; one without name where it is unknown
     QByteArray title;
     QByteArray text;
     QByteArray columnName;
-    QList<QByteArray> items = {}; ///< only a list question has any
+    QList<QByteArray> items = {}; ///< none where the type owns no items
 };
 
 /// The texts of a project as the handheld must have them, in windows-1252.
@@ -31,7 +32,8 @@ struct DeliveredTexts {
 /// interpreted, an item with a comma becomes two, the folder ends in a backslash.
 ///
 /// A text with a character that windows-1252 lacks is a finding; what stands before the character
-/// is delivered then.
-DeliveredTexts DeliverTexts(const Project &project, QList<Finding> &findings);
+/// is delivered then. The types must outlive the result.
+DeliveredTexts DeliverTexts(const Project &project, std::span<const DeliveredType> types,
+                            QList<Finding> &findings);
 
 } // namespace vellumo

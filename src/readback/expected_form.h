@@ -2,7 +2,6 @@
 
 #include "readback/delivered_texts.h"
 #include "readback/form.h"
-#include "readback/navigation_reader.h"
 
 namespace vellumo {
 
@@ -10,8 +9,5 @@ namespace vellumo {
 /// what every form has. The width of a list is the least that it can be: it grows with the widths
 /// of the items' letters in the handheld's font, which are not known here.
 Form ExpectedForm(quint32 number, const DeliveredQuestion &question);
-
-/// The navigation that goes with the form of a question of a type.
-Navigation ExpectedNavigation(QStringView type);
 
 } // namespace vellumo

@@ -1,8 +1,8 @@
 #include "readback/summary.h"
 
-#include "model/question_types.h"
 #include "platform/code_page.h"
 #include "readback/database_content.h"
+#include "readback/delivered_types.h"
 
 #include <algorithm>
 
@@ -11,11 +11,11 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-QString TypeOfCode(char byte)
+QString NameOfType(char byte)
 {
-    const QString code = u"0x%1"_s.arg(static_cast<uchar>(byte), 2, 16, QChar(u'0'));
-    const auto found = std::ranges::find(questionTypes, code, &QuestionType::kindCode);
-    return found == questionTypes.end() ? code : QString(found->name);
+    const auto code = static_cast<quint8>(byte);
+    const DeliveredType &type = TypeOfCode(deliveredTypes, code);
+    return type.name.isEmpty() ? u"0x%1"_s.arg(code, 2, 16, QChar(u'0')) : QString(type.name);
 }
 
 QString TitleOf(const Form &form)
@@ -38,7 +38,7 @@ DatabaseSummary Summarize(const PalmDatabase &database)
         summary.questions = int(**content.questionCount);
     if (content.typeCodes && *content.typeCodes)
         for (const char code : **content.typeCodes)
-            summary.types += TypeOfCode(code);
+            summary.types += NameOfType(code);
     if (content.columnNames && *content.columnNames)
         for (const QByteArray &name : (*content.columnNames)->entries)
             summary.columnNames += FromWindows1252(name);

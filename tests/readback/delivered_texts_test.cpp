@@ -13,7 +13,7 @@ namespace {
 DeliveredTexts Delivered(const Project &project)
 {
     QList<Finding> findings;
-    const DeliveredTexts texts = DeliverTexts(project, findings);
+    const DeliveredTexts texts = DeliverTexts(project, deliveredTypes, findings);
     EXPECT_TRUE(findings.isEmpty());
     return texts;
 }
@@ -41,7 +41,7 @@ TEST(DeliveredTexts, InterpretsEachTextAsItIsWritten)
     EXPECT_EQ(texts.version, "v1");
     EXPECT_EQ(texts.description, "\"a\"b\n");
     ASSERT_EQ(texts.questions.size(), 1);
-    EXPECT_EQ(texts.questions[0].type, u"Text"_s);
+    EXPECT_EQ(texts.questions[0].type->name, "Text"_L1);
     EXPECT_EQ(texts.questions[0].title, "A");
     EXPECT_EQ(texts.questions[0].text, "say \"hi\" \t");
     EXPECT_EQ(texts.questions[0].columnName, "CD");
@@ -95,7 +95,7 @@ TEST(DeliveredTexts, FindsWhatTheCodePageLacks)
     Project project = OneQuestionProject(
         u"x"_s, {.Title = u"5 \u20AC caf\u00E9"_s, .Question = u"a\u03A9b"_s, .Type = u"Text"_s});
     QList<Finding> findings;
-    const DeliveredTexts texts = DeliverTexts(project, findings);
+    const DeliveredTexts texts = DeliverTexts(project, deliveredTypes, findings);
     EXPECT_EQ(texts.questions[0].title, "5 \x80 caf\xE9");
     ASSERT_EQ(findings.size(), 1);
     EXPECT_EQ(findings[0].code, "not-encodable"_L1);
