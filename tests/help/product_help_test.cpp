@@ -1,6 +1,6 @@
-#include "help/help_file.h"
 #include "help/help_topics.h"
 #include "help/html_text.h"
+#include "help/reader/help_file.h"
 #include "support/files.h"
 #include "support/print.h"
 

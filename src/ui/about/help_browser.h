@@ -1,6 +1,6 @@
 #pragma once
 
-#include "help/help_file.h"
+#include "help/reader/help_file.h"
 
 #include <QTextBrowser>
 

@@ -1,6 +1,6 @@
 #include "ui/about/myHelp.h"
 
-#include "help/help_file.h"
+#include "help/reader/help_file.h"
 #include "platform/html_help.h"
 #include "ui/about/help_window.h"
 #include "ui/common/prompts.h"

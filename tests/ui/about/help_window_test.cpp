@@ -1,6 +1,6 @@
 #include "ui/about/help_window.h"
 
-#include "help/archive_writer.h"
+#include "help/compiler/archive_writer.h"
 #include "support/files.h"
 #include "support/print.h"
 #include "ui/about/help_browser.h"

@@ -1,4 +1,4 @@
-#include "help/link_check.h"
+#include "help/compiler/link_check.h"
 
 #include "help/html_text.h"
 

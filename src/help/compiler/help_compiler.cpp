@@ -1,7 +1,7 @@
-#include "help/help_compiler.h"
+#include "help/compiler/help_compiler.h"
 
 #include "help/archive_format.h"
-#include "help/archive_writer.h"
+#include "help/compiler/archive_writer.h"
 #include "help/little_endian.h"
 
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "help/make_help.h"
+#include "help/compiler/make_help.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "help/compression_check.h"
+#include "help/reader/compression_check.h"
 
 #include "help/little_endian.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "help/contents.h"
+#include "help/reader/contents.h"
 #include "platform/result.h"
 
 #include <QByteArray>

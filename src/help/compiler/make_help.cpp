@@ -1,7 +1,7 @@
-#include "help/make_help.h"
+#include "help/compiler/make_help.h"
 
-#include "help/help_compiler.h"
-#include "help/link_check.h"
+#include "help/compiler/help_compiler.h"
+#include "help/compiler/link_check.h"
 
 #include <QFile>
 #include <QSaveFile>

@@ -1,4 +1,4 @@
-#include "help/contents.h"
+#include "help/reader/contents.h"
 
 #include "help/html_text.h"
 

@@ -1,8 +1,8 @@
-#include "help/archive_check.h"
+#include "help/reader/archive_check.h"
 
 #include "help/archive_format.h"
-#include "help/compression_check.h"
 #include "help/little_endian.h"
+#include "help/reader/compression_check.h"
 
 #include <QIODevice>
 

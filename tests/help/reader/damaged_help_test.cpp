@@ -1,6 +1,6 @@
-#include "help/archive_writer.h"
-#include "help/help_compiler.h"
-#include "help/help_file.h"
+#include "help/compiler/archive_writer.h"
+#include "help/compiler/help_compiler.h"
+#include "help/reader/help_file.h"
 #include "support/files.h"
 #include "support/print.h"
 

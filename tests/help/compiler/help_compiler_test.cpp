@@ -1,6 +1,6 @@
-#include "help/help_compiler.h"
+#include "help/compiler/help_compiler.h"
 
-#include "help/archive_writer.h"
+#include "help/compiler/archive_writer.h"
 #include "support/files.h"
 #include "support/print.h"
 

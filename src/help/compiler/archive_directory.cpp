@@ -1,4 +1,4 @@
-#include "help/archive_directory.h"
+#include "help/compiler/archive_directory.h"
 
 #include "help/archive_format.h"
 #include "help/little_endian.h"

@@ -1,7 +1,7 @@
-#include "help/help_file.h"
+#include "help/reader/help_file.h"
 
-#include "help/archive_writer.h"
-#include "help/help_compiler.h"
+#include "help/compiler/archive_writer.h"
+#include "help/compiler/help_compiler.h"
 #include "support/files.h"
 #include "support/print.h"
 

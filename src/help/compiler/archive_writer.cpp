@@ -1,7 +1,7 @@
-#include "help/archive_writer.h"
+#include "help/compiler/archive_writer.h"
 
-#include "help/archive_directory.h"
 #include "help/archive_format.h"
+#include "help/compiler/archive_directory.h"
 #include "help/little_endian.h"
 
 #include <QStringView>

@@ -1,8 +1,8 @@
-#include "help/help_file.h"
+#include "help/reader/help_file.h"
 
-#include "help/archive_check.h"
 #include "help/html_text.h"
 #include "help/little_endian.h"
+#include "help/reader/archive_check.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "help/make_help.h"
+#include "help/compiler/make_help.h"
 
 #include "help/help_topics.h"
 #include "support/files.h"
