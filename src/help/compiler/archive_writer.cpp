@@ -1,7 +1,7 @@
 #include "help/compiler/archive_writer.h"
 
 #include "help/archive_format.h"
-#include "help/compiler/archive_directory.h"
+#include "help/compiler/directory_writer.h"
 #include "help/little_endian.h"
 
 #include <QStringView>
@@ -34,38 +34,39 @@ QByteArray NameList()
 std::set<QByteArray> FoldersOf(const std::map<QByteArray, QByteArray> &objects)
 {
     std::set<QByteArray> folders{"/"};
-    for (const auto &[path, bytes] : objects)
-        for (qsizetype end = 0; path.startsWith('/') && (end = path.indexOf('/', end)) >= 0; ++end)
-            folders.insert(path.first(end + 1));
+    for (const auto &[path, bytes] : objects) {
+        if (!path.startsWith('/'))
+            continue; // of the archive itself
+        for (qsizetype slash = 0; slash >= 0; slash = path.indexOf('/', slash + 1))
+            folders.insert(path.first(slash + 1));
+    }
     return folders;
 }
 
-void AppendGuid(QByteArray &bytes, const Guid &guid)
+/// The header, and the sizes behind it.
+QByteArray WriteHeader(quint64 directoryLength, quint64 contentLength)
 {
-    bytes.append(reinterpret_cast<const char *>(guid.data()), qsizetype(guid.size()));
-}
+    constexpr quint64 sizesStart = header::size, directoryStart = sizesStart + sizes::size;
+    const quint64 contentStart = directoryStart + directoryLength;
 
-QByteArray WriteHeader(qsizetype directorySize, qsizetype contentSize)
-{
-    constexpr quint64 directoryStart = headerSize + sizeSectionSize;
-    const quint64 contentStart = directoryStart + quint64(directorySize);
-    constexpr quint32 noTimeStamp = 0;
+    QByteArray bytes = Tagged(header::tag, header::size);
+    Put(bytes, header::version, 3);
+    Put(bytes, header::length, quint32(header::size));
+    Put(bytes, header::alwaysOne, 1);
+    Put(bytes, header::timeStamp, 0); // of no run, so that equal objects give equal bytes
+    Put(bytes, header::language, english);
+    PutGuid(bytes, header::directoryGuid, directoryGuid);
+    PutGuid(bytes, header::streamGuid, streamGuid);
+    Put(bytes, header::sizesStart, sizesStart);
+    Put(bytes, header::sizesLength, quint64(sizes::size));
+    Put(bytes, header::directoryStart, directoryStart);
+    Put(bytes, header::directoryLength, directoryLength);
+    Put(bytes, header::contentStart, contentStart);
 
-    QByteArray bytes(headerTag);
-    for (const quint32 field : {3u, quint32(headerSize), 1u, noTimeStamp, english})
-        AppendLittle(bytes, field);
-    AppendGuid(bytes, directoryGuid);
-    AppendGuid(bytes, streamGuid);
-    for (const quint64 field : {quint64(headerSize), quint64(sizeSectionSize), directoryStart,
-                                quint64(directorySize), contentStart})
-        AppendLittle(bytes, field);
-    Q_ASSERT(bytes.size() == headerSize);
-
-    AppendLittle(bytes, quint32(0x1FE));
-    AppendLittle(bytes, quint32(0));
-    AppendLittle(bytes, contentStart + quint64(contentSize));
-    AppendLittle(bytes, quint64(0));
-    return bytes;
+    QByteArray sizeTable(sizes::size, '\0');
+    Put(sizeTable, sizes::always0x1FE, 0x1FE);
+    Put(sizeTable, sizes::fileSize, contentStart + contentLength);
+    return bytes + sizeTable;
 }
 
 } // namespace
@@ -73,7 +74,7 @@ QByteArray WriteHeader(qsizetype directorySize, qsizetype contentSize)
 QByteArray WriteArchive(const std::map<QByteArray, QByteArray> &objects)
 {
     auto stored = objects;
-    stored["::DataSpace/NameList"] = NameList();
+    stored[nameListName.toByteArray()] = NameList();
 
     QByteArray content;
     std::vector<ArchiveEntry> entries;
@@ -85,7 +86,7 @@ QByteArray WriteArchive(const std::map<QByteArray, QByteArray> &objects)
         entries.push_back({folder});
 
     const QByteArray directory = WriteDirectory(std::move(entries));
-    return WriteHeader(directory.size(), content.size()) + directory + content;
+    return WriteHeader(quint64(directory.size()), quint64(content.size())) + directory + content;
 }
 
 } // namespace vellumo

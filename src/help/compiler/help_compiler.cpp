@@ -3,6 +3,7 @@
 #include "help/archive_format.h"
 #include "help/compiler/archive_writer.h"
 #include "help/little_endian.h"
+#include "help/viewer_format.h"
 
 #include <QStringList>
 
@@ -11,30 +12,42 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+using Objects = std::map<QByteArray, QByteArray>;
+
+/// As the archive names its objects.
+QByteArray FullName(QAnyStringView name)
+{
+    return '/' + name.toString().toUtf8();
+}
+
 QByteArray ZeroEnded(QAnyStringView text)
 {
     return text.toString().toLatin1() + '\0';
 }
 
-/// What the help file says of itself: a version and then numbered items.
+QByteArray Language()
+{
+    QByteArray bytes(36, '\0');
+    Put(bytes, Field<quint32>{0}, archive::english);
+    return bytes;
+}
+
+/// What the help file says of itself.
 QByteArray SystemObject(const HelpSource &source)
 {
-    QByteArray language;
-    AppendLittle(language, archive::english);
-    language.resize(36, '\0');
-
-    const std::pair<quint16, QByteArray> items[] = {
-        {quint16(10), QByteArray(4, '\0')}, // no time stamp
-        {quint16(9), ZeroEnded("HHA Version 4.74.8702")},
-        {quint16(4), language},
-        {quint16(2), ZeroEnded(source.defaultPage)},
-        {quint16(3), ZeroEnded(source.title)},
-        {quint16(0), ZeroEnded(source.contents)},
+    using namespace systemObject;
+    const std::pair<Code, QByteArray> items[] = {
+        {timeStamp, QByteArray(4, '\0')}, // of no run, so that equal sources give equal bytes
+        {compiler, ZeroEnded("HHA Version 4.74.8702")},
+        {language, Language()},
+        {defaultPage, ZeroEnded(source.defaultPage)},
+        {title, ZeroEnded(source.title)},
+        {contentsFile, ZeroEnded(source.contents)},
     };
     QByteArray bytes;
-    AppendLittle(bytes, quint32(3));
+    AppendLittle(bytes, quint32(3)); // its version
     for (const auto &[code, data] : items) {
-        AppendLittle(bytes, code);
+        AppendLittle(bytes, quint16(code));
         AppendLittle(bytes, quint16(data.size()));
         bytes += data;
     }
@@ -42,7 +55,7 @@ QByteArray SystemObject(const HelpSource &source)
 }
 
 /// The numbers of the pages, and the texts that they point into.
-void AddTopics(std::map<QByteArray, QByteArray> &objects, std::span<const HelpTopic> topics)
+void AddTopics(Objects &objects, std::span<const HelpTopic> topics)
 {
     QByteArray strings(1, '\0'), pairs;
     for (const HelpTopic &topic : topics) {
@@ -50,10 +63,10 @@ void AddTopics(std::map<QByteArray, QByteArray> &objects, std::span<const HelpTo
         AppendLittle(pairs, quint32(strings.size()));
         strings += ZeroEnded(topic.page);
     }
-    QByteArray size;
-    AppendLittle(size, quint32(pairs.size()));
-    objects["/#STRINGS"] = strings;
-    objects["/#IVB"] = size + pairs;
+    QByteArray length;
+    AppendLittle(length, quint32(pairs.size()));
+    objects[FullName(stringsName)] = strings;
+    objects[FullName(contextObject::name)] = length + pairs;
 }
 
 } // namespace
@@ -67,11 +80,11 @@ Result<QByteArray> CompileHelp(const HelpSource &source)
         if (!source.files.contains(page))
             return Error{u"The help has no file %1."_s.arg(page)};
 
-    std::map<QByteArray, QByteArray> objects;
+    Objects objects;
     for (const auto &[name, bytes] : source.files)
-        objects['/' + name.toUtf8()] = bytes;
-    objects["/#SYSTEM"] = SystemObject(source);
-    objects["/#ITBITS"] = QByteArray();
+        objects[FullName(name)] = bytes;
+    objects[FullName(systemObject::name)] = SystemObject(source);
+    objects[FullName(bitsName)] = QByteArray();
     AddTopics(objects, source.topics);
     return WriteArchive(objects);
 }

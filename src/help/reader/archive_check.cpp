@@ -1,8 +1,8 @@
 #include "help/reader/archive_check.h"
 
 #include "help/archive_format.h"
-#include "help/little_endian.h"
 #include "help/reader/compression_check.h"
+#include "help/reader/compression_format.h"
 
 #include <QIODevice>
 
@@ -15,18 +15,11 @@ using namespace archive;
 
 namespace {
 
-constexpr qint64 longestName = 512;
 constexpr quint32 smallestChunk = 64;
 constexpr quint32 largestChunk = 0x10000;
 constexpr qint64 largestDirectory = 64 << 20;
 constexpr qint64 largestTable = 16 << 20;
 constexpr int deepestIndex = 8;
-
-// The objects that steer the decompression.
-constexpr QByteArrayView controlDataName = "::DataSpace/Storage/MSCompressed/ControlData";
-constexpr QByteArrayView resetTableName =
-    "::DataSpace/Storage/MSCompressed/Transform/{7FC28940-9D31-11D0-9B27-00A0C91E9C7C}"
-    "/InstanceData/ResetTable";
 
 /// Exactly so many bytes of the file, or none.
 std::optional<QByteArray> BytesAt(QIODevice &file, quint64 offset, qint64 count)
@@ -88,34 +81,34 @@ public:
 private:
     bool ReadHeader()
     {
-        const auto header = BytesAt(m_file, 0, headerSize);
-        if (!header || !header->startsWith(headerTag))
+        const auto header = BytesAt(m_file, 0, header::size);
+        if (!header || !header->startsWith(header::tag))
             return false;
-        const auto version = LittleAt<quint32>(*header, 4);
-        m_directory = LittleAt<quint64>(*header, 0x48);
-        m_directoryLength = LittleAt<quint64>(*header, 0x50);
+        const auto version = Get(*header, header::version);
+        m_directory = Get(*header, header::directoryStart);
+        m_directoryLength = Get(*header, header::directoryLength);
         m_content =
-            version == 2 ? m_directory + m_directoryLength : LittleAt<quint64>(*header, 0x58);
+            version == 2 ? m_directory + m_directoryLength : Get(*header, header::contentStart);
         m_size = quint64(m_file.size());
         return (version == 2 || version == 3) && m_directory <= m_size &&
                m_directoryLength <= m_size - m_directory && m_content <= m_size &&
-               m_directoryLength >= quint64(directoryHeaderSize) &&
+               m_directoryLength >= quint64(directory::size) &&
                m_directoryLength <= quint64(largestDirectory);
     }
 
     bool ReadDirectoryHeader()
     {
-        const auto header = BytesAt(m_file, m_directory, directoryHeaderSize);
-        if (!header || !header->startsWith(directoryTag))
+        const auto header = BytesAt(m_file, m_directory, directory::size);
+        if (!header || !header->startsWith(directory::tag))
             return false;
-        m_chunkSize = LittleAt<quint32>(*header, 0x10);
-        m_root = LittleAt<qint32>(*header, 0x1C);
+        m_chunkSize = Get(*header, directory::chunkSize);
+        m_root = Get(*header, directory::root);
         if (m_root < 0)
-            m_root = LittleAt<qint32>(*header, 0x20);
-        if (LittleAt<quint32>(*header, 8) != directoryHeaderSize || m_chunkSize < smallestChunk ||
+            m_root = Get(*header, directory::firstListing);
+        if (Get(*header, directory::length) != directory::size || m_chunkSize < smallestChunk ||
             m_chunkSize > largestChunk)
             return false;
-        m_seen.resize((m_directoryLength - directoryHeaderSize) / m_chunkSize);
+        m_seen.resize((m_directoryLength - directory::size) / m_chunkSize);
         return true;
     }
 
@@ -125,19 +118,19 @@ private:
             depth > deepestIndex)
             return false;
         m_seen[std::size_t(number)] = true;
-        const quint64 offset = m_directory + directoryHeaderSize + quint64(number) * m_chunkSize;
+        const quint64 offset = m_directory + directory::size + quint64(number) * m_chunkSize;
         const auto chunk = BytesAt(m_file, offset, m_chunkSize);
         if (!chunk)
             return false;
-        if (chunk->startsWith(listingTag))
+        if (chunk->startsWith(listing::tag))
             return CheckListing(*chunk);
-        return chunk->startsWith(indexTag) && CheckIndex(*chunk, depth);
+        return chunk->startsWith(index::tag) && CheckIndex(*chunk, depth);
     }
 
     /// What stands between the chunk's header and its free bytes.
     static std::optional<EntryReader> EntriesOf(QByteArrayView chunk, qsizetype header)
     {
-        const quint32 free = LittleAt<quint32>(chunk, 4);
+        const quint32 free = Get(chunk, chunk::freeBytes);
         if (free > quint64(chunk.size() - header))
             return std::nullopt;
         return EntryReader(chunk.sliced(header, chunk.size() - header - free));
@@ -145,7 +138,7 @@ private:
 
     bool CheckListing(QByteArrayView chunk)
     {
-        auto entries = EntriesOf(chunk, listingHeaderSize);
+        auto entries = EntriesOf(chunk, listing::size);
         while (entries && !entries->AtEnd()) {
             const auto name = entries->Name();
             const auto section = entries->Number(), offset = entries->Number(),
@@ -158,11 +151,11 @@ private:
 
     bool IsSoundObject(QByteArrayView name, quint64 section, quint64 offset, quint64 length)
     {
-        if (section == 0)
+        if (section == storedSection)
             return IsWithinFile(offset, length) && Keep(name, offset, length);
         // Both are numbers of at most 63 bits.
         m_compressedEnd = std::max(m_compressedEnd, offset + length);
-        return section == 1;
+        return section == compressedSection;
     }
 
     bool IsWithinFile(quint64 offset, quint64 length) const
@@ -199,7 +192,7 @@ private:
 
     bool CheckIndex(QByteArrayView chunk, int depth)
     {
-        auto entries = EntriesOf(chunk, indexHeaderSize);
+        auto entries = EntriesOf(chunk, index::size);
         while (entries && !entries->AtEnd()) {
             const auto name = entries->Name();
             const auto below = entries->Number();

@@ -1,6 +1,6 @@
 #include "help/reader/compression_check.h"
 
-#include "help/little_endian.h"
+#include "help/reader/compression_format.h"
 
 #include <bit>
 
@@ -11,18 +11,17 @@ constexpr quint32 blockSize = 0x8000;
 /// A block that cannot be made smaller grows a little.
 constexpr quint64 longestBlock = blockSize + 6144;
 constexpr quint32 largestWindow = 0x200000;
-constexpr qsizetype controlDataSize = 0x18;
-constexpr qsizetype resetTableSize = 0x28;
 
+/// The window is a power of two, and the decoder starts anew after so many halves of it.
 bool IsSoundControlData(const QByteArray &data)
 {
-    if (data.size() < controlDataSize)
+    if (data.size() < controlData::size)
         return false;
-    const auto version = LittleAt<quint32>(data, 8);
+    const auto version = Get(data, controlData::version);
     const quint64 unit = version == 2 ? blockSize : 1;
-    const quint64 resetInterval = LittleAt<quint32>(data, 12) * unit;
-    const quint64 window = LittleAt<quint32>(data, 16) * unit;
-    const auto windowsPerReset = LittleAt<quint32>(data, 20);
+    const quint64 window = Get(data, controlData::windowSize) * unit;
+    const quint64 resetInterval = Get(data, controlData::resetInterval) * unit;
+    const auto windowsPerReset = Get(data, controlData::windowsPerReset);
     return (version == 1 || version == 2) && std::has_single_bit(window) && window >= blockSize &&
            window <= largestWindow && resetInterval >= window / 2 &&
            resetInterval <= largestWindow && resetInterval % (window / 2) == 0 &&
@@ -33,9 +32,10 @@ bool IsSoundControlData(const QByteArray &data)
 bool AreSoundBlocks(const QByteArray &table, qsizetype first, quint32 count)
 {
     for (quint32 block = 0; block < count; ++block) {
-        const qsizetype at = first + qsizetype(block) * 8;
+        const qsizetype at = first + qsizetype(block) * resetTable::entrySize;
         const auto start = LittleAt<quint64>(table, at);
-        const auto end = LittleAt<quint64>(table, block + 1 < count ? at + 8 : 0x18);
+        const auto end = block + 1 < count ? LittleAt<quint64>(table, at + resetTable::entrySize)
+                                           : Get(table, resetTable::compressedSize);
         if (end < start || end - start > longestBlock)
             return false;
     }
@@ -44,16 +44,16 @@ bool AreSoundBlocks(const QByteArray &table, qsizetype first, quint32 count)
 
 } // namespace
 
-std::optional<quint64> SizeBeforeCompression(const QByteArray &controlData,
-                                             const QByteArray &resetTable)
+std::optional<quint64> SizeBeforeCompression(const QByteArray &control, const QByteArray &table)
 {
-    if (!IsSoundControlData(controlData) || resetTable.size() < resetTableSize ||
-        LittleAt<quint64>(resetTable, 0x20) != blockSize)
+    if (!IsSoundControlData(control) || table.size() < resetTable::size ||
+        Get(table, resetTable::blockSize) != blockSize)
         return std::nullopt;
-    const auto count = LittleAt<quint32>(resetTable, 4), first = LittleAt<quint32>(resetTable, 12);
-    const quint64 size = quint64(resetTable.size());
-    if (count == 0 || first > size || (size - first) / 8 < count ||
-        !AreSoundBlocks(resetTable, qsizetype(first), count))
+    const auto count = Get(table, resetTable::blockCount);
+    const auto first = Get(table, resetTable::firstBlock);
+    const auto size = quint64(table.size());
+    if (count == 0 || first > size || (size - first) / resetTable::entrySize < count ||
+        !AreSoundBlocks(table, qsizetype(first), count))
         return std::nullopt;
     return quint64(count) * blockSize;
 }

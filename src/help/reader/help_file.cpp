@@ -1,8 +1,9 @@
 #include "help/reader/help_file.h"
 
+#include "help/archive_format.h"
 #include "help/html_text.h"
-#include "help/little_endian.h"
 #include "help/reader/archive_check.h"
+#include "help/viewer_format.h"
 
 #include <QFile>
 
@@ -16,12 +17,8 @@ namespace vellumo {
 namespace {
 
 constexpr quint64 largestObject = 16 << 20;
-constexpr qsizetype longestName = 512;   // as archive_check has it, in bytes
 constexpr qsizetype longestText = 1024;  // of a stored text, in bytes; the rest is left out
 constexpr qsizetype mostTopics = 65'536; // with a number; the rest are left out
-
-/// What the file says of itself, by the number of the item.
-enum SystemItem : quint16 { contentsItem = 0, defaultPageItem = 2, titleItem = 3 };
 
 /// The text up to a zero byte or the end of the bytes, at most longestText of them.
 QString ZeroEndedAt(const QByteArray &bytes, quint64 offset)
@@ -34,11 +31,12 @@ QString ZeroEndedAt(const QByteArray &bytes, quint64 offset)
 
 std::map<quint16, QString> SystemItems(const QByteArray &bytes)
 {
-    constexpr qsizetype versionSize = 4, itemHeaderSize = 4;
+    using namespace systemObject;
     std::map<quint16, QString> items;
-    for (qsizetype at = versionSize; at + itemHeaderSize <= bytes.size();) {
-        const auto code = LittleAt<quint16>(bytes, at), length = LittleAt<quint16>(bytes, at + 2);
-        at += itemHeaderSize;
+    for (qsizetype at = firstItem; at + item::headerSize <= bytes.size();) {
+        const auto header = QByteArrayView(bytes).sliced(at);
+        const auto code = Get(header, item::code), length = Get(header, item::length);
+        at += item::headerSize;
         items.emplace(code,
                       ZeroEndedAt(bytes.first(std::min(bytes.size(), at + length)), quint64(at)));
         at += length;
@@ -128,7 +126,7 @@ bool HelpFile::Exists(const QString &name) const
 /// which they ran in front of it, so leading folders are dropped until the page exists.
 QString HelpFile::Locate(QString stored) const
 {
-    if (stored.size() > longestName)
+    if (stored.size() > archive::longestName)
         return {};
     stored.replace(u'\\', u'/');
     const qsizetype anchor = stored.indexOf(u'#');
@@ -151,24 +149,25 @@ QByteArray HelpFile::Internal(const QString &name) const
 
 void HelpFile::ReadSystem()
 {
-    auto items = SystemItems(Internal(u"#SYSTEM"_s));
-    m_title = items[titleItem];
-    ReadContentsFile(items[contentsItem]);
-    m_defaultPage = Locate(items[defaultPageItem]);
+    auto items = SystemItems(Internal(systemObject::name));
+    m_title = items[systemObject::title];
+    ReadContentsFile(items[systemObject::contentsFile]);
+    m_defaultPage = Locate(items[systemObject::defaultPage]);
     for (const ContentsEntry &entry : m_contents)
         if (m_defaultPage.isEmpty())
             m_defaultPage = entry.page;
 }
 
-/// Pairs of a number and an offset into the texts, behind the length of all pairs.
 void HelpFile::ReadTopics()
 {
-    const QByteArray pairs = Internal(u"#IVB"_s), texts = Internal(u"#STRINGS"_s);
-    const qsizetype end = std::min(pairs.size(), 4 + 8 * mostTopics);
-    for (qsizetype at = 4; at + 8 <= end; at += 8) {
-        const QString page = Locate(ZeroEndedAt(texts, LittleAt<quint32>(pairs, at + 4)));
+    using namespace contextObject;
+    const QByteArray pairs = Internal(name), texts = Internal(stringsName);
+    const qsizetype end = std::min(pairs.size(), firstPair + mostTopics * pair::size);
+    for (qsizetype at = firstPair; at + pair::size <= end; at += pair::size) {
+        const auto topic = QByteArrayView(pairs).sliced(at);
+        const QString page = Locate(ZeroEndedAt(texts, Get(topic, pair::page)));
         if (!page.isEmpty())
-            m_topics.emplace(LittleAt<quint32>(pairs, at), page);
+            m_topics.emplace(Get(topic, pair::number), page);
     }
 }
 
