@@ -3,6 +3,7 @@
 #include "help/archive_format.h"
 #include "help/html_text.h"
 #include "help/reader/archive_check.h"
+#include "help/reader/viewer_objects.h"
 #include "help/viewer_format.h"
 
 #include <QFile>
@@ -17,32 +18,6 @@ namespace vellumo {
 namespace {
 
 constexpr quint64 largestObject = 16 << 20;
-constexpr qsizetype longestText = 1024;  // of a stored text, in bytes; the rest is left out
-constexpr qsizetype mostTopics = 65'536; // with a number; the rest are left out
-
-/// The text up to a zero byte or the end of the bytes, at most longestText of them.
-QString ZeroEndedAt(const QByteArray &bytes, quint64 offset)
-{
-    if (offset >= quint64(bytes.size()))
-        return {};
-    const QByteArray rest = bytes.mid(qsizetype(offset), longestText);
-    return DecodeHtml(rest.first(qstrnlen(rest.data(), size_t(rest.size()))));
-}
-
-std::map<quint16, QString> SystemItems(const QByteArray &bytes)
-{
-    using namespace systemObject;
-    std::map<quint16, QString> items;
-    for (qsizetype at = firstItem; at + item::headerSize <= bytes.size();) {
-        const auto header = QByteArrayView(bytes).sliced(at);
-        const auto code = Get(header, item::code), length = Get(header, item::length);
-        at += item::headerSize;
-        items.emplace(code,
-                      ZeroEndedAt(bytes.first(std::min(bytes.size(), at + length)), quint64(at)));
-        at += length;
-    }
-    return items;
-}
 
 Error Damaged(const QString &path)
 {
@@ -149,7 +124,7 @@ QByteArray HelpFile::Internal(const QString &name) const
 
 void HelpFile::ReadSystem()
 {
-    auto items = SystemItems(Internal(systemObject::name));
+    auto items = ReadSystemItems(Internal(systemObject::name));
     m_title = items[systemObject::title];
     ReadContentsFile(items[systemObject::contentsFile]);
     m_defaultPage = Locate(items[systemObject::defaultPage]);
@@ -160,14 +135,11 @@ void HelpFile::ReadSystem()
 
 void HelpFile::ReadTopics()
 {
-    using namespace contextObject;
-    const QByteArray pairs = Internal(name), texts = Internal(stringsName);
-    const qsizetype end = std::min(pairs.size(), firstPair + mostTopics * pair::size);
-    for (qsizetype at = firstPair; at + pair::size <= end; at += pair::size) {
-        const auto topic = QByteArrayView(pairs).sliced(at);
-        const QString page = Locate(ZeroEndedAt(texts, Get(topic, pair::page)));
+    const QByteArray texts = Internal(stringsName);
+    for (const ContextEntry &entry : ReadContexts(Internal(contextObject::name))) {
+        const QString page = Locate(TextAt(texts, entry.page));
         if (!page.isEmpty())
-            m_topics.emplace(Get(topic, pair::number), page);
+            m_topics.emplace(entry.number, page);
     }
 }
 
