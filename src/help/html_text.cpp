@@ -76,7 +76,8 @@ QString HtmlTag::Attribute(const QString &attribute) const
 
 QString DecodeHtml(const QByteArray &bytes)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    // Stateless, or a last letter of windows-1252 would count as one that is still to be completed.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(bytes);
     return decoder.hasError() ? FromWindows1252(bytes) : text;
 }

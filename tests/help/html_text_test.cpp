@@ -45,6 +45,9 @@ TEST(HtmlText, DecodesBothCodings)
 {
     EXPECT_EQ(DecodeHtml("\xC3\xA9"), u"\u00E9"_s);
     EXPECT_EQ(DecodeHtml("\x93\xE9\x94"), u"\u201C\u00E9\u201D"_s);
+    EXPECT_EQ(DecodeHtml("Caf\xE9"), u"Caf\u00E9"_s) << "begins a longer letter of UTF-8";
+    EXPECT_EQ(DecodeHtml("\xEF\xBB\xBFx"), u"x"_s) << "the mark of UTF-8 files";
+    EXPECT_EQ(DecodeHtml(""), QString());
 }
 
 TEST(HtmlText, TakesALongTextWithoutAnEnd)

@@ -11,15 +11,23 @@ namespace {
 constexpr qsizetype longestText = 1024; // in bytes; the rest is left out
 constexpr qsizetype mostContexts = 65'536;
 
+/// Of a text that is too long, up to where a letter begins in UTF-8.
+qsizetype LengthToKeep(QByteArrayView text)
+{
+    qsizetype length = std::min(text.size(), longestText);
+    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80)
+        --length;
+    return length;
+}
+
 } // namespace
 
 QString TextAt(QByteArrayView bytes, quint64 offset)
 {
     if (offset >= quint64(bytes.size()))
         return {};
-    QByteArrayView text = bytes.sliced(qsizetype(offset));
-    text.truncate(std::min(text.size(), longestText));
-    return DecodeHtml(text.first(qstrnlen(text.data(), size_t(text.size()))).toByteArray());
+    const QByteArrayView text = bytes.sliced(qsizetype(offset));
+    return DecodeHtml(text.first(qstrnlen(text.data(), size_t(LengthToKeep(text)))).toByteArray());
 }
 
 std::map<quint16, QString> ReadSystemItems(QByteArrayView bytes)

@@ -40,6 +40,9 @@ TEST(TextAt, LeavesOutWhatIsTooLong)
     EXPECT_EQ(TextAt(QByteArray(1024, 'x'), 0).size(), 1024);
     EXPECT_EQ(TextAt(QByteArray(5000, 'x'), 0).size(), 1024);
     EXPECT_EQ(TextAt(QByteArray(5000, 'x'), 3977).size(), 1023);
+    const QString letters(400, u'\u20AC'); // of three bytes each
+    EXPECT_EQ(TextAt(letters.toUtf8(), 0), letters.first(341));
+    EXPECT_EQ(TextAt(letters.first(341).toUtf8(), 0), letters.first(341));
 }
 
 TEST(TextAt, ReadsBothCodings)
