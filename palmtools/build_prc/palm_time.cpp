@@ -20,6 +20,7 @@ std::tm LocalTime(std::time_t moment)
 
 std::uint32_t PalmTimeOf(std::time_t moment)
 {
+    // The handheld knows no zones, so its clock and this one are taken for the same.
     using namespace std::chrono;
     constexpr sys_days epoch = 1904y / January / 1;
 

@@ -33,6 +33,7 @@ Result<NewFile> CreateFileBeside(const std::filesystem::path &target)
         std::filesystem::path path = target;
         path.replace_filename("palmtools-" + std::to_string(attempt) + ".new");
         errno = 0;
+        // "x" fails where the file exists, so two runs never write into the same one.
         File file(std::fopen(path.string().c_str(), "wbx"));
         if (file)
             return NewFile{std::move(path), std::move(file)};
@@ -62,6 +63,7 @@ Result<Bytes> ReadFile(const std::filesystem::path &path)
     const File file(std::fopen(path.string().c_str(), "rb"));
     if (!file)
         return Error{"cannot be read: " + Reason(errno), path.string()};
+    // Not by its size, which a pipe or a device does not have.
     constexpr std::size_t chunk = 1 << 16;
     Bytes bytes;
     for (std::size_t got = chunk; got == chunk;) {

@@ -5,7 +5,7 @@
 namespace palmtools {
 namespace {
 
-constexpr std::int64_t firstSystemNumber = 10000;
+constexpr std::int64_t firstSystemNumber = 10000; ///< the handheld's own begin here
 constexpr std::int64_t largestNumber16 = 0xFFFF;
 
 std::string_view WithoutQuotes(std::string_view written)
@@ -20,6 +20,7 @@ std::string_view ArgumentReader::Text()
     if (!m_words.NextIs(WordKind::text))
         m_words.FailExpected("text");
     const std::string_view first = WithoutQuotes(m_words.Take().written);
+    // Nearly every text stands in the script as it is meant; the others need bytes of their own.
     if (!AtTextJoint() && first.find('\\') == first.npos)
         return first;
 
@@ -44,6 +45,7 @@ std::int64_t ArgumentReader::Field(int bits)
     return CheckedField(Number(), bits);
 }
 
+/// A field takes what fits it with a sign or without: both leave the same bits.
 std::int64_t ArgumentReader::CheckedField(std::int64_t value, int bits)
 {
     const std::int64_t range = std::int64_t{1} << bits;

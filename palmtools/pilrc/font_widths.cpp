@@ -11,6 +11,7 @@ struct Font {
     std::uint8_t widths[256]; ///< pixels, by code
 };
 
+// The fonts of docs/palm-formats.md, "Sizes that are left open": standard, bold and symbols.
 // clang-format off
 constexpr Font fonts[] = {
     {0, 11, {

@@ -36,6 +36,7 @@ std::string Joined(const std::string &folder, const std::string &file)
     return folder + (ends ? "" : "/") + file;
 }
 
+/// Where the script is nowhere, the path as given is at fault and not the last one tried.
 Result<Script> FindScript(const PilrcCall &call)
 {
     auto asGiven = ReadFile(call.script);
@@ -81,6 +82,7 @@ int Compile(const PilrcCall &call, std::ostream &out, std::ostream &err)
         out << script->path << '\n';
 
     const Compilation compilation = CompileScript(script->bytes);
+    // Written at once, since a stream of errors has no buffer.
     std::string messages;
     for (const Diagnostic &diagnostic : compilation.diagnostics)
         messages += MessageOf(diagnostic, script->path, call.style);

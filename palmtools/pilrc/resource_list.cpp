@@ -8,8 +8,8 @@
 namespace palmtools {
 namespace {
 
-constexpr std::uint64_t largestSafeResource = 65000;
-constexpr std::size_t mostResources = 65535;
+constexpr std::uint64_t largestSafeResource = 65000; ///< a larger one may not be transferred
+constexpr std::size_t mostResources = 65535;         ///< that a database can count
 
 /// What the resource is called in a message.
 std::string NameOf(FourBytes type, std::uint16_t number)
@@ -17,6 +17,7 @@ std::string NameOf(FourBytes type, std::uint16_t number)
     return "resource '" + ShownType(type) + "' " + std::to_string(number);
 }
 
+/// Whoever wrote the script knows forms and string tables by these names.
 std::string NameAsRepeated(FourBytes type, std::uint16_t number)
 {
     if (type == formType)
@@ -36,11 +37,12 @@ void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t numb
     if (m_known.size() > mostResources)
         words.Fail("the script has more than 65535 resources");
 
-    const std::string bytes = " has " + std::to_string(size) + " bytes";
+    if (size <= largestSafeResource)
+        return;
+    const std::string told = NameOf(type, number) + " has " + std::to_string(size) + " bytes";
     if (size > largestResource)
-        words.Fail(NameOf(type, number) + bytes + ", more than 65535");
-    if (size > largestSafeResource)
-        words.Warn(NameOf(type, number) + bytes);
+        words.Fail(told + ", more than 65535");
+    words.Warn(told);
 }
 
 void ResourceList::Add(ScriptReader &words, Resource resource)

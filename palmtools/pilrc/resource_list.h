@@ -10,7 +10,7 @@
 
 namespace palmtools {
 
-/// Bytes that a resource can have.
+/// Bytes that a resource can have: it lives in one piece of the handheld's memory.
 constexpr std::uint64_t largestResource = 65535;
 
 /// The resources of a script, in its order.

@@ -12,6 +12,8 @@ struct SimpleEscape {
     int code;
 };
 
+// Codes that are no byte: a zero byte would end the text on the handheld, and 256, which only octal
+// digits can write, ends it here.
 constexpr int nothing = 0;
 constexpr int endOfText = 256;
 

@@ -1,4 +1,6 @@
 #include "palmtools/build_prc/build_prc.h"
+#include "palmtools/build_prc/database_builder.h"
+#include "palmtools/pilrc/compiler.h"
 #include "palmtools/pilrc/pilrc.h"
 #include "palmtools/support.h"
 
@@ -89,6 +91,27 @@ TEST(Golden, ScriptsGiveTheFilesThatTheyMust)
         EXPECT_EQ(run.status, 0);
         EXPECT_TRUE(ContentOf(golden.name + ".ro") == ContentOf(data / (golden.name + ".ro")));
         ExpectMade(golden);
+    }
+}
+
+TEST(Golden, ScriptsGiveTheirDatabasesWithoutFilesInBetween)
+{
+    for (const Golden &golden : AllGolden()) {
+        SCOPED_TRACE(golden.name);
+        const Compilation compilation = CompileScript(ContentOf(data / (golden.name + ".rcp")));
+        ASSERT_EQ(compilation.failed, golden.result == "refused");
+        if (compilation.failed)
+            continue;
+        auto header = HeaderOf({.name = golden.databaseName,
+                                .type = golden.type,
+                                .creator = golden.creator,
+                                .hidden = golden.hidden == "yes"},
+                               0);
+        const auto resources = Sorted(ViewsOf(compilation.resources));
+        ASSERT_TRUE(header && resources);
+        const std::string expected = ContentOf(data / (golden.name + ".prc"));
+        header->time = BigEndian32At(expected, 36);
+        EXPECT_TRUE(*EncodeDatabase(*header, *resources) == expected);
     }
 }
 

@@ -15,7 +15,7 @@ namespace {
 TEST(Files, AreReadWhole)
 {
     const TemporaryFolder folder;
-    for (const std::size_t size : {0, 1, 65535, 65536, 65537, 300000}) {
+    for (const std::size_t size : {0u, 1u, 65535u, 65536u, 65537u, 300000u}) {
         SCOPED_TRACE(size);
         const std::string bytes = Repeated("\r\n\x1A", size / 3 + 1).substr(0, size);
         WriteContent("a.rcp", bytes);
@@ -114,7 +114,7 @@ TEST(Files, StayAsTheyWereWhenTheDiskIsFull)
 {
     const TemporaryFolder folder;
     WriteContent("a.ro", "before");
-    for (const std::size_t size : {1001, 5000, 1000000}) {
+    for (const std::size_t size : {1001u, 5000u, 1000000u}) {
         SCOPED_TRACE(size);
         std::optional<Error> error;
         {
