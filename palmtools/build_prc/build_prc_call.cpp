@@ -52,7 +52,7 @@ std::optional<Error> TakeFromLine(Told &told, CommandLine &line)
 std::optional<Error> TakePlainArguments(Told &told, CommandLine &line)
 {
     const bool byOptions = told.output || told.name || told.creator;
-    if (const auto error = byOptions ? TakeFromOptions(told) : TakeFromLine(told, line))
+    if (auto error = byOptions ? TakeFromOptions(told) : TakeFromLine(told, line))
         return error;
     if (line.AtEnd())
         return Error{"the resource file is missing"};

@@ -20,17 +20,18 @@ constexpr char32_t upperCharacters[] = {
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178, // 0x98
 };
 
+/// How UTF-8 writes characters in so many bytes: the bits of the first byte under the mask.
 struct SequenceForm {
-    unsigned char mask, lead;
     std::size_t length;
     char32_t least; ///< a smaller character has a shorter form
+    unsigned char mask, lead;
 };
 
 constexpr SequenceForm sequenceForms[] = {
-    {0x80, 0x00, 1, 0},
-    {0xE0, 0xC0, 2, 0x80},
-    {0xF0, 0xE0, 3, 0x800},
-    {0xF8, 0xF0, 4, 0x10000},
+    {1, 0, 0x80, 0x00},
+    {2, 0x80, 0xE0, 0xC0},
+    {3, 0x800, 0xF0, 0xE0},
+    {4, 0x10000, 0xF8, 0xF0},
 };
 
 const SequenceForm *FormOf(unsigned char lead)

@@ -54,7 +54,7 @@ void ExpectMade(const Golden &golden)
 {
     std::vector<std::string> arguments = {"-t", golden.type, "--no-check-resources"};
     if (golden.hidden == "yes")
-        arguments.push_back("--hidden");
+        arguments.emplace_back("--hidden");
     for (const std::string &argument :
          {golden.name + ".prc", golden.databaseName, golden.creator, golden.name + ".ro"})
         arguments.push_back(argument);

@@ -64,7 +64,8 @@ TEST(FormBytes, AreCountedBeyondTheLargestResource)
 
     form.Add({.kind = ObjectKind::table, .rows = 65535, .columns = 65535});
     form.Add({.kind = ObjectKind::popupList});
-    EXPECT_EQ(form.Size(), largestResource - 1 + 6 + 74 + 30u * 65535 + 8ull * 65535 * 65535 + 10);
+    EXPECT_EQ(form.Size(),
+              largestResource - 1 + 6 + 74 + 30ull * 65535 + 8ull * 65535 * 65535 + 10);
 }
 
 } // namespace

@@ -88,8 +88,11 @@ TEST(Messages, AboutPlacesOfOtherPrograms)
     for (const std::string place : {"AUTO", "CENTER", "RIGHT@10", "BOTTOM@10"}) {
         SCOPED_TRACE(place);
         const std::string word = place.substr(0, place.find('@'));
-        EXPECT_EQ(DiagnosticsOf(form + "GADGET ID 2 AT (" + place + " 5 6 7)"),
-                  "3 error number expected, not '" + word + "'\n");
+        std::string message = "3 error number expected, not '";
+        message.append(word).append("'\n");
+        EXPECT_EQ(
+            DiagnosticsOf(std::string(form).append("GADGET ID 2 AT (").append(place + " 5 6 7)")),
+            message);
     }
     EXPECT_EQ(DiagnosticsOf(form + "GADGET ID 2 AT (4 5 AUTO>10 7)"),
               "3 error number expected, not '>'\n");

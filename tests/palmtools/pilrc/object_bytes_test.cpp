@@ -180,7 +180,7 @@ TEST(ObjectBytes, OfTables)
     EXPECT_EQ(EncodedAs(filled), front + FromHex("4000 0003 0002") + std::string(58, '\0') +
                                      FromHex("000C 0000 0001") + none + FromHex("012C 0000 0001") +
                                      none + FromHex("0000 0000 0001") + none + row + row +
-                                     std::string(8 * 2 * 3, '\0'));
+                                     std::string(48, '\0'));
 
     FormObject fewer = filled;
     fewer.columns = 1;
@@ -214,9 +214,9 @@ TEST(ObjectBytes, HaveTheSizeThatWasReckoned)
 TEST(ObjectBytes, OfAHugeTableAreCountedWithoutBuildingIt)
 {
     const FormObject table = {.kind = Kind::table, .rows = 65535, .columns = 65535};
-    EXPECT_EQ(ObjectSize(table), 74u + 30u * 65535 + 8ull * 65535 * 65535);
+    EXPECT_EQ(ObjectSize(table), 74u + 30ull * 65535 + 8ull * 65535 * 65535);
     const FormObject rows = {.kind = Kind::table, .rows = 65535, .columns = 0};
-    EXPECT_EQ(ObjectSize(rows), 74u + 12u * 65535);
+    EXPECT_EQ(ObjectSize(rows), 74u + 12ull * 65535);
 }
 
 } // namespace

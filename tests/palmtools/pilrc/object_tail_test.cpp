@@ -42,7 +42,7 @@ TEST(ObjectTail, HasColumnsThenRowsThenCells)
     const std::string none(12, '\0');
     EXPECT_EQ(BytesOf(cellsTail, table),
               FromHex("0123 0000 0001") + none + FromHex("FFFF 0000 0001") + none +
-                  FromHex("0000 000B 00000000 01 01 0000") + std::string(2 * 8, '\0'));
+                  FromHex("0000 000B 00000000 01 01 0000") + std::string(16, '\0'));
 }
 
 TEST(ObjectTail, TakesTheWidthsThatThereAre)
@@ -57,7 +57,7 @@ TEST(ObjectTail, TakesTheWidthsThatThereAre)
 TEST(ObjectTail, IsCountedBeyond32Bits)
 {
     const FormObject table = {.kind = ObjectKind::table, .rows = 65535, .columns = 65535};
-    EXPECT_EQ(cellsTail.size(table), 30u * 65535 + 8ull * 65535 * 65535);
+    EXPECT_EQ(cellsTail.size(table), 30ull * 65535 + 8ull * 65535 * 65535);
 }
 
 } // namespace
