@@ -7,6 +7,8 @@
 #ifndef _WIN32
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
 #endif
 
 namespace palmtools {
@@ -109,6 +111,18 @@ private:
     rlimit m_before{};
     void (*m_signal)(int);
 };
+
+TEST(Files, AreReadFromAPipe)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo("pipe.rcp", 0600), 0);
+    const std::string bytes = Repeated("0123456789", 20000);
+    std::thread writer([&] { WriteContent("pipe.rcp", bytes); });
+    const auto read = ReadFile("pipe.rcp");
+    writer.join();
+    ASSERT_TRUE(read);
+    EXPECT_EQ(*read, bytes);
+}
 
 TEST(Files, StayAsTheyWereWhenTheDiskIsFull)
 {
