@@ -1,6 +1,8 @@
 #include "help/reader/compression_check.h"
 
+#include "help/archive_format.h"
 #include "help/reader/compression_format.h"
+#include "help/reader/file_bytes.h"
 
 #include <bit>
 
@@ -11,6 +13,7 @@ constexpr quint32 blockSize = 0x8000;
 /// A block that cannot be made smaller grows a little.
 constexpr quint64 longestBlock = blockSize + 6144;
 constexpr quint32 largestWindow = 0x200000;
+constexpr quint64 largestTable = 16 << 20;
 
 /// The window is a power of two, and the decoder starts anew after so many halves of it.
 bool IsSoundControlData(const QByteArray &data)
@@ -42,6 +45,15 @@ bool AreSoundBlocks(const QByteArray &table, qsizetype first, quint32 count)
     return true;
 }
 
+/// The bytes of an object that must be stored as it stands.
+std::optional<QByteArray> StoredBytes(QIODevice &file, const ArchiveHeader &header,
+                                      const ObjectPlace &place)
+{
+    if (place.section != archive::storedSection || place.length > largestTable)
+        return std::nullopt;
+    return BytesAt(file, header.contentStart + place.offset, place.length);
+}
+
 } // namespace
 
 std::optional<quint64> SizeBeforeCompression(const QByteArray &control, const QByteArray &table)
@@ -56,6 +68,21 @@ std::optional<quint64> SizeBeforeCompression(const QByteArray &control, const QB
         !AreSoundBlocks(table, qsizetype(first), count))
         return std::nullopt;
     return quint64(count) * blockSize;
+}
+
+bool IsCompressionSound(QIODevice &file, const ArchiveHeader &header,
+                        const ObjectDirectory &objects)
+{
+    const auto controlPlace = objects.Find(controlDataName);
+    const auto tablePlace = objects.Find(resetTableName);
+    if (!controlPlace && !tablePlace)
+        return true; // without both of them, nothing is ever decompressed
+    if (!controlPlace || !tablePlace)
+        return false;
+    const auto control = StoredBytes(file, header, *controlPlace);
+    const auto table = StoredBytes(file, header, *tablePlace);
+    const auto size = control && table ? SizeBeforeCompression(*control, *table) : std::nullopt;
+    return size && objects.EndOf(archive::compressedSection) <= *size;
 }
 
 } // namespace vellumo

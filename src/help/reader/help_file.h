@@ -1,16 +1,10 @@
 #pragma once
 
+#include "help/reader/archive.h"
 #include "help/reader/contents.h"
-#include "platform/result.h"
-
-#include <QByteArray>
-#include <QString>
 
 #include <map>
-#include <memory>
 #include <vector>
-
-struct chmFile;
 
 namespace vellumo {
 
@@ -22,7 +16,7 @@ public:
     /// Fails for what is no help file, or a damaged one, or one without a page to begin with.
     static Result<HelpFile> Open(const QString &path);
 
-    QString Path() const { return m_path; }
+    QString Path() const { return m_archive.Path(); }
     QString Title() const { return m_title; }
     QString DefaultPage() const { return m_defaultPage; }
     /// The default page for a number that the file does not know.
@@ -31,25 +25,18 @@ public:
     const std::vector<ContentsEntry> &Contents() const { return m_contents; }
 
     /// The bytes of a page or a picture; fails for one that is not there or has more than 16 MiB.
-    Result<QByteArray> Object(const QString &name) const;
+    Result<QByteArray> Object(const QString &name) const { return m_archive.Object(name); }
     /// The title that a page gives itself, or else its name.
     QString TitleOf(const QString &page) const;
 
 private:
-    struct Closer {
-        void operator()(chmFile *file) const;
-    };
-
-    HelpFile(QString path, chmFile *file);
-    bool Exists(const QString &name) const;
-    QString Locate(QString stored) const;
+    explicit HelpFile(Archive archive);
     QByteArray Internal(const QString &name) const;
     void ReadSystem();
     void ReadTopics();
     void ReadContentsFile(const QString &name);
 
-    QString m_path;
-    std::unique_ptr<chmFile, Closer> m_file;
+    Archive m_archive;
     QString m_title;
     QString m_defaultPage;
     std::map<quint32, QString> m_topics;

@@ -2,6 +2,7 @@
 
 #include "help/compiler/archive_writer.h"
 #include "help/compiler/help_compiler.h"
+#include "help/little_endian.h"
 #include "support/files.h"
 #include "support/print.h"
 
@@ -102,6 +103,54 @@ TEST(HelpFile, DropsLeadingFoldersOfStoredPaths)
     EXPECT_EQ(help->PageOf(5), u"Sub/c.html"_s);
     ASSERT_EQ(help->Contents().size(), 1u);
     EXPECT_EQ(help->Contents()[0].page, u"Sub/c.html#part"_s);
+}
+
+/// A help file with so many topics, each of which is stored with so many folders before it.
+QByteArray TopicsInFolders(int count, int folders)
+{
+    QByteArray strings(1, '\0'), pairs;
+    std::map<QByteArray, QByteArray> objects;
+    for (int i = 0; i < count; ++i) {
+        const QByteArray page = QByteArray::number(i) + ".html";
+        objects['/' + page] = "";
+        AppendLittle(pairs, quint32(i));
+        AppendLittle(pairs, quint32(strings.size()));
+        strings += QByteArray("a/").repeated(folders) + page + '\0';
+    }
+    QByteArray length;
+    AppendLittle(length, quint32(pairs.size()));
+    objects["/#SYSTEM"] = QByteArray("\x03\0\0\0\x02\0\x07\0", 8) + "0.html" + '\0';
+    objects["/#STRINGS"] = strings;
+    objects["/#IVB"] = length + pairs;
+    return WriteArchive(objects);
+}
+
+/// How often this process has read from a file until now, as the system counts it.
+qint64 ReadsUntilNow()
+{
+    const QList<QByteArray> lines = BytesOf(u"/proc/self/io"_s).split('\n');
+    for (const QByteArray &line : lines)
+        if (line.startsWith("syscr: "))
+            return line.sliced(7).toLongLong();
+    ADD_FAILURE() << "the system does not count";
+    return 0;
+}
+
+/// A topic's page was once looked up in the file anew for each folder in front of it.
+TEST(HelpFile, IsReadLessThanOncePerTopic)
+{
+    const Reader reader;
+    for (const int count : {1000, 4000})
+        for (const int folders : {0, 240}) {
+            SCOPED_TRACE(testing::Message() << count << " topics in " << folders << " folders");
+            ASSERT_TRUE(WriteBytes(reader.path, TopicsInFolders(count, folders)));
+            const qint64 before = ReadsUntilNow();
+            const auto help = HelpFile::Open(reader.path);
+            EXPECT_LT(ReadsUntilNow() - before, count / 4);
+            ASSERT_TRUE(help);
+            const QString last = QString::number(count - 1) + u".html"_s;
+            EXPECT_EQ(help->PageOf(quint32(count - 1)), last);
+        }
 }
 
 TEST(HelpFile, ReadsWhatAnotherProgramCompressed)
