@@ -29,7 +29,8 @@ struct DeliveredTexts {
 };
 
 /// What becomes of a project's texts on their way through a resource script: escapes are
-/// interpreted, an item with a comma becomes two, the folder ends in a backslash.
+/// interpreted, an item with a comma becomes two, the folder ends in a backslash
+/// (docs/palm-formats.md, "How the texts of a project arrive").
 ///
 /// A text with a character that windows-1252 lacks is a finding; what stands before the character
 /// is delivered then. The types must outlive the result.

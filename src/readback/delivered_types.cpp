@@ -19,7 +19,7 @@ const DeliveredType noType;
 
 } // namespace
 
-// docs/palm-formats.md, "The form of a question", has the same table in words.
+// docs/palm-formats.md, "The types of questions" and "The form of a question".
 const std::array<DeliveredType, 10> deliveredTypes = {{
     {.name = "Text"_L1,
      .typeCode = 0x00,

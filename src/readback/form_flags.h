@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// The flag words of forms and their objects (docs/palm-formats.md, "Flags").
+/// The flag words of forms and their objects (docs/palm-formats.md, "Forms").
 namespace vellumo::FormFlag {
 
 inline constexpr quint32 usable = 0x8000;  ///< of a form and every object but a scroll bar

@@ -25,7 +25,7 @@ struct Navigation {
     bool operator==(const Navigation &) const = default;
 };
 
-/// Decodes the navigation of a form ('fnav'; docs/palm-formats.md, "Navigation") to its last byte.
+/// Decodes the navigation of a form ('fnav'; docs/palm-formats.md, "Navigations") to its last byte.
 /// Fails as ReadForm does.
 Result<Navigation> ReadNavigation(const QByteArray &resource);
 

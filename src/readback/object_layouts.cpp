@@ -1,4 +1,4 @@
-// docs/palm-formats.md, "Objects", has these tables with what each place is for.
+// docs/palm-formats.md, "The objects of a form" and "Lists and tables", has these tables in words.
 
 #include "readback/object_layouts.h"
 

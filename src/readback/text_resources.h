@@ -7,6 +7,8 @@
 
 namespace vellumo {
 
+// docs/palm-formats.md, "The resources of a project".
+
 /// What follows the zero byte of a text: nothing, or a second one where the size would be odd.
 enum class Padding { None, ToEven };
 
