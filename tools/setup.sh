@@ -9,7 +9,7 @@ as_root() {
 
 # installed PACKAGE...: whether one of them is.
 installed() {
-    dpkg-query -W -f '${Status}\n' "$@" 2>/dev/null | grep 'ok installed' >/dev/null
+    [[ $(dpkg-query -W -f '${Status}\n' "$@" 2>/dev/null) == *'ok installed'* ]]
 }
 
 # first_offered PACKAGE...: the first that the system's package sources have. Where they have none,
@@ -17,7 +17,7 @@ installed() {
 first_offered() {
     local package
     for package in "$@"; do
-        if LC_ALL=C apt-cache policy "$package" | grep 'Candidate: [^(]' >/dev/null; then
+        if [[ $(LC_ALL=C apt-cache policy "$package") == *'Candidate: '[!\(]* ]]; then
             printf '%s\n' "$package"
             return
         fi
