@@ -98,7 +98,7 @@ Outcome DuplicateQuestion(clsDataSource &source)
     questions.Append(copy);
 
     if (HasItems(copy.Type))
-        source.ReplaceItems(copy.Id, source.ItemsOf(originalId));
+        source.AppendItems(copy.Id, source.ItemsOf(originalId));
     questions.SetPosition(position);
     return done;
 }

@@ -100,8 +100,9 @@ void AppendQuestion(clsDataSource &source, const Question &question)
            .Type = question.type,
            .ColumnName = question.columnName,
            .Id = source.IssueId()};
+    // Appended: a file may bring items under an Id that was never issued, and none of them is lost.
     if (HasItems(row.Type))
-        source.ReplaceItems(row.Id, question.items);
+        source.AppendItems(row.Id, question.items);
 }
 
 } // namespace vellumo

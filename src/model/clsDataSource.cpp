@@ -148,6 +148,11 @@ void clsDataSource::ReplaceItems(int questionId, const QStringList &items)
     FilterItems(questionId);
     Items().DeleteShown();
     ClearItemFilter();
+    AppendItems(questionId, items);
+}
+
+void clsDataSource::AppendItems(int questionId, const QStringList &items)
+{
     for (const QString &item : items)
         Items().Append({.Id = questionId, .Item = item});
 }

@@ -86,6 +86,8 @@ public:
     QStringList ItemsOf(int questionId) const;
     /// The items of every Id that has any, likewise; in one pass over the table.
     QHash<int, QStringList> ItemsById() const;
+    /// Appends items to the table under this Id.
+    void AppendItems(int questionId, const QStringList &items);
     /// Puts items in the place of those of the question with this Id, at the end of the table. No
     /// filter is set afterwards.
     void ReplaceItems(int questionId, const QStringList &items);

@@ -4,7 +4,8 @@
 
 namespace vellumo {
 
-// What a question may be at most, and what a person is told of more. Lengths are in UTF-16 units.
+// What a form and its questions may be at most, and what a person is told of more. Lengths are in
+// UTF-16 units. Messages that say "under" mean "at most".
 
 struct Limit {
     qsizetype most;
@@ -17,6 +18,13 @@ struct Limit {
     }
 };
 
+inline constexpr Limit formNameLimit = {
+    24, QLatin1StringView("Please keep the Vellsheet name under 24 characters in length.")};
+inline constexpr Limit formVersionLimit = {
+    32, QLatin1StringView("Please keep your Vellsheet Version under 32 characters in length.")};
+inline constexpr Limit descriptionLimit = {
+    200,
+    QLatin1StringView("Please keep your Vellsheet description under 200 characters in length.")};
 inline constexpr Limit questionCountLimit = {
     128, QLatin1StringView("The maximum number of questions is 128.")};
 inline constexpr Limit titleLimit = {

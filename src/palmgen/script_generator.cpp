@@ -1,5 +1,6 @@
 #include "palmgen/script_generator.h"
 
+#include "model/form_fields.h"
 #include "model/question_types.h"
 #include "model/texts.h"
 #include "palmgen/type_script.h"
@@ -9,7 +10,13 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+/// The count of questions is a byte of the resource 'flds'.
 constexpr int largestCount = 255;
+
+TextPlace PlaceOf(FormField field)
+{
+    return {RowOf(field).name};
+}
 
 /// Gathers the script; after a failure it gathers nothing more.
 class Writer
@@ -88,7 +95,7 @@ void Writer::WriteCodes(QByteArrayView header, QLatin1StringView (*codeOf)(QStri
 void Writer::WriteTexts(QStringView identifier)
 {
     Literal("hex\"desc\" ID 1003\r\n\"");
-    Text(EscapeScriptString(m_project.Description), {"description"_L1});
+    Text(EscapeScriptString(m_project.Description), PlaceOf(FormField::Description));
     Literal("\" 0x00\r\n\r\n");
     WriteColumnNames();
 
@@ -96,7 +103,7 @@ void Writer::WriteTexts(QStringView identifier)
     if (!folder.endsWith(u'\\'))
         folder += u'\\';
     Literal("HEX \"sdir\" id 1005\r\n\"");
-    Text(folder.replace(u'\\', u"\\\\"_s), {"data folder"_L1});
+    Text(folder.replace(u'\\', u"\\\\"_s), PlaceOf(FormField::DataFolder));
     Literal("\" 0x00\r\n\r\nHEX \"guid\" id 1006\r\n\"");
     Text(identifier, {"identifier"_L1});
     Literal("\" 0x00\r\n\r\n");
@@ -155,9 +162,9 @@ void Writer::WriteControls(int number, const QuestionRow &question)
 void Writer::WriteApplication()
 {
     Literal("applicationiconname id 1000 \"");
-    Text(m_project.FormName, {"form name"_L1});
+    Text(m_project.FormName, PlaceOf(FormField::Name));
     Literal("\"\r\nversion id 1 \"");
-    Text(m_project.FormVersion, {"form version"_L1});
+    Text(m_project.FormVersion, PlaceOf(FormField::Version));
     Literal("\"\r\n");
 }
 

@@ -35,11 +35,11 @@ class Delivery
 {
 public:
     Delivery(const Project &project, std::span<const DeliveredType> types, QList<Finding> &findings)
-        : m_project(project), m_types(types), m_findings(findings)
-    {
-        for (const ItemRow &row : project.source.Items().Rows())
-            m_items[row.Id].append(row.Item);
-    }
+        : m_project(project),
+          m_types(types),
+          m_findings(findings),
+          m_items(project.source.ItemsById())
+    {}
 
     DeliveredTexts Deliver() const
     {

@@ -35,12 +35,10 @@ bool StartsAtDriveRoot(QStringView path)
     return path.size() >= 3 && IsAsciiLetter(path[0]) && path[1] == u':' && path[2] == u'\\';
 }
 
-// The name becomes a file name, hence the characters that it may not hold. Messages that say
-// "under" mean "at most".
+// The name becomes a file name, hence the characters that it may not hold.
 constexpr TextCheck nameChecks[] = {
     {[](QStringView name) { return name.isEmpty(); }, "Please enter a name for your Vellsheet."_L1},
-    {[](QStringView name) { return name.size() > 24; },
-     "Please keep the Vellsheet name under 24 characters in length."_L1},
+    {[](QStringView name) { return name.size() > formNameLimit.most; }, formNameLimit.message},
     {[](QStringView name) { return HasAnyOf(name, u"|><?*:/\\\""); },
      "\"\\/:*?<>|are not allowed for file name"_L1},
     {[](QStringView name) { return name.contains(u' '); },
@@ -48,8 +46,8 @@ constexpr TextCheck nameChecks[] = {
 };
 
 constexpr TextCheck versionChecks[] = {
-    {[](QStringView version) { return version.size() > 32; },
-     "Please keep your Vellsheet Version under 32 characters in length."_L1},
+    {[](QStringView version) { return version.size() > formVersionLimit.most; },
+     formVersionLimit.message},
     {[](QStringView version) { return version.contains(u' '); },
      "Spaces in the Vellsheet Version are not allowed."_L1},
     {[](QStringView version) { return version.contains(u'"'); },
@@ -57,8 +55,8 @@ constexpr TextCheck versionChecks[] = {
 };
 
 constexpr TextCheck descriptionChecks[] = {
-    {[](QStringView description) { return description.size() > 200; },
-     "Please keep your Vellsheet description under 200 characters in length."_L1},
+    {[](QStringView description) { return description.size() > descriptionLimit.most; },
+     descriptionLimit.message},
     {[](QStringView description) { return HasAnyOf(description, u"\r\n"); },
      "Carriage returns are not allowed in description."_L1},
 };

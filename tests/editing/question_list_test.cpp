@@ -180,6 +180,17 @@ TEST(DuplicateQuestion, AppendsACopyWithItsItems)
     EXPECT_EQ(source.Items().Count(), 8) << "the filter is gone";
 }
 
+TEST(DuplicateQuestion, LosesNoItemsWhereTheNextIdIsInUse)
+{
+    clsDataSource source;
+    source.GetDataMember();
+    source.SetMaxId(7); // as a file may have it
+    source.Questions().Append({.Order = 1, .Type = u"Checkboxes"_s, .ColumnName = u"a"_s, .Id = 7});
+    source.AppendItems(7, {u"kept"_s});
+    EXPECT_TRUE(DuplicateQuestion(source));
+    EXPECT_EQ(source.ItemsOf(7), (QStringList{u"kept"_s, u"kept"_s}));
+}
+
 TEST(DuplicateQuestion, LeavesTheItemsOfATypeWithoutAListAlone)
 {
     clsDataSource source = SourceWith(1);

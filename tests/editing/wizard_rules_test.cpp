@@ -226,6 +226,15 @@ TEST(WizardRules, AppendAQuestionAfterTheOthers)
     EXPECT_EQ(source.Items().Rows()[1].Item, u"Tit"_s);
 }
 
+TEST(WizardRules, AppendLosesNoItemsWhereTheNextIdIsInUse)
+{
+    clsDataSource source = SourceWith({u"first"_s});
+    source.SetMaxId(5); // as a file may have it
+    source.AppendItems(5, {u"kept"_s});
+    AppendQuestion(source, {.type = checkboxes, .columnName = u"bird"_s, .items = {u"Wren"_s}});
+    EXPECT_EQ(source.ItemsOf(5), (QStringList{u"kept"_s, u"Wren"_s}));
+}
+
 TEST(WizardRules, AppendItemsOnlyWhereATypeHasThem)
 {
     for (const auto &[id, type, kind, data, items] : questionTypes) {

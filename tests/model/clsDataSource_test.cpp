@@ -253,4 +253,6 @@ TEST(DataSource, ReplacesTheItemsOfOneQuestion)
     EXPECT_EQ(source.Items().Count(), 3) << "no filter is left";
     source.ReplaceItems(7, {});
     EXPECT_EQ(source.ItemsOf(7), QStringList());
+    source.AppendItems(3, {u"y"_s});
+    EXPECT_EQ(source.ItemsOf(3), (QStringList{u"x"_s, u"y"_s}));
 }

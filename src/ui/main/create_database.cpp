@@ -5,6 +5,7 @@
 #include "ui/common/prompts.h"
 
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -16,9 +17,8 @@ CreateReport MakeWithWaitCursor(const Project &project, const CreatePlace &place
                                 const QString &identifier)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    CreateReport report = MakeDatabase(project, place, identifier);
-    QGuiApplication::restoreOverrideCursor();
-    return report;
+    const auto restore = qScopeGuard(QGuiApplication::restoreOverrideCursor);
+    return MakeDatabase(project, place, identifier);
 }
 
 } // namespace

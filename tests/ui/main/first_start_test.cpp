@@ -18,10 +18,10 @@ using namespace std::chrono_literals;
 namespace {
 
 /// A whole start against folders and a web site of the test's own.
-class StartWindows : public testing::Test
+class FirstStart : public testing::Test
 {
 protected:
-    StartWindows()
+    FirstStart()
     {
         qunsetenv("http_proxy");
         m_environment.applicationFolder = m_folder.path();
@@ -40,7 +40,7 @@ protected:
     Environment m_environment;
 };
 
-TEST_F(StartWindows, FirstStartWithAFileChosenAndTheBoxUnticked)
+TEST_F(FirstStart, WithAFileChosenAndTheBoxUnticked)
 {
     const PromptScript script({m_folder.filePath(u"a.vmp"_s)});
     bool splashSeen = false;
@@ -61,7 +61,7 @@ TEST_F(StartWindows, FirstStartWithAFileChosenAndTheBoxUnticked)
               "<Vmdesigner>\r\n<ShowOpenForm>0</ShowOpenForm>\r\n</Vmdesigner>\r\n");
 }
 
-TEST_F(StartWindows, TellsOfADamagedSettingsFileInAPlainBox)
+TEST_F(FirstStart, TellsOfADamagedSettingsFileInAPlainBox)
 {
     ASSERT_TRUE(
         WriteBytes(SettingsFile(), "<Vmdesigner><ShowOpenForm>2</ShowOpenForm></Vmdesigner>"));
