@@ -80,10 +80,10 @@ void ReplaceQuestion(benchmark::State &state)
     Project project = LargestProject();
     project.source.MoveLast();
     const Question edited = {.title = u"Kind"_s,
-                                   .question = u"Which kind?"_s,
-                                   .type = u"Pulldown List"_s,
-                                   .columnName = u"Kind"_s,
-                                   .items = Numbered(255)};
+                             .question = u"Which kind?"_s,
+                             .type = u"Pulldown List"_s,
+                             .columnName = u"Kind"_s,
+                             .items = Numbered(255)};
     for (auto _ : state) {
         if (!ObjectionsTo(edited, project.source).isEmpty())
             state.SkipWithError("refused");

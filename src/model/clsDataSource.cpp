@@ -160,14 +160,14 @@ void clsDataSource::AppendItems(int questionId, const QStringList &items)
 bool clsDataSource::ColumnNameExists(QStringView name) const
 {
     return std::ranges::any_of(Questions().Shown(),
-                               [name](const QuestionRow &row) { return row.ColumnName == name; });
+                               [name](const QuestionRow *row) { return row->ColumnName == name; });
 }
 
 bool clsDataSource::ColumnNameUsedElsewhere(QStringView name) const
 {
     const QuestionRow *current = AtEnd() || AtStart() ? nullptr : &Questions().Current();
-    return std::ranges::any_of(Questions().Shown(), [name, current](const QuestionRow &row) {
-        return row.ColumnName == name && &row != current;
+    return std::ranges::any_of(Questions().Shown(), [name, current](const QuestionRow *row) {
+        return row->ColumnName == name && row != current;
     });
 }
 

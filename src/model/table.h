@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <deque>
 #include <functional>
-#include <ranges>
+#include <vector>
 
 namespace vellumo {
 
@@ -31,10 +31,15 @@ public:
     /// All rows, whatever the filter, in table order.
     const std::deque<Row> &Rows() const { return m_rows; }
 
-    /// The rows that pass the filter, in table order; the cursor stays where it is.
-    auto Shown() const
+    /// The rows that pass the filter, in table order; good until a row is added or deleted. The
+    /// cursor stays where it is.
+    std::vector<const Row *> Shown() const
     {
-        return m_rows | std::views::filter([this](const Row &row) { return Passes(row); });
+        std::vector<const Row *> shown;
+        for (const Row &row : m_rows)
+            if (Passes(row))
+                shown.push_back(&row);
+        return shown;
     }
 
     Position GetPosition() const { return m_cursor; }

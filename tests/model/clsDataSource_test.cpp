@@ -32,8 +32,8 @@ void AddItem(clsDataSource &source, int questionId, const QString &item)
 QStringList ShownItems(const clsDataSource &source)
 {
     QStringList items;
-    for (const ItemRow &row : source.Items().Shown())
-        items.append(row.Item);
+    for (const ItemRow *row : source.Items().Shown())
+        items.append(row->Item);
     return items;
 }
 

@@ -20,8 +20,10 @@ Numbers TableOf(std::initializer_list<int> numbers)
 
 std::vector<int> Shown(const Numbers &table)
 {
-    auto shown = table.Shown();
-    return {shown.begin(), shown.end()};
+    std::vector<int> shown;
+    for (const int *number : table.Shown())
+        shown.push_back(*number);
+    return shown;
 }
 
 bool IsEven(int number)
