@@ -17,7 +17,7 @@ constexpr char firstContent[] = "<Vmdesigner>\r\n"
                                 "<ShowOpenForm>1</ShowOpenForm>\r\n"
                                 "</Vmdesigner>";
 
-constexpr FileLimit settingsLimit = {16 * 1024 * 1024, "settings file"_L1};
+constexpr FileLimit settingsLimit = {16LL * 1024 * 1024, "settings file"_L1};
 
 struct Settings {
     QString showOpenForm;

@@ -8,7 +8,7 @@
 namespace vellumo {
 
 /// Of files that are read as databases.
-inline constexpr FileLimit databaseLimit = {16 * 1024 * 1024, QLatin1StringView("database")};
+inline constexpr FileLimit databaseLimit = {16LL * 1024 * 1024, QLatin1StringView("database")};
 
 /// What tells one resource of a database from another.
 struct ResourceKey {
