@@ -1,5 +1,6 @@
 #include "support/print.h"
 #include "ui/common/plain_text.h"
+#include "ui/common/step_page.h"
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
 
@@ -16,6 +17,45 @@ void Paste(const Designer &designer, const char *box, const QString &text)
 {
     QApplication::clipboard()->setText(text);
     QTest::keyClick(designer.Find<QWidget>(box), Qt::Key_V, Qt::ControlModifier);
+}
+
+/// The project's fields, in their order.
+QStringList TextsOf(const Project &project)
+{
+    QStringList texts;
+    for (const FormFieldRow &row : formFields)
+        texts += project.*row.text;
+    return texts;
+}
+
+/// Goes to the box of a field on the step that is shown, and types one letter there. False where
+/// the step has none.
+bool TypedInto(const Designer &designer, FormField field)
+{
+    if (QWidget *focus = QApplication::focusWidget())
+        focus->clearFocus();
+    auto *page = qobject_cast<StepPage *>(designer.Find<QTabWidget>("SSTab1")->currentWidget());
+    page->Focus(field);
+    if (QWidget *box = QApplication::focusWidget())
+        QTest::keyClick(box, Qt::Key_A);
+    return QApplication::focusWidget();
+}
+
+TEST(FormTexts, HaveABoxEachOnOneStep)
+{
+    const Designer designer;
+    QStringList expected = TextsOf(designer.project());
+    for (qsizetype i = 0; const FormFieldRow &row : formFields) {
+        SCOPED_TRACE(QString(row.name).toStdString());
+        expected[i++] = u"a"_s;
+        int boxes = 0;
+        for (int step = 1; step <= 4; ++step) {
+            designer.ClickTab(step);
+            boxes += TypedInto(designer, row.field) ? 1 : 0;
+        }
+        EXPECT_EQ(boxes, 1);
+        EXPECT_EQ(TextsOf(designer.project()), expected);
+    }
 }
 
 TEST(FormTexts, RefuseTheirKeys)
