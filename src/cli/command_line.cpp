@@ -8,12 +8,13 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+// Without descriptions: --help is made from the rows of the commands.
 const QCommandLineOption output = {{u"o"_s, u"output"_s}, {}, u"NAME"_s};
 const QCommandLineOption identifier = {u"guid"_s, {}, u"HEX32"_s};
 const QCommandLineOption timeout = {u"timeout"_s, {}, u"SECONDS"_s};
 const QCommandLineOption json(u"json"_s);
 
-constexpr int longestTimeout = 24 * 60 * 60;
+constexpr int longestTimeout = 24 * 60 * 60; // in milliseconds still an int
 
 Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape)
 {
@@ -40,6 +41,7 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
         parser.addOption(identifier);
     if (shape.timeout)
         parser.addOption(timeout);
+    // The parser takes the first word for the program's name.
     if (!parser.parse(QStringList{u"vellumo"_s} + words))
         return Error{parser.errorText()};
 
@@ -56,7 +58,7 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
             return Error{u"The identifier of --guid must be 32 hexadecimal digits."_s};
     }
     if (shape.timeout && parser.isSet(timeout)) {
-        line.timeoutSeconds = parser.value(timeout).toInt();
+        line.timeoutSeconds = parser.value(timeout).toInt(); // 0 where it is no number
         if (line.timeoutSeconds < 1 || line.timeoutSeconds > longestTimeout)
             return Error{u"The time of --timeout must be 1 to %1 seconds."_s.arg(longestTimeout)};
     }

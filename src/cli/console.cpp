@@ -18,7 +18,7 @@ QString ForPerson(const Notice &notice)
 QLatin1StringView CodeOf(Exit exit)
 {
     switch (exit) {
-    case Exit::Fine:
+    case Exit::Fine: // nobody refuses with it
     case Exit::NotPassed:
         return "not-passed"_L1;
     case Exit::WrongUse:

@@ -99,6 +99,7 @@ private:
             return Fail(Exit::NotPassed, report.error.text);
         if (report.end == CreateEnd::FileRefused)
             return Refuse(m_console, Exit::NotWritten, {report.error.text, folder});
+        // The first that failed is the cause: each is run whatever the one before it says.
         for (const ToolRun &run : report.runs)
             if (const QString fault = ToolFault(run, m_line.timeoutSeconds); !fault.isEmpty())
                 return Fail(Exit::ToolFailed, fault);
@@ -114,6 +115,7 @@ private:
             return Fail(Exit::ToolFailed, bytes.error().text);
         if (!Agrees(*bytes, project, InputName(m_input), m_console))
             return Exit::ToolFailed;
+        // An older database makes room, that of another project of this call does not.
         if (m_made.contains(target))
             return Fail(Exit::NotWritten, u"its database would take the place of that of %1"_s.arg(
                                               m_made.value(target)));
@@ -136,6 +138,7 @@ private:
 Exit CreateDatabases(const CommandLine &line, const Console &console)
 {
     const QString folder = line.output.isEmpty() ? ProjectsFolder() : line.output;
+    // Only our own folder is made; one that is named has to be there.
     if (line.output.isEmpty() && !MakeProjectsFolder())
         return Refuse(console, Exit::NotWritten, {u"The folder cannot be made"_s, folder});
     if (!QFileInfo(folder).isDir())

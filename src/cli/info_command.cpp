@@ -73,6 +73,7 @@ void TellPerson(const Info &info, const Console &console)
     };
     for (const Info::Fact &fact : info.facts)
         tell(u"%1: %2"_s.arg(fact.name, fact.value.toVariant().toString()));
+    // The lists of a database need not agree: value() is empty beyond the end of one.
     for (qsizetype i = 0; i < LongestList(info); ++i)
         tell(u"%1. %2, %3: %4"_s.arg(QString::number(i + 1), info.types.value(i),
                                      info.columnNames.value(i), info.titles.value(i)));

@@ -17,7 +17,7 @@ bool IsStream(const QString &name)
 
 Result<QByteArray> ReadStream(const FileLimit &limit, const Console &console)
 {
-    QByteArray bytes(limit.bytes + 1, Qt::Uninitialized);
+    QByteArray bytes(limit.bytes + 1, Qt::Uninitialized); // one more shows that there are too many
     console.in.read(bytes.data(), bytes.size());
     bytes.truncate(console.in.gcount());
     if (console.in.bad())

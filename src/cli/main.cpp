@@ -9,6 +9,7 @@ using namespace vellumo;
 
 int main(int argc, char *argv[])
 {
+    // Knows the program's folder, and the words as text whatever their encoding.
     const QCoreApplication application(argc, argv);
     return RunVellumo(application.arguments().sliced(1),
                       {.in = std::cin,

@@ -56,6 +56,7 @@ Exit RewriteProject(const CommandLine &line, const Console &console)
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
 
+    // A project in another encoding is read with characters that windows-1252 lacks.
     const Result<QByteArray> bytes = WriteProject(*project);
     if (!bytes)
         return Refuse(console, Exit::NotWritten, {bytes.error().text, InputName(input)});

@@ -44,6 +44,7 @@ std::vector<Notice> ReviewNotices(Project &project, const QString &inputName)
                            .shown = ListText(entry),
                            .file = inputName,
                            .field = entry.field});
+    // After the review, which takes the blanks off the texts that are judged here.
     for (const DeliveryWarning &warning : FindDeliveryWarnings(project))
         notices.push_back({.kind = "warning"_L1,
                            .code = warning.code,

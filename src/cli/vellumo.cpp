@@ -49,11 +49,13 @@ Exit Run(const QStringList &words, const Console &console)
 
 int RunVellumo(const QStringList &words, Console console)
 {
+    // Before the words are understood, so that wrong use is told as JSON, too.
     console.json = HasOption(words, u"--json"_s);
     const Exit exit = Run(words, console);
+    // What the stream still holds may meet a full disk only now.
     if (console.out.flush())
         return static_cast<int>(exit);
-    console.json = false;
+    console.json = false; // else the complaint would go where nothing can be written
     return static_cast<int>(
         std::max(exit, Refuse(console, Exit::NotWritten,
                               {u"Standard output cannot be written."_s, u"vellumo"_s})));
