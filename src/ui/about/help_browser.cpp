@@ -15,7 +15,7 @@ const QString helpScheme = u"help"_s;
 
 HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
 {
-    setOpenLinks(false);
+    setOpenLinks(false); // where one leads is for the window to decide
     document()->setDocumentMargin(12);
 }
 
@@ -26,6 +26,7 @@ void HelpBrowser::ShowPage(const QString &page)
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &url)
 {
+    // The base class's own way, to look on disk, is never taken.
     const QString name = NameIn(url);
     if (!m_file || name.isEmpty())
         return {};
@@ -39,6 +40,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl &url)
 
 QUrl HelpBrowser::AddressOf(const QString &page)
 {
+    // With a scheme and a root, a link that is relative to its page resolves as in the file.
     const qsizetype anchor = page.indexOf(u'#');
     QUrl address;
     address.setScheme(helpScheme);

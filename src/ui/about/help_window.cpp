@@ -29,6 +29,8 @@ HelpWindow::HelpWindow(HelpFile file, std::function<void(const QString &)> openL
     FillContents();
     CentreOnScreen(*this);
 
+    // Not the change of the current entry: TellPage makes it current. Whether a click activates is
+    // the style's choice, Enter always does.
     connect(ui->treContents, &QTreeWidget::itemClicked, this, &HelpWindow::ShowEntry);
     connect(ui->treContents, &QTreeWidget::itemActivated, this, &HelpWindow::ShowEntry);
     connect(ui->txtPage, &HelpBrowser::anchorClicked, this, &HelpWindow::FollowLink);
@@ -73,7 +75,7 @@ void HelpWindow::FillContents()
 {
     QList<QTreeWidgetItem *> above{ui->treContents->invisibleRootItem()};
     for (const ContentsEntry &entry : m_file.Contents()) {
-        above.resize(entry.level + 1);
+        above.resize(entry.level + 1); // no line is more than one level below that before it
         auto *item = new QTreeWidgetItem(above.last(), {entry.title});
         item->setData(0, pageRole, entry.page);
         above += item;
@@ -85,7 +87,7 @@ void HelpWindow::FillContents()
 void HelpWindow::ShowEntry(const QTreeWidgetItem *entry)
 {
     const QString page = entry->data(0, pageRole).toString();
-    if (!page.isEmpty())
+    if (!page.isEmpty()) // as a heading's is
         ui->txtPage->ShowPage(page);
 }
 
@@ -94,6 +96,7 @@ void HelpWindow::FollowLink(const QUrl &address)
     const QString page = HelpBrowser::NameIn(address);
     if (!page.isEmpty())
         ui->txtPage->setSource(address);
+    // Anybody's help file may be shown: no file, program or mail is opened from it.
     else if (address.scheme() == u"https" || address.scheme() == u"http")
         m_openLink(address.toString());
 }

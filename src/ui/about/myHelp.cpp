@@ -23,6 +23,7 @@ QWidget *OwnerFor(QWidget *asker)
 
 myHelp::~myHelp()
 {
+    // A window without an owner has nobody else to delete it.
     for (const auto &window : m_windows)
         delete window;
 }

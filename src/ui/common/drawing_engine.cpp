@@ -50,6 +50,7 @@ QPixmap DrawingEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State 
 void DrawingEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
                           QIcon::State state)
 {
+    // In the pixels of the device, which drawPixmap fits into the rectangle.
     const qreal ratio = painter->device()->devicePixelRatio();
     painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
 }

@@ -60,7 +60,7 @@ void FieldBox::Show()
     if (text == m_shown)
         return;
     const QScopedValueRollback showing(m_showing, true);
-    m_shown = text;
+    m_shown = text; // first, as the box's signal leads back here
     m_setText(text);
 }
 
@@ -71,7 +71,7 @@ void FieldBox::Focus()
 
 void FieldBox::Take(const QString &text)
 {
-    if (!m_showing)
+    if (!m_showing) // else the box may have made other line ends of it
         m_shown = text;
     m_document.SetText(m_field, m_shown);
 }

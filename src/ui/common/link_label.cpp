@@ -39,6 +39,7 @@ void LinkLabel::keyPressEvent(QKeyEvent *event)
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent *event)
 {
+    // As with a button: one that is let go elsewhere is not followed.
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         emit Followed();
 }
@@ -48,6 +49,7 @@ void LinkLabel::paintEvent(QPaintEvent *event)
     QLabel::paintEvent(event);
     if (!hasFocus())
         return;
+    // A label draws no mark of the focus by itself.
     QStylePainter painter(this);
     QStyleOptionFocusRect focus;
     focus.initFrom(this);

@@ -5,7 +5,7 @@ namespace vellumo {
 void ProjectDocument::Replace(Project project, const QString &path)
 {
     {
-        const Announcement announcement(*this);
+        const Announcement announcement(*this); // of the questions, until the end of the block
         m_project = std::move(project);
         m_path = path;
     }

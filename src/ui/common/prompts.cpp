@@ -6,6 +6,7 @@ namespace vellumo {
 
 QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box)
 {
+    // Not one of the toolkit's ready boxes, which take a text that looks like markup for markup.
     QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
     shown.setTextFormat(Qt::PlainText);
     shown.setDefaultButton(box.defaultButton);

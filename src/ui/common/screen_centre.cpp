@@ -8,6 +8,7 @@ namespace vellumo {
 
 void CentreOnScreen(QWidget &window)
 {
+    // A window that is not shown yet has no size of its own unless it was given one.
     if (!window.testAttribute(Qt::WA_Resized))
         window.adjustSize();
     const QRect screen = window.screen()->geometry();

@@ -22,7 +22,8 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// The first of a command's keys that the platform names, or else the given one.
+/// The keys that the platform has for a command, or else the given one: some platforms have none
+/// for saving under another name and for leaving.
 QList<QKeySequence> KeysOf(QKeySequence::StandardKey standard, const QKeySequence &other)
 {
     const QList<QKeySequence> keys = QKeySequence::keyBindings(standard);
@@ -60,6 +61,7 @@ void appInfoForm::AddSteps()
     ui->SSTab1->addTab(m_questions, u"2: Vellsheet Questions"_s);
     ui->SSTab1->addTab(m_data, u"3: Vellsheet Data"_s);
     ui->SSTab1->addTab(m_complete, u"4: Complete Vellsheet"_s);
+    // Only now: that the first tab came to be the current one was no change of steps.
     connect(ui->SSTab1, &QTabWidget::currentChanged, this, &appInfoForm::ChangeStep);
 }
 
@@ -105,7 +107,7 @@ void appInfoForm::ConnectToolbar()
 void appInfoForm::FinishSetUp()
 {
     SelectStep(1);
-    m_info->Enter();
+    m_info->Enter(); // also where step 1 was the selected one already
     m_document.SetProjectChanged(false);
     m_formReady = true;
     LayOutIfLargeEnough();
@@ -117,6 +119,7 @@ void appInfoForm::New()
         return;
     m_document.Replace({}, {});
     SelectStep(1);
+    // Last: emptied boxes and a step that is left can count as changes.
     m_document.SetProjectChanged(false);
 }
 
@@ -174,6 +177,7 @@ void appInfoForm::resizeEvent(QResizeEvent *event)
 
 void appInfoForm::LayOutIfLargeEnough()
 {
+    // 790 by 576 pixels, in the unit in which the limit was set.
     constexpr int twipsPerPixel = 15;
     if (width() * twipsPerPixel >= 11850 && height() * twipsPerPixel >= 8640)
         m_questions->LayOut();
@@ -181,6 +185,7 @@ void appInfoForm::LayOutIfLargeEnough()
 
 void appInfoForm::LeaveForward(int step)
 {
+    // The rules take the blanks off the texts, so a look at them can be a change.
     const StepVerdict verdict =
         m_document.ChangeTexts([step](Project &project) { return CheckStep(step, project); });
     if (verdict.failed)
@@ -199,14 +204,14 @@ void appInfoForm::ChangeStep(int tabIndex)
     MarkLeftStep();
     m_step = tabIndex + 1;
     m_steps[static_cast<size_t>(tabIndex)]->Enter();
-    if (m_step == 4)
+    if (m_step == 4) // each visit needs a review of its own
         MarkStep(4, false);
     LayOutIfLargeEnough();
 }
 
 void appInfoForm::MarkLeftStep()
 {
-    if (m_step == 4)
+    if (m_step == 4) // its mark is the review's
         return;
     const StepVerdict verdict =
         m_document.ChangeTexts([this](Project &project) { return CheckStep(m_step, project); });
@@ -220,6 +225,7 @@ void appInfoForm::MarkStep(int step, bool valid)
     ui->SSTab1->setTabIcon(tab, Picture(picture));
     QTabBar *bar = ui->SSTab1->tabBar();
     bar->setTabData(tab, picture);
+    // The mark is a picture, which a screen reader does not read.
     bar->setAccessibleTabName(tab, ui->SSTab1->tabText(tab) +
                                        (valid ? u", valid"_s : u", not valid yet"_s));
 }
@@ -244,7 +250,7 @@ void appInfoForm::Review(bool showResults)
 
 void appInfoForm::GoToError(const ReviewEntry &entry)
 {
-    SelectStep(entry.step);
+    SelectStep(entry.step); // first, as entering a step moves the focus, too
     if (entry.leadsTo)
         m_steps[static_cast<size_t>(entry.step - 1)]->Focus(*entry.leadsTo);
 }

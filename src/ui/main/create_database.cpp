@@ -33,6 +33,7 @@ void CreateDatabase(const Project &project, const Environment &environment, QWid
         ShowBox(window, {.text = message, .icon = QMessageBox::Warning, .title = u"Error"_s});
     if (report.end != CreateEnd::BuildEnded)
         return ShowCritical(window, MessageOfFailure(report));
+    // By intention also after a tool that failed: here only one that did not start is noticed.
     ShowInformation(window, MessageOfSuccess(report, folders));
     environment.open(folders.databases + report.name + ".prc"_L1);
     environment.open(folders.databases);

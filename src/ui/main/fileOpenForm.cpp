@@ -57,7 +57,7 @@ void fileOpenForm::ChooseFile()
     QFileDialog dialog(this, {}, m_projectsFolder, u"VMP Files (*.vmp)"_s);
     dialog.setObjectName(u"fileOpenDialog"_s);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    m_dialogSeen = true;
+    m_dialogSeen = true; // also where it is cancelled: OK does not ask again
     if (dialog.exec() == QDialog::Accepted)
         m_path = QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
     ShowFileName();

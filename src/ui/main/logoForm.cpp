@@ -26,7 +26,7 @@ logoForm::logoForm(const Environment &environment, Check check, QWidget *parent)
 
     m_timer->setObjectName(u"Timer1"_s);
     m_timer->setSingleShot(true);
-    m_timer->setTimerType(Qt::PreciseTimer);
+    m_timer->setTimerType(Qt::PreciseTimer); // a coarse one may be off by a twentieth
     m_timer->setInterval(environment.splashDuration);
     connect(m_timer, &QTimer::timeout, this, &logoForm::CheckAndClose);
 }
@@ -39,7 +39,7 @@ void logoForm::reject() {}
 void logoForm::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (!event->spontaneous())
+    if (!event->spontaneous()) // one of those comes when the window was put away
         m_timer->start();
 }
 

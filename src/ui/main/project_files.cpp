@@ -40,6 +40,7 @@ void ProjectFiles::SaveAs()
     if (path.isEmpty())
         return SaveTo(ChooseTarget(m_environment.projectsFolder, {}));
     const QFileInfo file(path);
+    // A name without a folder means the application folder, as it does on the command line.
     const bool bareName = file.fileName() == path;
     SaveTo(ChooseTarget(bareName ? m_environment.applicationFolder : file.path(), file.fileName()));
 }
@@ -54,6 +55,8 @@ bool ProjectFiles::MayDiscard(Reason reason)
 {
     if (!m_document.ProjectChanged())
         return true;
+    // By intention the title bar's button remembers a save that failed before, from the menu: then
+    // the window stays once more, even if it is saved now.
     if (reason != Reason::CloseBox)
         m_saveCancelled = false;
 
@@ -68,6 +71,7 @@ bool ProjectFiles::MayDiscard(Reason reason)
 
 QString ProjectFiles::ChooseProject()
 {
+    // The blank at the end belongs to the title, here and where a project is saved.
     QFileDialog dialog(m_window, u"Open File "_s, m_environment.projectsFolder,
                        u"VMP Files (*.vmp)"_s);
     dialog.setFileMode(QFileDialog::ExistingFile);

@@ -40,6 +40,7 @@ void StepComplete::AllowCreation(bool allowed)
 
 void StepComplete::ChooseError()
 {
+    // By the selection, as Enter brings no item with it.
     const QModelIndexList selected = ui->lstError->selectionModel()->selectedIndexes();
     if (!selected.isEmpty())
         emit ErrorChosen(m_entries[static_cast<size_t>(selected.constFirst().row())]);

@@ -25,6 +25,7 @@ StepData::~StepData() = default;
 
 void StepData::Browse()
 {
+    // By intention without an owner, and from above all drives.
     QFileDialog picker(nullptr, u"Select a folder"_s, QDir::rootPath());
     picker.setFileMode(QFileDialog::Directory);
     picker.setOption(QFileDialog::ShowDirsOnly);

@@ -13,6 +13,7 @@
 namespace vellumo {
 namespace {
 
+/// Whether the toolkit asks the system for proxies by itself is decided where it is built.
 class SystemProxies : public QNetworkProxyFactory
 {
 public:
@@ -35,6 +36,7 @@ QNetworkRequest RequestFor(const QUrl &address)
     return request;
 }
 
+/// The page of a failure has text, too, and it may look like an answer.
 bool Succeeded(const QNetworkReply &reply)
 {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -48,7 +50,7 @@ QByteArray StartOfAnswer(const QUrl &address, qint64 size, std::chrono::millisec
     QNetworkAccessManager manager;
     manager.setProxyFactory(new SystemProxies);
     const std::unique_ptr<QNetworkReply> reply(manager.get(RequestFor(address)));
-    reply->setReadBufferSize(size);
+    reply->setReadBufferSize(size); // no more than that is fetched ahead
 
     QEventLoop waiting;
     QObject::connect(reply.get(), &QNetworkReply::finished, &waiting, &QEventLoop::quit);

@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+/// The rules tell of what is too long; a box that cut it off would hide that.
 constexpr int longestText = 16777216;
 
 } // namespace
@@ -63,7 +64,7 @@ void frmWizard::ConfigureTitleBox()
 void frmWizard::OfferTitles()
 {
     ui->cboWiz2_1->addItems(m_document.project().TitleList);
-    ui->cboWiz2_1->setCurrentIndex(-1);
+    ui->cboWiz2_1->setCurrentIndex(-1); // a list that is filled chooses its first entry
 }
 
 void frmWizard::ConnectControls()
@@ -97,6 +98,7 @@ void frmWizard::changeEvent(QEvent *event)
 
 QWidget *frmWizard::Input() const
 {
+    // By step; the numbers in the names go their own way, here and in ShowPanel.
     QWidget *const inputs[] = {ui->lstWiz1_1, ui->cboWiz2_1, ui->txtWiz5_1, ui->txtWiz3_1,
                                ui->items->List()};
     return inputs[m_step - 1];
@@ -159,10 +161,10 @@ void frmWizard::GoNext()
 {
     Question entered = Entered();
     const QString objection = ObjectionToNext(m_step, entered, m_document.source());
-    ShowTrimmed(entered);
+    ShowTrimmed(entered); // also where it is refused
     if (!objection.isEmpty()) {
         ShowExclamation(this, objection);
-        if (m_step > 1)
+        if (m_step > 1) // by intention not on step 1, nor on step 5 where finishing is refused
             Input()->setFocus();
         return;
     }
@@ -237,6 +239,7 @@ Question frmWizard::Entered() const
 
 void frmWizard::ShowTrimmed(const Question &entered)
 {
+    // A text that is set anew sends the cursor elsewhere, so the same one is left alone.
     if (ui->txtWiz5_1->text() != entered.columnName)
         ui->txtWiz5_1->setText(entered.columnName);
     if (TextOf(*ui->txtWiz3_1) != entered.question)

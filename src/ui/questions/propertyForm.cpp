@@ -57,6 +57,7 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     RefuseKeys(ui->txtColumnName, u"\""_s, noQuotes);
     RefuseKeys(ui->txtQuestion, u"\r\n"_s, u"Carriage returns are not allowed."_s);
 
+    // Whenever a type is picked, also the same one: that brings back the stored items.
     connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);
     connect(ui->cmdOK, &QPushButton::clicked, this, &propertyForm::SaveUnlessRefused);
     connect(ui->cmdCancel, &QPushButton::clicked, this, &propertyForm::reject);
@@ -107,6 +108,7 @@ void propertyForm::SaveUnlessRefused()
 {
     Question edited = Edited();
     TrimEdited(edited);
+    // Shown also where it is refused. The column name keeps its blanks, by intention.
     ui->txtTitle->setText(edited.title);
     ui->txtQuestion->setPlainText(edited.question);
 

@@ -30,6 +30,7 @@ static_assert(HasRowPerType(typePictures));
 QFont InPixels(QFont font, int pixels)
 {
     font.setPixelSize(pixels);
+    // Where the fixed pitch's family is missing, another of its kind stands in.
     font.setStyleHint(font.family() == "Courier New"_L1 ? QFont::Monospace : font.styleHint());
     return font;
 }

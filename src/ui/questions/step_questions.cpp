@@ -54,6 +54,7 @@ void StepQuestions::ConnectButtons()
         {Qt::Key_Return, ui->cmdView},     {Qt::Key_Enter, ui->cmdView},
         {Qt::ALT | Qt::Key_Up, ui->cmdUp}, {Qt::ALT | Qt::Key_Down, ui->cmdDown},
     };
+    // In the grid alone: in a text box they have a meaning of their own.
     for (const auto &[key, button] : keys)
         connect(new QShortcut(key, ui->DataGrid1, nullptr, nullptr, Qt::WidgetShortcut),
                 &QShortcut::activated, button, &QToolButton::click);
@@ -74,7 +75,7 @@ void StepQuestions::ConnectGrid()
 
 bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyRelease) {
+    if (event->type() == QEvent::KeyRelease) { // the press has moved the grid to its row
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
             key == Qt::Key_PageDown)
@@ -91,6 +92,7 @@ void StepQuestions::Add()
 
     frmWizard wizard(document(), window());
     connect(&wizard, &frmWizard::HelpAsked, this, &StepQuestions::HelpAsked);
+    // The wizard makes several questions in a row, and each is shown behind it.
     connect(&document(), &ProjectDocument::QuestionsChanged, &wizard, [this] { RefreshPreview(); });
     wizard.exec();
     RefreshPreview();
@@ -137,7 +139,7 @@ void StepQuestions::Duplicate()
     if (AskYesNo(window(), u"Are you sure you want to duplicate this question?"_s) == "No"_L1)
         return;
 
-    m_previewPending = false;
+    m_previewPending = false; // or the grid's reset would refresh the preview as well
     const Outcome duplicated = document().ChangeQuestions(DuplicateQuestion);
     if (!duplicated)
         return ShowExclamation(window(), duplicated.error().text);
