@@ -3,7 +3,6 @@
 #include "cli/inputs.h"
 #include "cli/review_command.h"
 #include "cli/verify_command.h"
-#include "model/texts.h"
 #include "palmgen/build_with_tools.h"
 #include "palmgen/create_pass.h"
 #include "platform/files.h"
@@ -77,11 +76,13 @@ public:
         const QTemporaryDir work;
         if (!work.isValid())
             return Refuse(m_console, Exit::NotWritten, {work.errorString(), temporary});
-        const Exit built = Build(*project, work.path());
-        if (built != Exit::Fine)
-            return built;
-        const QString name = TrimBlanks(project->FormName).toString() + ".prc"_L1;
-        return PutInPlace(work.filePath(name), QDir(folder).filePath(name), *project);
+        const CreateReport report =
+            MakeDatabase(*project, PrivatePlace(work.path(), m_line),
+                         m_line.identifier.isEmpty() ? MakeIdentifier() : m_line.identifier);
+        if (const Exit judged = Judge(report, work.path()); judged != Exit::Fine)
+            return judged;
+        const QString name = QFileInfo(report.database).fileName();
+        return PutInPlace(report.database, QDir(folder).filePath(name), *project);
     }
 
 private:
@@ -90,15 +91,18 @@ private:
         return Refuse(m_console, exit, {reason, InputName(m_input)});
     }
 
-    Exit Build(const Project &project, const QString &folder) const
+    Exit Judge(const CreateReport &report, const QString &folder) const
     {
-        const QString identifier =
-            m_line.identifier.isEmpty() ? MakeIdentifier() : m_line.identifier;
-        const CreateReport report = MakeDatabase(project, PrivatePlace(folder, m_line), identifier);
-        if (report.end == CreateEnd::ProjectRefused)
+        switch (report.end) {
+        case CreateEnd::ProjectRefused:
             return Fail(Exit::NotPassed, report.error.text);
-        if (report.end == CreateEnd::FileRefused)
+        case CreateEnd::FileRefused:
             return Refuse(m_console, Exit::NotWritten, {report.error.text, folder});
+        case CreateEnd::BuildFailed:
+            return Fail(Exit::ToolFailed, report.error.text);
+        case CreateEnd::BuildEnded:
+            break;
+        }
         // The first that failed is the cause: each is run whatever the one before it says.
         for (const ToolRun &run : report.runs)
             if (const QString fault = ToolFault(run, m_line.timeoutSeconds); !fault.isEmpty())

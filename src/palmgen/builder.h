@@ -19,6 +19,7 @@ struct BuildFolders {
 struct BuildReport {
     QList<ToolRun> runs = {}; ///< in their order; empty where no tool was used
     Outcome outcome = done;   ///< the error of a file that could not be written or deleted
+    Outcome made = done;      ///< why the script became no database, where no tool's run tells it
 };
 
 /// How a script becomes the database <folders.databases><name>.prc. The name is a plain file name.

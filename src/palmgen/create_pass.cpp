@@ -22,6 +22,7 @@ CreateReport MakeDatabase(const Project &project, const CreatePlace &place,
                           const QString &identifier)
 {
     CreateReport report = {.name = TrimBlanks(project.FormName).toString()};
+    report.database = place.folders.databases + report.name + ".prc"_L1;
     const auto refused = [&report](CreateEnd end, const Error &error) {
         report.end = end;
         report.error = error;
@@ -38,6 +39,8 @@ CreateReport MakeDatabase(const Project &project, const CreatePlace &place,
         return refused(CreateEnd::FileRefused, built.outcome.error());
     if (!script.outcome)
         return refused(CreateEnd::ProjectRefused, script.outcome.error());
+    if (!built.made)
+        return refused(CreateEnd::BuildFailed, built.made.error());
     return report;
 }
 

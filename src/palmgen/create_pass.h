@@ -16,6 +16,7 @@ enum class CreateEnd {
     BuildEnded,     ///< to the end of the build; whether the tools succeeded, their runs tell
     ProjectRefused, ///< the project is not one that a script can be made of
     FileRefused,    ///< a file could not be written or deleted
+    BuildFailed,    ///< the build itself refused the script
 };
 
 /// What a Create pass did.
@@ -24,6 +25,7 @@ struct CreateReport {
     Error error = {};         ///< why it came no further
     QList<ToolRun> runs = {}; ///< empty when no tool was to run
     QString name = {};        ///< of the database, without its folder and ending
+    QString database = {};    ///< the path of its file
 };
 
 /// Makes the database of a project in the place: its name is the form name without the blanks at

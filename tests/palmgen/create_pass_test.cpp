@@ -49,6 +49,7 @@ TEST_F(CreatePass, HandsTheScriptToTheBuilder)
     const CreateReport report = Create();
     EXPECT_EQ(report.end, CreateEnd::BuildEnded) << "whatever the tools said";
     EXPECT_EQ(report.name, u"Survey"_s);
+    EXPECT_EQ(report.database, u"/projects/Survey.prc"_s);
     ASSERT_EQ(report.runs.size(), 1);
     EXPECT_EQ(report.runs[0].commandLine, u"a tool"_s);
     EXPECT_EQ(names, QStringList{u"Survey"_s});
@@ -80,6 +81,14 @@ TEST_F(CreatePass, AFileThatCannotBeWrittenEndsThePass)
     EXPECT_EQ(report.end, CreateEnd::FileRefused);
     EXPECT_EQ(report.error.file, u"a.rcp"_s);
     EXPECT_TRUE(report.error.permissionDenied);
+}
+
+TEST_F(CreatePass, TellsWhyABuildRefusedTheScript)
+{
+    built.made = Error{u"Survey.rcp:3: no such object"_s};
+    const CreateReport report = Create();
+    EXPECT_EQ(report.end, CreateEnd::BuildFailed);
+    EXPECT_EQ(report.error.text, u"Survey.rcp:3: no such object"_s);
 }
 
 TEST_F(CreatePass, TakesNoNameThatLeadsElsewhere)

@@ -35,7 +35,7 @@ void CreateDatabase(const Project &project, const Environment &environment, QWid
         return ShowCritical(window, MessageOfFailure(report));
     // By intention also after a tool that failed: here only one that did not start is noticed.
     ShowInformation(window, MessageOfSuccess(report, folders));
-    environment.open(folders.databases + report.name + ".prc"_L1);
+    environment.open(report.database);
     environment.open(folders.databases);
 }
 
