@@ -8,6 +8,7 @@ namespace vellumo {
 
 /// The texts that identify a Vellsheet, in the order in which files and reviews have them.
 enum class FormField { Name, Version, Description, DataFolder };
+inline constexpr size_t formFieldCount = 4;
 
 /// All that the program knows of such a text, but its rule and its box.
 struct FormFieldRow {
@@ -19,31 +20,31 @@ struct FormFieldRow {
 };
 
 /// A row for each field, in the order of FormField.
-inline constexpr std::array formFields = {
-    FormFieldRow{FormField::Name, &Project::FormName, QLatin1StringView("FormName"),
-                 QLatin1StringView("form name"), QLatin1StringView("name")},
-    FormFieldRow{FormField::Version, &Project::FormVersion, QLatin1StringView("FormVersion"),
-                 QLatin1StringView("form version"), QLatin1StringView("version")},
-    FormFieldRow{FormField::Description,
-                 &Project::Description,
-                 QLatin1StringView("Description"),
-                 QLatin1StringView("description"),
-                 {}},
-    FormFieldRow{FormField::DataFolder,
-                 &Project::FormPath,
-                 QLatin1StringView("FormPath"),
-                 QLatin1StringView("data folder"),
-                 {}},
-};
+inline constexpr std::array<FormFieldRow, formFieldCount> formFields = {{
+    {FormField::Name, &Project::FormName, QLatin1StringView("FormName"),
+     QLatin1StringView("form name"), QLatin1StringView("name")},
+    {FormField::Version, &Project::FormVersion, QLatin1StringView("FormVersion"),
+     QLatin1StringView("form version"), QLatin1StringView("version")},
+    {FormField::Description,
+     &Project::Description,
+     QLatin1StringView("Description"),
+     QLatin1StringView("description"),
+     {}},
+    {FormField::DataFolder,
+     &Project::FormPath,
+     QLatin1StringView("FormPath"),
+     QLatin1StringView("data folder"),
+     {}},
+}};
 
 /// Whether some rows are one for each field, in the order of FormField. For static_assert: a table
 /// of another room that lacks a field does not compile.
 template <typename Rows> consteval bool HasRowPerField(const Rows &rows)
 {
-    if (std::size(rows) != formFields.size())
+    if (std::size(rows) != formFieldCount)
         return false;
-    for (size_t i = 0; i < formFields.size(); ++i)
-        if (rows[i].field != formFields[i].field)
+    for (size_t i = 0; i < formFieldCount; ++i)
+        if (rows[i].field != FormField(i))
             return false;
     return true;
 }
