@@ -24,7 +24,7 @@ void HelpPage(benchmark::State &state)
     myHelp help(environment);
     QWidget asker;
     asker.show();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         help.ShowHelp(HH_HELP_CONTEXT, HelpContext::questionWizard, &asker);
         auto *window = asker.findChild<HelpWindow *>();
         if (!window) {
@@ -61,7 +61,7 @@ void EditItems(benchmark::State &state)
         editor.findChild<QPushButton *>(QLatin1StringView(button))->click();
         QApplication::processEvents();
     };
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         editor.SetItems(items);
         click("cmd_sort");
         editor.List()->setCurrentIndex(
@@ -84,7 +84,7 @@ void ReplaceQuestion(benchmark::State &state)
                              .type = u"Pulldown List"_s,
                              .columnName = u"Kind"_s,
                              .items = Numbered(255)};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (!ObjectionsTo(edited, project.source).isEmpty())
             state.SkipWithError("refused");
         ReplaceCurrentQuestion(project.source, edited);

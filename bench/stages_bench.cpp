@@ -48,7 +48,7 @@ void Load(benchmark::State &state, MakeProject make)
 {
     const Project project = make(static_cast<int>(state.range(0)));
     const QByteArray bytes = FileOf(project);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(ReadProject(bytes));
     CountItems(state, project);
 }
@@ -56,7 +56,7 @@ void Load(benchmark::State &state, MakeProject make)
 void Save(benchmark::State &state, MakeProject make)
 {
     const Project project = make(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(WriteProject(project));
     CountItems(state, project);
 }
@@ -64,7 +64,7 @@ void Save(benchmark::State &state, MakeProject make)
 void Script(benchmark::State &state, MakeProject make)
 {
     const Project project = make(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(ScriptOf(project));
     CountItems(state, project);
 }
@@ -73,7 +73,7 @@ void Compile(benchmark::State &state, MakeProject make)
 {
     const Project project = make(static_cast<int>(state.range(0)));
     const QByteArray script = ScriptOf(project);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(palmtools::CompileScript(ViewOf(script)));
     CountItems(state, project);
 }
@@ -83,7 +83,7 @@ void Package(benchmark::State &state, MakeProject make)
     const Project project = make(static_cast<int>(state.range(0)));
     const auto compiled = palmtools::CompileScript(ViewOf(ScriptOf(project)));
     const palmtools::DatabaseHeader header = {.name = "sample", .hidden = true};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto sorted = palmtools::Sorted(palmtools::ViewsOf(compiled.resources));
         benchmark::DoNotOptimize(palmtools::EncodeDatabase(header, *sorted));
     }

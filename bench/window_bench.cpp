@@ -58,7 +58,7 @@ void Move(benchmark::State &state)
 {
     Desk desk(state);
     bool down = true;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         desk.Click(down ? "cmdDown" : "cmdUp");
         down = !down;
     }
@@ -67,7 +67,7 @@ void Move(benchmark::State &state)
 void Duplicate(benchmark::State &state)
 {
     Desk desk(state);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (!desk.document.ChangeQuestions(DuplicateQuestion))
             state.SkipWithError("not duplicated");
         desk.step.Enter();
@@ -84,7 +84,7 @@ void Duplicate(benchmark::State &state)
 void RefreshPreview(benchmark::State &state)
 {
     Desk desk(state);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         desk.step.Enter();
         QApplication::processEvents();
     }
@@ -93,7 +93,7 @@ void RefreshPreview(benchmark::State &state)
 void RefreshGrid(benchmark::State &state)
 {
     Desk desk(state);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         desk.document.ChangeQuestions([](clsDataSource &) {});
         QApplication::processEvents();
     }
@@ -109,7 +109,7 @@ void LoadAndReview(benchmark::State &state)
 {
     const QTemporaryDir folder;
     const QString path = LargestFile(folder);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         Result<Project> project = LoadProject(path);
         if (!project)
             return state.SkipWithError("not loaded");
@@ -121,7 +121,7 @@ void OpenInWindow(benchmark::State &state)
 {
     const QTemporaryDir folder;
     const QString path = LargestFile(folder);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         appInfoForm window{Environment()};
         window.OpenProject(path);
         window.FinishSetUp();

@@ -26,7 +26,7 @@ QString FreeColumnName(const clsDataSource &source, const QString &name)
 {
     const QString trimmed = TrimBlanks(name).toString();
     for (int n = 1;; ++n) {
-        const QString candidate = trimmed + u'(' + QString::number(n) + u')';
+        QString candidate = trimmed + u'(' + QString::number(n) + u')';
         if (candidate.size() > columnNameLimit.most)
             return {};
         if (!source.ColumnNameExists(candidate))

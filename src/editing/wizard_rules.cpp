@@ -70,7 +70,7 @@ QString ObjectionToNext(int step, Question &entered, const clsDataSource &source
         Trim(entered.columnName);
     if (step == 4)
         Trim(entered.question);
-    const QString objection = FirstObjection(rulesOfNext[step - 1], entered);
+    QString objection = FirstObjection(rulesOfNext[step - 1], entered);
     if (step == 3 && objection.isEmpty() && source.ColumnNameExists(entered.columnName))
         return columnNameExists;
     return objection;

@@ -6,13 +6,10 @@
 
 #include <array>
 
-namespace vellumo {
-
 // The outer form of a compiled help file, which docs/help-file.md has in tables: a header, a
 // directory of chunks that names every object, and the objects one after the other. A structure
 // begins with its tag; offsets count from there.
-
-namespace archive {
+namespace vellumo::archive {
 
 using Guid = std::array<unsigned char, 16>;
 
@@ -115,6 +112,4 @@ inline void PutGuid(QByteArray &structure, qsizetype offset, const Guid &guid)
     structure.replace(offset, qsizetype(guid.size()), QByteArrayView(guid));
 }
 
-} // namespace archive
-
-} // namespace vellumo
+} // namespace vellumo::archive

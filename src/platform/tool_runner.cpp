@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-constexpr qsizetype mostMessages = 64 * 1024; // in bytes
+constexpr qsizetype mostMessages = 65536; // in bytes
 
 QString FindTool(const QString &name, const QStringList &folders)
 {

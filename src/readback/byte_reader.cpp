@@ -33,7 +33,7 @@ QByteArray ByteReader::TakeText()
     const qsizetype end = m_bytes.indexOf('\0', m_offset);
     if (end < 0)
         Refuse(u"the text at byte %1 has no end"_s.arg(m_offset));
-    const QByteArray text = Take(end - m_offset).toByteArray();
+    QByteArray text = Take(end - m_offset).toByteArray();
     Take(1);
     return text;
 }

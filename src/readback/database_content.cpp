@@ -39,7 +39,7 @@ template <auto read, auto part>
 Outcome DecodeSingle(const PalmResource &resource, bool belongs, DatabaseContent &content)
 {
     auto decoded = read(resource.data);
-    const Outcome outcome = decoded ? done : Outcome(decoded.error());
+    Outcome outcome = decoded ? done : Outcome(decoded.error());
     if (belongs)
         content.*part = std::move(decoded);
     return outcome;

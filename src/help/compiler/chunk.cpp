@@ -13,7 +13,7 @@ constexpr std::size_t entriesPerMark = 1 + (1 << chunkDensity);
 /// The number of entries, and a mark each time that so many of them stand before another one.
 qsizetype TailSize(std::size_t entries)
 {
-    return qsizetype(sizeof(quint16) * (1 + (entries - 1) / entriesPerMark));
+    return qsizetype(sizeof(quint16)) * qsizetype(1 + (entries - 1) / entriesPerMark);
 }
 
 } // namespace

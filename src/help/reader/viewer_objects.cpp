@@ -27,7 +27,8 @@ QString TextAt(QByteArrayView bytes, quint64 offset)
     if (offset >= quint64(bytes.size()))
         return {};
     const QByteArrayView text = bytes.sliced(qsizetype(offset));
-    return DecodeHtml(text.first(qstrnlen(text.data(), size_t(LengthToKeep(text)))).toByteArray());
+    const auto length = qsizetype(qstrnlen(text.data(), size_t(LengthToKeep(text))));
+    return DecodeHtml(text.first(length).toByteArray());
 }
 
 std::map<quint16, QString> ReadSystemItems(QByteArrayView bytes)

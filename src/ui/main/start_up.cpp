@@ -29,7 +29,7 @@ Start AskForProject(const Environment &environment)
 
 QString ProjectOfCommandLine(const QStringList &arguments, const QString &applicationFolder)
 {
-    const QString commandLine = arguments.join(u' ');
+    QString commandLine = arguments.join(u' ');
     if (commandLine.isEmpty() || commandLine.contains(QDir::separator()))
         return commandLine;
     return applicationFolder + QDir::separator() + commandLine;

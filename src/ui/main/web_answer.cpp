@@ -61,7 +61,7 @@ QByteArray StartOfAnswer(const QUrl &address, qint64 size, std::chrono::millisec
     QTimer::singleShot(timeOut, Qt::PreciseTimer, &waiting, &QEventLoop::quit);
     waiting.exec();
 
-    const QByteArray start = Succeeded(*reply) ? reply->read(size) : QByteArray();
+    QByteArray start = Succeeded(*reply) ? reply->read(size) : QByteArray();
     reply->abort();
     return start;
 }
