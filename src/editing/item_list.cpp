@@ -1,6 +1,6 @@
 #include "editing/item_list.h"
 
-#include "editing/question_rules.h"
+#include "model/limits.h"
 #include "model/question_types.h"
 #include "model/texts.h"
 
@@ -62,7 +62,7 @@ QString ObjectionToItem(QStringView text)
 {
     if (text.size() > itemLimit.most)
         return itemLimit.message;
-    return text.contains(u'"') ? QString(noDoubleQuotes) : QString();
+    return text.contains(u'"') ? QString(doubleQuotes.message) : QString();
 }
 
 QString ItemList::RefusalToAdd(const ItemListHost &host, QStringView type) const

@@ -1,5 +1,6 @@
 #include "editing/question_rules.h"
 
+#include "model/limits.h"
 #include "model/question_types.h"
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,7 @@ QLatin1StringView TitleTooLong(const Question &question)
 
 QLatin1StringView TitleWithQuotes(const Question &question)
 {
-    return If(question.title.contains(u'"'), noDoubleQuotes);
+    return If(question.title.contains(u'"'), doubleQuotes.message);
 }
 
 QLatin1StringView ColumnNameMissing(const Question &question)
@@ -41,7 +42,7 @@ QLatin1StringView ColumnNameTooLong(const Question &question)
 
 QLatin1StringView ColumnNameWithQuotes(const Question &question)
 {
-    return If(question.columnName.contains(u'"'), noDoubleQuotes);
+    return If(question.columnName.contains(u'"'), doubleQuotes.message);
 }
 
 QLatin1StringView TextMissing(const Question &question)

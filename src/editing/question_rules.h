@@ -25,7 +25,6 @@ QLatin1StringView TextTooLong(const Question &question);
 QLatin1StringView ItemsMissing(const Question &question);
 QLatin1StringView ItemsTooMany(const Question &question);
 
-inline constexpr QLatin1StringView noDoubleQuotes{"Double quotes are not allowed."};
 inline constexpr QLatin1StringView columnNameExists{
     "The column name already exists. Please enter a different name."};
 

@@ -4,8 +4,9 @@
 
 namespace vellumo {
 
-// What a form and its questions may be at most, and what a person is told of more. Lengths are in
-// UTF-16 units. Messages that say "under" mean "at most".
+// What a form and its questions may be at most, which characters some of their texts may not hold,
+// and what a person is told who goes beyond. Lengths are in UTF-16 units. Messages that say "under"
+// mean "at most".
 
 struct Limit {
     qsizetype most;
@@ -39,5 +40,19 @@ inline constexpr Limit pulldownLimit = {
     255, QLatin1StringView("Please keep the list to 255 items or less.")};
 inline constexpr Limit checkboxLimit = {
     32, QLatin1StringView("Please keep the Check Box to 32 items or less.")};
+
+/// Characters that are refused, and what is said to who types one.
+struct RefusedCharacters {
+    QLatin1StringView characters, message;
+};
+
+inline constexpr RefusedCharacters doubleQuotes = {
+    QLatin1StringView("\""), QLatin1StringView("Double quotes are not allowed.")};
+inline constexpr RefusedCharacters lineBreaks = {
+    QLatin1StringView("\r\n"), QLatin1StringView("Carriage returns are not allowed.")};
+/// Of a form name, which becomes the name of files.
+inline constexpr RefusedCharacters fileNameCharacters = {
+    QLatin1StringView("\"\\/:*?<>|"),
+    QLatin1StringView("\"\\/:*?<>|are not allowed for file name")};
 
 } // namespace vellumo

@@ -19,7 +19,7 @@ template <typename Subject> struct Check {
 using TextCheck = Check<QStringView>;
 using CountCheck = Check<int>;
 
-bool HasAnyOf(QStringView text, QStringView characters)
+bool HasAnyOf(QStringView text, QLatin1StringView characters)
 {
     return std::ranges::any_of(text, [characters](QChar c) { return characters.contains(c); });
 }
@@ -39,8 +39,8 @@ bool StartsAtDriveRoot(QStringView path)
 constexpr TextCheck nameChecks[] = {
     {[](QStringView name) { return name.isEmpty(); }, "Please enter a name for your Vellsheet."_L1},
     {[](QStringView name) { return name.size() > formNameLimit.most; }, formNameLimit.message},
-    {[](QStringView name) { return HasAnyOf(name, u"|><?*:/\\\""); },
-     "\"\\/:*?<>|are not allowed for file name"_L1},
+    {[](QStringView name) { return HasAnyOf(name, fileNameCharacters.characters); },
+     fileNameCharacters.message},
     {[](QStringView name) { return name.contains(u' '); },
      "Spaces in the Vellsheet name are not allowed."_L1},
 };
@@ -57,7 +57,7 @@ constexpr TextCheck versionChecks[] = {
 constexpr TextCheck descriptionChecks[] = {
     {[](QStringView description) { return description.size() > descriptionLimit.most; },
      descriptionLimit.message},
-    {[](QStringView description) { return HasAnyOf(description, u"\r\n"); },
+    {[](QStringView description) { return HasAnyOf(description, lineBreaks.characters); },
      "Carriage returns are not allowed in description."_L1},
 };
 
@@ -66,8 +66,8 @@ constexpr QLatin1StringView invalidFolder = "This is not a valid directory name.
 constexpr TextCheck folderChecks[] = {
     {[](QStringView folder) { return folder.isEmpty(); },
      "Please provide a default data directory path."_L1},
-    {[](QStringView folder) { return HasAnyOf(folder.mid(2), u"\":"); }, invalidFolder},
-    {[](QStringView folder) { return HasAnyOf(folder, u"?>*/|<"); }, invalidFolder},
+    {[](QStringView folder) { return HasAnyOf(folder.mid(2), "\":"_L1); }, invalidFolder},
+    {[](QStringView folder) { return HasAnyOf(folder, "?>*/|<"_L1); }, invalidFolder},
     {[](QStringView folder) { return !StartsAtDriveRoot(folder); }, invalidFolder},
 };
 

@@ -13,21 +13,17 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// The keys that the box of a field refuses, and what it then says.
+/// The keys that the box of a field refuses.
 struct RefusedKeys {
     FormField field;
-    QLatin1StringView keys, message;
+    RefusedCharacters refused;
 };
 
 constexpr std::array refusedKeys = {
-    RefusedKeys{FormField::Name, QLatin1StringView("\"*/:<>?\\|"),
-                QLatin1StringView("\"\\/:*?<>|are not allowed for file name")},
-    RefusedKeys{FormField::Version, QLatin1StringView("\""),
-                QLatin1StringView("Double quotes are not allowed.")},
-    RefusedKeys{FormField::Description, QLatin1StringView("\r\n"),
-                QLatin1StringView("Carriage returns are not allowed.")},
-    RefusedKeys{FormField::DataFolder, QLatin1StringView("\""),
-                QLatin1StringView("Double quotes are not allowed.")},
+    RefusedKeys{FormField::Name, fileNameCharacters},
+    RefusedKeys{FormField::Version, doubleQuotes},
+    RefusedKeys{FormField::Description, lineBreaks},
+    RefusedKeys{FormField::DataFolder, doubleQuotes},
 };
 static_assert(HasRowPerField(refusedKeys));
 
@@ -36,8 +32,7 @@ static_assert(HasRowPerField(refusedKeys));
 FieldBox::FieldBox(ProjectDocument &document, FormField field, QWidget *box)
     : m_document(document), m_field(field), m_box(box)
 {
-    const RefusedKeys &refused = refusedKeys[static_cast<size_t>(field)];
-    RefuseKeys(box, refused.keys, refused.message);
+    RefuseKeys(box, refusedKeys[static_cast<size_t>(field)].refused);
 }
 
 FieldBox::FieldBox(ProjectDocument &document, FormField field, QLineEdit *box)

@@ -8,24 +8,23 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace vellumo {
 namespace {
 
 class KeyFilter : public QObject
 {
 public:
-    KeyFilter(QWidget *box, QString characters, QString message)
-        : QObject(box),
-          m_box(box),
-          m_characters(std::move(characters)),
-          m_message(std::move(message))
+    KeyFilter(QWidget *box, const RefusedCharacters &refused)
+        : QObject(box), m_box(box), m_refused(refused)
     {}
 
     bool eventFilter(QObject *, QEvent *event) override
     {
         if (!IsRefused(TypedBy(event)))
             return false;
-        ShowExclamation(m_box, m_message);
+        ShowExclamation(m_box, m_refused.message);
         return true;
     }
 
@@ -40,24 +39,24 @@ private:
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
             return key->text();
-        return key->modifiers() & Qt::ControlModifier ? QStringLiteral("\n") : QStringLiteral("\r");
+        return key->modifiers() & Qt::ControlModifier ? u"\n"_s : u"\r"_s;
     }
 
     bool IsRefused(const QString &typed) const
     {
-        return std::ranges::any_of(typed, [this](QChar c) { return m_characters.contains(c); });
+        return std::ranges::any_of(typed,
+                                   [this](QChar c) { return m_refused.characters.contains(c); });
     }
 
     QWidget *m_box;
-    QString m_characters;
-    QString m_message;
+    RefusedCharacters m_refused;
 };
 
 } // namespace
 
-void RefuseKeys(QWidget *box, const QString &characters, const QString &message)
+void RefuseKeys(QWidget *box, const RefusedCharacters &refused)
 {
-    box->installEventFilter(new KeyFilter(box, characters, message));
+    box->installEventFilter(new KeyFilter(box, refused));
 }
 
 } // namespace vellumo

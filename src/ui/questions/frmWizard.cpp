@@ -39,12 +39,11 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
                                           .down = u"cmdWiz4_Down"_s});
     ui->lblWiz4_1->setBuddy(ui->items->List());
 
-    const QString quotes = u"Double quotes are not allowed."_s;
     // The drop-down has the focus and passes on to its edit line what is typed.
-    RefuseKeys(ui->cboWiz2_1, u"\""_s, quotes);
-    RefuseKeys(ui->cboWiz2_1->lineEdit(), u"\""_s, quotes);
-    RefuseKeys(ui->txtWiz5_1, u"\""_s, quotes);
-    RefuseKeys(ui->txtWiz3_1, u"\r\n"_s, u"Carriage returns are not allowed."_s);
+    RefuseKeys(ui->cboWiz2_1, doubleQuotes);
+    RefuseKeys(ui->cboWiz2_1->lineEdit(), doubleQuotes);
+    RefuseKeys(ui->txtWiz5_1, doubleQuotes);
+    RefuseKeys(ui->txtWiz3_1, lineBreaks);
 
     ConnectControls();
     PlaceTypeLink();

@@ -52,10 +52,9 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     ShowQuestion();
     ui->txtTitle->setFocus();
 
-    const QString noQuotes = u"Double quotes are not allowed."_s;
-    RefuseKeys(ui->txtTitle, u"\""_s, noQuotes);
-    RefuseKeys(ui->txtColumnName, u"\""_s, noQuotes);
-    RefuseKeys(ui->txtQuestion, u"\r\n"_s, u"Carriage returns are not allowed."_s);
+    RefuseKeys(ui->txtTitle, doubleQuotes);
+    RefuseKeys(ui->txtColumnName, doubleQuotes);
+    RefuseKeys(ui->txtQuestion, lineBreaks);
 
     // Whenever a type is picked, also the same one: that brings back the stored items.
     connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);

@@ -16,12 +16,12 @@ using namespace vellumo;
 
 namespace {
 
-const QString refusal = u"Not that one."_s;
+constexpr QLatin1StringView refusal = "Not that one."_L1;
 
 TEST(KeyFilter, RefusesACharacterThatIsTyped)
 {
     QLineEdit box;
-    RefuseKeys(&box, u"\"|"_s, refusal);
+    RefuseKeys(&box, {"\"|"_L1, refusal});
     const PromptScript script({u"OK"_s, u"OK"_s});
 
     QTest::keyClicks(&box, u"a|b\"c"_s);
@@ -35,7 +35,7 @@ TEST(KeyFilter, RefusesACharacterThatIsTyped)
 TEST(KeyFilter, RefusesWhatADeadKeyComposed)
 {
     QLineEdit box;
-    RefuseKeys(&box, u"\""_s, refusal);
+    RefuseKeys(&box, {"\""_L1, refusal});
     const PromptScript script({u"OK"_s});
 
     QInputMethodEvent composed;
@@ -49,7 +49,7 @@ TEST(KeyFilter, RefusesWhatADeadKeyComposed)
 TEST(KeyFilter, LetsPastedTextPass)
 {
     QLineEdit box;
-    RefuseKeys(&box, u"\""_s, refusal);
+    RefuseKeys(&box, {"\""_L1, refusal});
     const PromptScript script;
 
     QApplication::clipboard()->setText(u"a \"b\""_s);
@@ -63,20 +63,20 @@ TEST(KeyFilter, KnowsEnterAndCtrlEnterApart)
 {
     const struct {
         const char *what;
-        QString refused;
+        QLatin1StringView refused;
         Qt::KeyboardModifiers held;
         int boxes;
     } rows[] = {
-        {"Enter is 13", u"\r"_s, Qt::NoModifier, 1},
-        {"Ctrl+Enter is not 13", u"\r"_s, Qt::ControlModifier, 0},
-        {"Ctrl+Enter is 10", u"\n"_s, Qt::ControlModifier, 1},
-        {"Enter is not 10", u"\n"_s, Qt::NoModifier, 0},
-        {"Shift does not help", u"\r"_s, Qt::ShiftModifier, 1},
+        {"Enter is 13", "\r"_L1, Qt::NoModifier, 1},
+        {"Ctrl+Enter is not 13", "\r"_L1, Qt::ControlModifier, 0},
+        {"Ctrl+Enter is 10", "\n"_L1, Qt::ControlModifier, 1},
+        {"Enter is not 10", "\n"_L1, Qt::NoModifier, 0},
+        {"Shift does not help", "\r"_L1, Qt::ShiftModifier, 1},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
         QPlainTextEdit box;
-        RefuseKeys(&box, row.refused, refusal);
+        RefuseKeys(&box, {row.refused, refusal});
         const PromptScript script(QStringList(row.boxes, u"OK"_s));
         QTest::keyClick(&box, Qt::Key_Return, row.held);
         EXPECT_EQ(script.texts(), QStringList(row.boxes, refusal));
