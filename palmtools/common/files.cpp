@@ -1,70 +1,95 @@
 #include "palmtools/common/files.h"
 
+#include "palmtools/common/held_signals.h"
+#include "palmtools/common/target.h"
+#include "palmtools/common/unfinished_file.h"
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
-#include <string>
 #include <system_error>
 
 namespace palmtools {
 namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t chunk = 1 << 16;
 
 struct FileCloser {
     void operator()(std::FILE *file) const { std::fclose(file); }
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
+Error ReadError(const std::string &reason, const fs::path &path)
+{
+    return {"cannot be read: " + reason, path.string()};
+}
+
 std::string Reason(int code)
 {
     return std::generic_category().message(code);
 }
 
-/// A file that did not exist before, open for writing.
-struct NewFile {
-    std::filesystem::path path;
-    File file;
-};
-
-/// The name does not contain that of the target, which may already be as long as names can be.
-Result<NewFile> CreateFileBeside(const std::filesystem::path &target)
+/// Writes part by part, so that a signal need not wait for all of them.
+std::error_code WriteWhileNoneWaits(UnfinishedFile &file, std::string_view bytes,
+                                    const HeldSignals &signals)
 {
-    constexpr int mostAttempts = 1000;
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        std::filesystem::path path = target;
-        path.replace_filename("palmtools-" + std::to_string(attempt) + ".new");
-        errno = 0;
-        // "x" fails where the file exists, so two runs never write into the same one.
-        File file(std::fopen(path.string().c_str(), "wbx"));
-        if (file)
-            return NewFile{std::move(path), std::move(file)};
-        if (errno != EEXIST)
-            return Error{"cannot be written: " + Reason(errno), target.string()};
+    std::error_code failure;
+    while (!bytes.empty() && !failure && !signals.OneWaits()) {
+        failure = file.Write(bytes.substr(0, chunk));
+        bytes.remove_prefix(std::min(chunk, bytes.size()));
     }
-    return Error{"cannot be written: the folder is full of unfinished files", target.string()};
+    return failure;
 }
 
-/// Writes and closes; the close counts, since some disks tell only then that they are full.
-bool WriteAll(File file, std::string_view bytes)
+std::error_code WriteAnew(const fs::path &target, std::string_view bytes)
 {
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
-                         std::fflush(file.get()) == 0;
-    const int reason = errno;
-    const bool closed = std::fclose(file.release()) == 0;
-    if (!written)
-        errno = reason;
-    return written && closed;
+    const HeldSignals signals;
+    UnfinishedFile file(target);
+    if (const auto failure = file.Create())
+        return failure;
+    if (const auto failure = WriteWhileNoneWaits(file, bytes, signals))
+        return failure;
+    if (const auto failure = file.Close())
+        return failure;
+    if (signals.OneWaits())
+        return std::make_error_code(std::errc::interrupted);
+    return file.Finish();
+}
+
+std::error_code WriteInto(const Target &target, std::string_view bytes)
+{
+    OutputFile file;
+    if (const auto failure = file.OpenExisting(target.path, target.isNameless))
+        return failure;
+    if (const auto failure = file.Write(bytes))
+        return failure;
+    if (const auto failure = file.Sync())
+        return failure;
+    return file.Close();
+}
+
+std::error_code Write(const Target &target, std::string_view bytes)
+{
+    std::error_code ignored; // whoever writes meets it again
+    const fs::file_status status = fs::status(target.path, ignored);
+    if (fs::is_directory(status))
+        return std::make_error_code(std::errc::is_a_directory);
+    const bool isSpecial = fs::exists(status) && !fs::is_regular_file(status);
+    return isSpecial ? WriteInto(target, bytes) : WriteAnew(target.path, bytes);
 }
 
 } // namespace
 
-Result<Bytes> ReadFile(const std::filesystem::path &path)
+Result<Bytes> ReadFile(const fs::path &path)
 {
     errno = 0;
     const File file(std::fopen(path.string().c_str(), "rb"));
     if (!file)
-        return Error{"cannot be read: " + Reason(errno), path.string()};
+        return ReadError(Reason(errno), path);
     // Not by its size, which a pipe or a device does not have.
-    constexpr std::size_t chunk = 1 << 16;
     Bytes bytes;
     for (std::size_t got = chunk; got == chunk;) {
         const std::size_t size = bytes.size();
@@ -73,29 +98,18 @@ Result<Bytes> ReadFile(const std::filesystem::path &path)
         bytes.resize(size + got);
     }
     if (std::ferror(file.get()))
-        return Error{"cannot be read: " + Reason(errno), path.string()};
+        return ReadError(Reason(errno), path);
     return bytes;
 }
 
-std::optional<Error> ReplaceFile(const std::filesystem::path &target, std::string_view bytes)
+std::optional<Error> ReplaceFile(const fs::path &path, std::string_view bytes)
 {
-    auto created = CreateFileBeside(target);
-    if (!created)
-        return created.error();
-
-    errno = 0;
-    std::string reason;
-    std::error_code failure;
-    if (!WriteAll(std::move(created->file), bytes)) {
-        reason = Reason(errno);
-    } else {
-        std::filesystem::rename(created->path, target, failure);
-        if (!failure)
-            return std::nullopt;
-        reason = failure.message();
-    }
-    std::filesystem::remove(created->path, failure);
-    return Error{"cannot be written: " + reason, target.string()};
+    const auto target = TargetOf(path);
+    if (!target)
+        return target.error();
+    if (const auto failure = Write(*target, bytes))
+        return Error{"cannot be written: " + failure.message(), path.string()};
+    return std::nullopt;
 }
 
 } // namespace palmtools

@@ -64,10 +64,11 @@ TEST(Files, MayHaveTheLongestName)
 TEST(Files, DoNotOverwriteUnfinishedOnes)
 {
     const TemporaryFolder folder;
-    WriteContent("palmtools-0.new", "another run");
+    const std::string name = "palmtools-0123456789abcdef.new";
+    WriteContent(name, "another run");
     EXPECT_FALSE(ReplaceFile("a.ro", "a"));
-    EXPECT_EQ(ContentOf("palmtools-0.new"), "another run");
-    EXPECT_EQ(folder.Names(), "a.ro palmtools-0.new ");
+    EXPECT_EQ(ContentOf(name), "another run");
+    EXPECT_EQ(folder.Names(), "a.ro " + name + " ");
 }
 
 TEST(Files, LeaveNothingWhenTheyCannotBeMade)
