@@ -1,8 +1,7 @@
 #include "palmtools/build_prc/build_prc.h"
-
-#include <iostream>
+#include "palmtools/common/program.h"
 
 int main(int argc, char *argv[])
 {
-    return palmtools::RunBuildPrc({argv + 1, argv + argc}, std::cout, std::cerr);
+    return palmtools::RunProgram(palmtools::RunBuildPrc, argc, argv);
 }
