@@ -1,8 +1,7 @@
 #include "palmtools/common/database.h"
 
+#include "palmtools/common/files.h"
 #include "palmtools/common/record.h"
-
-#include <limits>
 
 namespace palmtools {
 namespace {
@@ -88,7 +87,7 @@ Result<Bytes> EncodeDatabase(const DatabaseHeader &header,
                              const std::vector<ResourceView> &resources)
 {
     const std::uint64_t size = EncodedSize(resources);
-    if (size > std::numeric_limits<std::uint32_t>::max())
+    if (size > largestFile)
         return Error{"the resources are too large together for one file"};
 
     Bytes bytes;

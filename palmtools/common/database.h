@@ -23,7 +23,7 @@ struct DatabaseHeader {
 };
 
 /// The whole database, its resources in the order given; at most 65,535 of them.
-/// Fails when it would grow beyond what 32-bit offsets reach.
+/// Fails where it would be larger than ReadFile() reads.
 Result<Bytes> EncodeDatabase(const DatabaseHeader &header,
                              const std::vector<ResourceView> &resources);
 

@@ -91,7 +91,7 @@ Result<Bytes> ReadFile(const fs::path &path)
         return ReadError(Reason(errno), path);
     // Not by its size, which a pipe or a device does not have.
     Bytes bytes;
-    for (std::size_t got = chunk; got == chunk;) {
+    for (std::size_t got = chunk; got == chunk && bytes.size() <= largestFile;) {
         const std::size_t size = bytes.size();
         bytes.resize(size + chunk);
         got = std::fread(bytes.data() + size, 1, chunk, file.get());
@@ -99,6 +99,8 @@ Result<Bytes> ReadFile(const fs::path &path)
     }
     if (std::ferror(file.get()))
         return ReadError(Reason(errno), path);
+    if (bytes.size() > largestFile)
+        return ReadError("it is larger than 64 MiB", path);
     return bytes;
 }
 

@@ -3,13 +3,18 @@
 #include "palmtools/common/bytes.h"
 #include "palmtools/common/result.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string_view>
 
 namespace palmtools {
 
-/// All bytes of a file.
+/// Bytes that a file can have which is read: larger than any that comes of a designed form.
+constexpr std::size_t largestFile = std::size_t{64} << 20;
+
+/// All bytes of a file. One that is larger is an error, and no more of it is read; so a device
+/// without an end is one.
 Result<Bytes> ReadFile(const std::filesystem::path &path);
 
 /// Makes the file have these bytes, or tells why it has not.

@@ -1,5 +1,7 @@
 #include "palmtools/common/database.h"
 
+#include "palmtools/common/files.h"
+
 #include "palmtools/support.h"
 
 #include <gtest/gtest.h>
@@ -107,6 +109,18 @@ TEST(Database, IsRefusedWhereItIsDamaged)
         SCOPED_TRACE(row.what);
         EXPECT_EQ(Listed(DecodeDatabase(row.bytes)), row.text);
     }
+}
+
+TEST(Database, IsNotLargerThanAFileThatIsRead)
+{
+    const Bytes bytes(largestFile - 90, 'x');
+    const auto largest = EncodeDatabase({}, {{FourBytesOf("ab"), 1, bytes}});
+    ASSERT_TRUE(largest);
+    EXPECT_EQ(largest->size(), largestFile);
+    const auto larger =
+        EncodeDatabase({}, {{FourBytesOf("ab"), 1, bytes}, {FourBytesOf("ab"), 2, ""}});
+    ASSERT_FALSE(larger);
+    EXPECT_EQ(larger.error().text, "the resources are too large together for one file");
 }
 
 TEST(Database, IsReadAtTheLimitsOfItsOffsets)

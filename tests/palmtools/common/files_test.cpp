@@ -40,6 +40,20 @@ TEST(Files, ThatCannotBeReadAreTold)
     }
 }
 
+TEST(Files, ThatAreTooLargeAreTold)
+{
+    const TemporaryFolder folder;
+    WriteContent("a.rcp", "");
+    std::filesystem::resize_file("a.rcp", largestFile);
+    const auto largest = ReadFile("a.rcp");
+    ASSERT_TRUE(largest);
+    EXPECT_EQ(largest->size(), largestFile);
+    std::filesystem::resize_file("a.rcp", largestFile + 1);
+    const auto larger = ReadFile("a.rcp");
+    ASSERT_FALSE(larger);
+    EXPECT_EQ(larger.error().text, "cannot be read: it is larger than 64 MiB");
+}
+
 TEST(Files, AreMadeAndReplaced)
 {
     const TemporaryFolder folder;
@@ -123,6 +137,23 @@ TEST(Files, AreReadFromAPipe)
     writer.join();
     ASSERT_TRUE(read);
     EXPECT_EQ(*read, bytes);
+}
+
+TEST(Files, WithoutAnEndAreTold)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo("endless.rcp", 0600), 0);
+    std::signal(SIGPIPE, SIG_IGN);
+    std::thread writer([] {
+        std::ofstream pipe("endless.rcp");
+        for (const std::string bytes(1 << 16, 'x'); pipe << bytes;) {
+        }
+    });
+    const auto read = ReadFile("endless.rcp");
+    writer.join(); // only because nobody reads on
+    std::signal(SIGPIPE, SIG_DFL);
+    ASSERT_FALSE(read);
+    EXPECT_EQ(read.error().text, "cannot be read: it is larger than 64 MiB");
 }
 
 TEST(Files, StayAsTheyWereWhenTheDiskIsFull)
