@@ -24,7 +24,7 @@ std::string_view ArgumentReader::Text()
     if (!AtTextJoint() && first.find('\\') == first.npos)
         return first;
 
-    std::string &text = m_texts.emplace_back();
+    std::string text;
     AppendUnescaped(first, text);
     while (AtTextJoint()) {
         m_words.Take();
@@ -32,7 +32,7 @@ std::string_view ArgumentReader::Text()
             m_words.FailExpected("text");
         AppendUnescaped(WithoutQuotes(m_words.Take().written), text);
     }
-    return text;
+    return m_texts.Keep(text);
 }
 
 bool ArgumentReader::AtTextJoint()

@@ -2,11 +2,10 @@
 
 #include "palmtools/pilrc/numbers.h"
 #include "palmtools/pilrc/script_reader.h"
+#include "palmtools/pilrc/text_store.h"
 
 #include <cstdint>
-#include <deque>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace palmtools {
@@ -55,8 +54,7 @@ private:
 
     ScriptReader &m_words;
     Rectangle m_previous;
-    // Texts that do not stand in the script as they are; a deque does not move them.
-    std::deque<std::string> m_texts;
+    TextStore m_texts; ///< those that do not stand in the script as they are
 };
 
 } // namespace palmtools

@@ -32,12 +32,12 @@ void TakeCommentByte(ScriptCursor &cursor)
 }
 
 /// Comments nest; they are counted and not called for, so that no script exhausts the stack.
-void TakeBlockComment(ScriptCursor &cursor, std::vector<Diagnostic> &warnings)
+void TakeBlockComment(ScriptCursor &cursor, Warnings &warnings)
 {
     cursor.Take(open.size());
     for (std::size_t depth = 1; depth > 0;) {
         if (cursor.rest().starts_with(open)) {
-            warnings.push_back({Severity::warning, cursor.line(), "comment inside a comment"});
+            warnings.Add(cursor.line(), "comment inside a comment");
             cursor.Take(open.size());
             ++depth;
         } else if (cursor.rest().starts_with(close)) {
@@ -51,7 +51,7 @@ void TakeBlockComment(ScriptCursor &cursor, std::vector<Diagnostic> &warnings)
 
 } // namespace
 
-void TakeBlanks(ScriptCursor &cursor, std::vector<Diagnostic> &warnings)
+void TakeBlanks(ScriptCursor &cursor, Warnings &warnings)
 {
     while (!cursor.AtEnd()) {
         const char c = cursor.Front();

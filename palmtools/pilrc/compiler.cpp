@@ -6,6 +6,8 @@
 #include "palmtools/pilrc/string_table_statement.h"
 #include "palmtools/pilrc/text_statements.h"
 
+#include <optional>
+
 namespace palmtools {
 namespace {
 
@@ -47,13 +49,19 @@ std::vector<Resource> ReadScript(ScriptReader &words)
 Compilation CompileScript(std::string_view script)
 {
     Compilation compilation;
+    Warnings warnings;
+    std::optional<Diagnostic> failure;
     try {
-        ScriptReader words(script, compilation.diagnostics);
+        ScriptReader words(script, warnings);
         compilation.resources = ReadScript(words);
     } catch (const ScriptError &error) {
-        compilation.failed = true;
-        compilation.diagnostics.push_back({Severity::error, error.line(), error.what()});
+        failure = Diagnostic{Severity::error, error.line(), error.what()};
     }
+    compilation.diagnostics = warnings.kept();
+    compilation.moreWarnings = warnings.more();
+    compilation.failed = failure.has_value();
+    if (failure)
+        compilation.diagnostics.push_back(*failure);
     return compilation;
 }
 

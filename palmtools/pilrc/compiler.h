@@ -3,6 +3,7 @@
 #include "palmtools/common/resource.h"
 #include "palmtools/pilrc/diagnostics.h"
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,7 @@ struct Compilation {
     bool failed = false;
     std::vector<Resource> resources = {};     ///< in the order of the script; none if it failed
     std::vector<Diagnostic> diagnostics = {}; ///< as they arose; the last is the error if it failed
+    std::size_t moreWarnings = 0;             ///< than are among the diagnostics
 };
 
 /// Compiles a script: its bytes in, resources and diagnostics out, without files or streams.

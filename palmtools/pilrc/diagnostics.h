@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace palmtools {
 
@@ -13,6 +15,23 @@ struct Diagnostic {
     Severity severity;
     int line;
     std::string text;
+};
+
+/// The warnings about a script as they arise: the first of them, and how many more there are. A
+/// script can give rise to more than memory holds.
+class Warnings
+{
+public:
+    static constexpr std::size_t most = 100; ///< that are kept
+
+    void Add(int line, std::string_view text);
+
+    const std::vector<Diagnostic> &kept() const { return m_kept; }
+    std::size_t more() const { return m_more; }
+
+private:
+    std::vector<Diagnostic> m_kept;
+    std::size_t m_more = 0;
 };
 
 /// Stops the reading of a script. Thrown from any depth of it and caught only by CompileScript().
@@ -31,7 +50,10 @@ enum class MessageStyle {
     microsoft, ///< PATH(LINE): error : TEXT
 };
 
-/// One line of output, with its line end.
+// One line of output each, with its line end.
+
 std::string MessageOf(const Diagnostic &diagnostic, std::string_view path, MessageStyle style);
+/// Empty where there are no more warnings than were kept.
+std::string MessageOfMore(std::size_t warnings);
 
 } // namespace palmtools

@@ -24,6 +24,7 @@ constexpr std::size_t itemAboveAt = 4;
 constexpr std::size_t itemBelowAt = 6;
 constexpr std::size_t itemSize = 8;
 
+constexpr std::size_t mostItems = 65535; ///< that the header can count
 constexpr int formatVersion = 1;
 
 struct NavigationHeader {
@@ -86,9 +87,11 @@ void ReadNavigation(ArgumentReader &arguments, ResourceList &resources)
     const std::uint16_t number = arguments.Id();
     const NavigationHeader header = ReadHeader(arguments);
     Bytes items;
-    do
+    do {
+        if (items.size() == itemSize * mostItems)
+            arguments.words().Fail("the navigation has more than 65535 items");
         AppendItem(items, arguments);
-    while (!arguments.words().TakeName("end"));
+    } while (!arguments.words().TakeName("end"));
 
     Bytes bytes;
     AppendHeader(bytes, header, items.size() / itemSize);

@@ -2,6 +2,7 @@
 
 #include "palmtools/pilrc/arithmetic.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,9 @@ struct Pending {
 
 using Kind = Pending::Kind;
 
+/// Nobody writes so many; a script of nothing else would take many times its own size.
+constexpr std::size_t deepestNesting = 1000000;
+
 class NumberReader
 {
 public:
@@ -46,6 +50,7 @@ public:
 private:
     std::int64_t ReadPart();
     std::optional<std::int64_t> Finish(std::int64_t value);
+    void Await(Pending pending);
     bool IsPending(Kind kind) const { return !m_pending.empty() && m_pending.back().kind == kind; }
 
     ScriptReader &m_words;
@@ -67,9 +72,9 @@ std::int64_t NumberReader::ReadPart()
 {
     for (;;) {
         if (m_words.TakeSign('('))
-            m_pending.push_back({Kind::parenthesis});
+            Await({Kind::parenthesis});
         else if (m_words.TakeSign('-'))
-            m_pending.push_back({Kind::leadingMinus});
+            Await({Kind::leadingMinus});
         else
             break;
     }
@@ -79,6 +84,13 @@ std::int64_t NumberReader::ReadPart()
     if (const PreviousWord *word = m_words.TakeIn(previousWords))
         return CheckedNumber(word->value(m_previous), m_words);
     m_words.FailExpected("number");
+}
+
+void NumberReader::Await(Pending pending)
+{
+    if (m_pending.size() == deepestNesting)
+        m_words.Fail("the number is nested more than 1000000 deep");
+    m_pending.push_back(pending);
 }
 
 /// Puts the value where it was waited for; nothing if an operator follows and wants another part.
@@ -94,7 +106,7 @@ std::optional<std::int64_t> NumberReader::Finish(std::int64_t value)
             m_pending.pop_back();
         }
         if (const Operator *operation = TakeOperator(m_words)) {
-            m_pending.push_back({Kind::operation, operation, value});
+            Await({Kind::operation, operation, value});
             return std::nullopt;
         }
         if (m_pending.empty())

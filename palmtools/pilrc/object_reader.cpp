@@ -10,6 +10,8 @@ enum class Texts { none, one, any };
 enum class Numbers { none, own, triggerAndList };
 enum class Shape { none, position, rectangle };
 
+constexpr std::size_t mostItems = 65535; ///< that a list can count
+
 /// What a script tells of a kind of object, in this order.
 struct ObjectRule {
     std::string_view name;
@@ -48,8 +50,11 @@ void ReadTexts(ArgumentReader &arguments, Texts texts, FormObject &object)
 {
     if (texts == Texts::one)
         object.texts.push_back(arguments.Text());
-    while (texts == Texts::any && arguments.words().NextIs(WordKind::text))
+    while (texts == Texts::any && arguments.words().NextIs(WordKind::text)) {
+        if (object.texts.size() == mostItems)
+            arguments.words().Fail("the list has more than 65535 items");
         object.texts.push_back(arguments.Text());
+    }
 }
 
 void ReadNumbers(ArgumentReader &arguments, Numbers numbers, FormObject &object)

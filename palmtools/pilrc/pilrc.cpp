@@ -86,7 +86,7 @@ int Compile(const PilrcCall &call, std::ostream &out, std::ostream &err)
     std::string messages;
     for (const Diagnostic &diagnostic : compilation.diagnostics)
         messages += MessageOf(diagnostic, script->path, call.style);
-    err << messages;
+    err << messages << MessageOfMore(compilation.moreWarnings);
     if (compilation.failed)
         return 1;
     if (!call.quiet)

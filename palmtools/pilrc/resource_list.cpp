@@ -1,5 +1,6 @@
 #include "palmtools/pilrc/resource_list.h"
 
+#include "palmtools/common/files.h"
 #include "palmtools/pilrc/resource_types.h"
 
 #include <string>
@@ -27,6 +28,16 @@ std::string NameAsRepeated(FourBytes type, std::uint16_t number)
     return NameOf(type, number);
 }
 
+void CheckSize(ScriptReader &words, FourBytes type, std::uint16_t number, std::uint64_t size)
+{
+    if (size <= largestSafeResource)
+        return;
+    const std::string told = NameOf(type, number) + " has " + std::to_string(size) + " bytes";
+    if (size > largestResource)
+        words.Fail(told + ", more than 65535");
+    words.Warn(told);
+}
+
 } // namespace
 
 void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t number,
@@ -37,12 +48,10 @@ void ResourceList::Admit(ScriptReader &words, FourBytes type, std::uint16_t numb
     if (m_known.size() > mostResources)
         words.Fail("the script has more than 65535 resources");
 
-    if (size <= largestSafeResource)
-        return;
-    const std::string told = NameOf(type, number) + " has " + std::to_string(size) + " bytes";
-    if (size > largestResource)
-        words.Fail(told + ", more than 65535");
-    words.Warn(told);
+    CheckSize(words, type, number, size);
+    m_size += size;
+    if (m_size > largestFile)
+        words.Fail("the resources are too large together for one file");
 }
 
 void ResourceList::Add(ScriptReader &words, Resource resource)

@@ -17,7 +17,8 @@ constexpr std::uint64_t largestResource = 65535;
 class ResourceList
 {
 public:
-    /// Fails or warns about a resource that is there already or too large.
+    /// Fails or warns about a resource that is there already or too large, by itself or together
+    /// with those that were admitted before.
     void Admit(ScriptReader &words, FourBytes type, std::uint16_t number, std::uint64_t size);
 
     /// Admits the resource and keeps it.
@@ -31,6 +32,7 @@ public:
 private:
     std::vector<Resource> m_resources;
     std::unordered_set<std::uint64_t> m_known;
+    std::uint64_t m_size = 0; ///< bytes of all that were admitted
 };
 
 } // namespace palmtools

@@ -2,11 +2,19 @@
 
 #include "palmtools/common/shown.h"
 
-#include <utility>
-
 namespace palmtools {
+namespace {
 
-ScriptReader::ScriptReader(std::string_view script, std::vector<Diagnostic> &warnings)
+/// A word can be as long as the script; a message must not.
+std::string ShownInPart(std::string_view written)
+{
+    constexpr std::size_t most = 200;
+    return Shown(written.substr(0, most)) + (written.size() > most ? "..." : "");
+}
+
+} // namespace
+
+ScriptReader::ScriptReader(std::string_view script, Warnings &warnings)
     : m_scanner(script, warnings), m_warnings(warnings)
 {}
 
@@ -64,9 +72,9 @@ void ScriptReader::ExpectSign(char sign)
         FailExpected({&sign, 1});
 }
 
-void ScriptReader::Warn(std::string text)
+void ScriptReader::Warn(std::string_view text)
 {
-    m_warnings.push_back({Severity::warning, m_scanner.line(), std::move(text)});
+    m_warnings.Add(m_scanner.line(), text);
 }
 
 void ScriptReader::Fail(const std::string &text) const
@@ -77,7 +85,8 @@ void ScriptReader::Fail(const std::string &text) const
 void ScriptReader::FailExpected(std::string_view what)
 {
     const Word &word = Peek();
-    const std::string found = word.kind == WordKind::end ? "end of file" : Shown(word.written);
+    const std::string found =
+        word.kind == WordKind::end ? "end of file" : ShownInPart(word.written);
     Fail(std::string(what) + " expected, not '" + found + "'");
 }
 

@@ -8,7 +8,6 @@
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace palmtools {
 
@@ -19,8 +18,8 @@ namespace palmtools {
 class ScriptReader
 {
 public:
-    /// Warnings are added to the list; the script and the list must outlive the reader.
-    ScriptReader(std::string_view script, std::vector<Diagnostic> &warnings);
+    /// The script and the warnings, which it adds to, must outlive the reader.
+    ScriptReader(std::string_view script, Warnings &warnings);
 
     const Word &Peek();
     Word Take();
@@ -43,14 +42,14 @@ public:
     void ExpectName(std::string_view name);
     void ExpectSign(char sign);
 
-    void Warn(std::string text);
+    void Warn(std::string_view text);
     [[noreturn]] void Fail(const std::string &text) const;
     /// Says what should stand in place of the next word.
     [[noreturn]] void FailExpected(std::string_view what);
 
 private:
     WordScanner m_scanner;
-    std::vector<Diagnostic> &m_warnings;
+    Warnings &m_warnings;
     Word m_next;
     bool m_hasNext = false;
 };

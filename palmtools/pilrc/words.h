@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 namespace palmtools {
 
@@ -24,8 +23,8 @@ struct Word {
 class WordScanner
 {
 public:
-    /// Warnings about comments are added to the list, which must outlive the scanner.
-    WordScanner(std::string_view script, std::vector<Diagnostic> &warnings)
+    /// Warnings about comments are added to the warnings, which must outlive the scanner.
+    WordScanner(std::string_view script, Warnings &warnings)
         : m_cursor(script), m_warnings(warnings)
     {}
 
@@ -38,7 +37,7 @@ public:
 
 private:
     ScriptCursor m_cursor;
-    std::vector<Diagnostic> &m_warnings;
+    Warnings &m_warnings;
     int m_line = 1;
 };
 

@@ -13,17 +13,17 @@ namespace {
 std::string Read(std::string_view script,
                  const std::function<std::string(ArgumentReader &)> &function)
 {
-    std::vector<Diagnostic> diagnostics;
+    Warnings warnings;
     std::string result;
     try {
-        ScriptReader words(script, diagnostics);
+        ScriptReader words(script, warnings);
         ArgumentReader arguments(words);
         arguments.SetPrevious({1, 2, 3, 4});
         result = function(arguments);
     } catch (const ScriptError &error) {
         result = std::to_string(error.line()) + " " + error.what();
     }
-    for (const Diagnostic &warning : diagnostics) {
+    for (const Diagnostic &warning : warnings.kept()) {
         result += '|';
         result += std::to_string(warning.line) + " " + warning.text;
     }
@@ -61,9 +61,9 @@ TEST(ArgumentReader, JoinTexts)
 
 TEST(ArgumentReader, KeepTheirTexts)
 {
-    std::vector<Diagnostic> diagnostics;
+    Warnings warnings;
     const std::string script = Repeated(R"("\x41" "b" "c"+"d" )", 100);
-    ScriptReader words(script, diagnostics);
+    ScriptReader words(script, warnings);
     ArgumentReader arguments(words);
     std::vector<std::string_view> texts;
     while (words.NextIs(WordKind::text))

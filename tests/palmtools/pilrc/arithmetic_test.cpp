@@ -10,7 +10,7 @@ constexpr std::int64_t largest = 0xFFFFFFFF;
 /// The result of an operator or the text of its error.
 std::string Applied(char sign, std::int64_t left, std::int64_t right)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptReader words({&sign, 1}, warnings);
     const Operator *operation = TakeOperator(words);
     if (!operation)
@@ -36,7 +36,7 @@ TEST(Arithmetic, HasFourOperators)
 
 TEST(Arithmetic, LeavesWordsThatAreNoOperators)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     for (const std::string_view script : {"5", "a", "\"+\"", "("}) {
         ScriptReader words(script, warnings);
         EXPECT_EQ(TakeOperator(words), nullptr);
@@ -73,7 +73,7 @@ TEST(Arithmetic, StaysWithinBounds)
 
 TEST(Arithmetic, ChecksASingleNumber)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     const ScriptReader words("", warnings);
     EXPECT_EQ(CheckedNumber(largest, words), largest);
     EXPECT_EQ(CheckedNumber(-largest, words), -largest);

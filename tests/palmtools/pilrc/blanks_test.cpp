@@ -10,7 +10,7 @@ namespace {
 /// What is left after the blanks, and the line it stands on; or "LINE error TEXT".
 std::string AfterBlanks(std::string_view script)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptCursor cursor(script);
     try {
         TakeBlanks(cursor, warnings);
@@ -50,15 +50,15 @@ TEST(Blanks, AreAllThatStandsBetweenWords)
 
 TEST(Blanks, WarnWhereACommentBeginsInsideAnother)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     const std::string_view script = "/*\n/* */\n\n /* */ */";
     ScriptCursor cursor(script);
     TakeBlanks(cursor, warnings);
-    ASSERT_EQ(warnings.size(), 2u);
-    EXPECT_EQ(warnings[0].line, 2);
-    EXPECT_EQ(warnings[1].line, 4);
-    EXPECT_EQ(warnings[1].text, "comment inside a comment");
-    EXPECT_EQ(warnings[1].severity, Severity::warning);
+    ASSERT_EQ(warnings.kept().size(), 2u);
+    EXPECT_EQ(warnings.kept()[0].line, 2);
+    EXPECT_EQ(warnings.kept()[1].line, 4);
+    EXPECT_EQ(warnings.kept()[1].text, "comment inside a comment");
+    EXPECT_EQ(warnings.kept()[1].severity, Severity::warning);
 }
 
 TEST(Blanks, NestAsDeepAsTheyLike)

@@ -33,6 +33,18 @@ TEST(Compiler, GivesNoResourcesAfterAnError)
     EXPECT_EQ(compilation.diagnostics[1].line, 5);
 }
 
+TEST(Compiler, CountsTheWarningsBeyondTheFirstHundred)
+{
+    const Compilation compilation =
+        CompileScript("/*" + Repeated("/*", 1000) + Repeated("*/", 1001) + "\n5");
+    EXPECT_TRUE(compilation.failed);
+    ASSERT_EQ(compilation.diagnostics.size(), 101u);
+    EXPECT_EQ(compilation.diagnostics[99].severity, Severity::warning);
+    EXPECT_EQ(compilation.diagnostics[100].severity, Severity::error);
+    EXPECT_EQ(compilation.diagnostics[100].line, 2);
+    EXPECT_EQ(compilation.moreWarnings, 900u);
+}
+
 TEST(Compiler, LetsTheScriptGo)
 {
     Compilation compilation;

@@ -9,18 +9,18 @@ namespace {
 
 TEST(FormCheck, SeesObjectsOneByOne)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptReader words("", warnings);
     FormCheck check(words);
     check.See({.kind = ObjectKind::field, .number = 1});
-    EXPECT_EQ(warnings.size(), 0u);
+    EXPECT_EQ(warnings.kept().size(), 0u);
     check.See({.kind = ObjectKind::scrollBar, .number = 1, .place = {0, 0, 6, 8}});
-    ASSERT_EQ(warnings.size(), 2u);
-    EXPECT_EQ(warnings[0].text, "object number 1 is used twice");
-    EXPECT_EQ(warnings[1].text, "the scroll bar is not 7 pixels wide or high");
+    ASSERT_EQ(warnings.kept().size(), 2u);
+    EXPECT_EQ(warnings.kept()[0].text, "object number 1 is used twice");
+    EXPECT_EQ(warnings.kept()[1].text, "the scroll bar is not 7 pixels wide or high");
     check.SeeEnd();
-    ASSERT_EQ(warnings.size(), 3u);
-    EXPECT_EQ(warnings[2].text, "editable field without a Graffiti state indicator");
+    ASSERT_EQ(warnings.kept().size(), 3u);
+    EXPECT_EQ(warnings.kept()[2].text, "editable field without a Graffiti state indicator");
 }
 
 TEST(FormCheck, WarnsAboutFieldsWithoutAnIndicator)

@@ -150,6 +150,29 @@ TEST(Messages, AboutResources)
     });
 }
 
+TEST(Messages, AboutListsAndNavigationsThatNothingCounts)
+{
+    const std::string list = form + "LIST " + Repeated("\"\"", 65535);
+    const std::string navigation = "NAVIGATION 1 INITIALSTATE 1 BEGIN\n" + Repeated("1 ", 65535);
+    ExpectDiagnostics({
+        {"as many items as can be counted", list + "\nID 1 AT (0 0 1 1) END",
+         "4 error resource 'tFRM' 1 has 327782 bytes, more than 65535\n"},
+        {"one more", list + "\n\"\"\n\"\"", "4 error the list has more than 65535 items\n"},
+        {"as many places as can be counted", navigation + "\nEND",
+         "3 error resource 'fnav' 1 has 524300 bytes, more than 65535\n"},
+        {"one more", navigation + "\n2\n3\nEND",
+         "3 error the navigation has more than 65535 items\n"},
+    });
+}
+
+TEST(Messages, ShowTheBeginningOfALongWord)
+{
+    EXPECT_EQ(DiagnosticsOf(std::string(200, 'n')),
+              "1 error statement expected, not '" + std::string(200, 'n') + "'\n");
+    EXPECT_EQ(DiagnosticsOf(std::string(100000, 'n')),
+              "1 error statement expected, not '" + std::string(200, 'n') + "...'\n");
+}
+
 TEST(Messages, AboutStringTables)
 {
     const std::string table = "STRINGTABLE ID 1 \"prefix\"\n";

@@ -12,7 +12,7 @@ constexpr Rectangle previous = {10, 20, 300, 400};
 /// The value and the word that follows, or "LINE TEXT" of the error.
 std::string NumberIn(std::string_view script)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptReader words(script, warnings);
     try {
         const std::string value = std::to_string(ReadNumber(words, previous));
@@ -117,6 +117,10 @@ TEST(Numbers, NestAsDeepAsTheyLike)
         {"both", Repeated("-(", depth) + "5" + Repeated(")", depth), "5|"},
         {"sums", Repeated("1+(", depth) + "1" + Repeated(")", depth), "100001|"},
         {"not closed", Repeated("(", depth), "1 number expected, not 'end of file'"},
+        {"as deep as may be", Repeated("-", 1000000) + "5", "5|"},
+        {"deeper", Repeated("-", 1000001) + "\n5", "1 the number is nested more than 1000000 deep"},
+        {"of operations", Repeated("1+(", 500000) + "\n1+1",
+         "2 the number is nested more than 1000000 deep"},
     });
 }
 

@@ -58,7 +58,7 @@ TEST(ObjectReader, ReadsTextsAndNumbers)
 
 TEST(ObjectReader, LeavesWhatIsNoObject)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     for (const char *script : {"END", "\"TITLE\"", "5", "", "TITLES", "tBTN", "FORM"}) {
         SCOPED_TRACE(script);
         ScriptReader words(script, warnings);

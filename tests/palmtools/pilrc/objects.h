@@ -36,7 +36,7 @@ public:
 
 private:
     std::string m_script;
-    std::vector<Diagnostic> m_warnings;
+    Warnings m_warnings;
     ScriptReader m_words{m_script, m_warnings};
     ArgumentReader m_arguments{m_words};
 };

@@ -115,6 +115,22 @@ TEST(Pilrc, WritesInSpiteOfWarnings)
                        "a.rcp(1): error : text expected, not 'end of file'\n");
 }
 
+TEST(Pilrc, ShowsAHundredWarningsAndCountsTheOthers)
+{
+    const TemporaryFolder folder;
+    const std::string warning = "a.rcp:1: warning: comment inside a comment\n";
+    const auto errorsOf = [](std::size_t warnings, const std::string &statement) {
+        WriteContent("a.rcp", "/*" + Repeated("/**/", warnings) + "*/" + statement);
+        return RunTool(RunPilrc, {"-q", "-ro", "a.rcp"}).err;
+    };
+    EXPECT_EQ(errorsOf(100, "VERSION \"1\""), Repeated(warning, 100));
+    EXPECT_EQ(errorsOf(101, "VERSION \"1\""),
+              Repeated(warning, 100) + "pilrc: 1 more warning is not shown\n");
+    EXPECT_EQ(errorsOf(5000, "5"), Repeated(warning, 100) +
+                                       "a.rcp:1: error: statement expected, not '5'\n" +
+                                       "pilrc: 4900 more warnings are not shown\n");
+}
+
 TEST(Pilrc, TellsWhatItCannotReadOrWrite)
 {
     const TemporaryFolder folder;

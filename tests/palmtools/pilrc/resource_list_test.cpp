@@ -10,7 +10,7 @@ namespace {
 /// The warnings and the error that come of resources of these sizes, numbered from 1.
 std::string Admitted(std::string_view type, const std::vector<std::uint64_t> &sizes)
 {
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptReader words("", warnings);
     ResourceList resources;
     std::string texts;
@@ -21,7 +21,7 @@ std::string Admitted(std::string_view type, const std::vector<std::uint64_t> &si
     } catch (const ScriptError &error) {
         texts = std::string("error: ") + error.what();
     }
-    for (const Diagnostic &warning : warnings)
+    for (const Diagnostic &warning : warnings.kept())
         texts += warning.text;
     return texts;
 }
@@ -60,7 +60,7 @@ TEST(ResourceList, HasEachResourceOnce)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.type);
-        std::vector<Diagnostic> warnings;
+        Warnings warnings;
         ScriptReader words("", warnings);
         ResourceList resources;
         resources.Add(words, {FourBytesOf(row.type), 7, "a"});
@@ -78,11 +78,23 @@ TEST(ResourceList, HasEachResourceOnce)
     }
 }
 
+TEST(ResourceList, LimitsAllOfThemTogether)
+{
+    constexpr std::size_t count = 1040, size = 64000; // 548,864 bytes below 64 MiB
+    std::vector<std::uint64_t> sizes(count, size);
+    sizes.insert(sizes.end(), 548, 1000);
+    sizes.push_back(864);
+    const std::string warnings = Admitted("many", sizes);
+    EXPECT_EQ(warnings, "");
+    sizes.push_back(1);
+    EXPECT_EQ(Admitted("many", sizes), "error: the resources are too large together for one file");
+}
+
 TEST(ResourceList, LimitsTheirNumber)
 {
     EXPECT_EQ(Admitted("many", std::vector<std::uint64_t>(65535, 0)), "");
 
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptReader words("", warnings);
     ResourceList resources;
     for (int number = 0; number < 65535; ++number)

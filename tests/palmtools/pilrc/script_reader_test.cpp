@@ -11,7 +11,7 @@ namespace {
 struct Reading {
     explicit Reading(std::string_view script) : words(script, warnings) {}
 
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     ScriptReader words;
 };
 
@@ -91,11 +91,11 @@ TEST(ScriptReader, NamesTheLineOfTheLastWordThatWasRead)
     reading.words.Peek();
     reading.words.Warn("looked at");
     EXPECT_EQ(ErrorOf([&] { reading.words.Fail("failed"); }), "2 failed");
-    ASSERT_EQ(reading.warnings.size(), 2u);
-    EXPECT_EQ(reading.warnings[0].line, 1);
-    EXPECT_EQ(reading.warnings[0].text, "taken");
-    EXPECT_EQ(reading.warnings[1].line, 2);
-    EXPECT_EQ(reading.warnings[1].severity, Severity::warning);
+    ASSERT_EQ(reading.warnings.kept().size(), 2u);
+    EXPECT_EQ(reading.warnings.kept()[0].line, 1);
+    EXPECT_EQ(reading.warnings.kept()[0].text, "taken");
+    EXPECT_EQ(reading.warnings.kept()[1].line, 2);
+    EXPECT_EQ(reading.warnings.kept()[1].severity, Severity::warning);
 }
 
 } // namespace

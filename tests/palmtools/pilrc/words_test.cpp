@@ -12,7 +12,7 @@ namespace {
 std::string WordsOf(std::string_view script)
 {
     constexpr const char *kinds[] = {"end", "text", "number", "name", "sign"};
-    std::vector<Diagnostic> warnings;
+    Warnings warnings;
     WordScanner scanner(script, warnings);
     std::string words;
     try {
@@ -109,7 +109,7 @@ TEST(Words, HaveTheValueOfTheirDigits)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        std::vector<Diagnostic> warnings;
+        Warnings warnings;
         const Word word = WordScanner(row.script, warnings).Next();
         EXPECT_EQ(word.kind, WordKind::number);
         EXPECT_EQ(word.value, row.value);
