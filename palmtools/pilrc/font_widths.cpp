@@ -5,77 +5,27 @@
 namespace palmtools {
 namespace {
 
-struct Font {
-    int number;
-    int height;               ///< pixels
+struct FontWidths {
+    int font;
     std::uint8_t widths[256]; ///< pixels, by code
 };
 
-// The fonts of docs/palm-formats.md, "Sizes that are left open": standard, bold and symbols.
-// clang-format off
-constexpr Font fonts[] = {
-    {0, 11, {
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  2,  5,  5,  5,  5,  5,  5, // 0x00
-         5,  5,  5,  5, 11,  5,  8,  8,  6,  5,  5,  5,  5,  5,  5,  5, // 0x10
-         2,  2,  4,  8,  6,  8,  7,  2,  4,  4,  6,  6,  3,  4,  2,  5, // 0x20
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  2,  3,  6,  6,  6,  5, // 0x30
-         8,  5,  5,  5,  6,  4,  4,  6,  6,  2,  4,  6,  5,  8,  6,  7, // 0x40
-         5,  7,  5,  5,  6,  6,  6,  8,  6,  6,  6,  3,  5,  3,  6,  4, // 0x50
-         3,  5,  5,  4,  5,  5,  4,  5,  5,  2,  3,  5,  2,  8,  5,  5, // 0x60
-         5,  5,  4,  4,  4,  5,  5,  6,  6,  6,  4,  4,  2,  4,  7,  5, // 0x70
-         5,  5,  3,  8,  5,  6,  6,  6,  4, 11,  5,  4,  8, 10, 10, 10, // 0x80
-        10,  3,  3,  5,  5,  4,  4,  7,  7, 10,  4,  4,  8,  5,  5,  6, // 0x90
-         2,  2,  6,  6,  8,  6,  2,  5,  4,  8,  5,  6,  6,  4,  8,  6, // 0xA0
-         5,  6,  4,  4,  3,  5,  6,  2,  4,  2,  5,  6,  8,  8,  8,  5, // 0xB0
-         5,  5,  5,  5,  5,  5,  7,  5,  4,  4,  4,  4,  3,  2,  3,  3, // 0xC0
-         7,  6,  7,  7,  7,  7,  7,  5,  8,  6,  6,  6,  6,  6,  6,  6, // 0xD0
-         5,  5,  5,  5,  5,  5,  8,  4,  5,  5,  5,  5,  2,  2,  3,  3, // 0xE0
-         5,  5,  5,  5,  5,  5,  5,  6,  7,  5,  5,  5,  5,  6,  5,  6, // 0xF0
-    }},
-    {1, 11, {
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  2,  5,  5,  5,  5,  5,  5, // 0x00
-         5,  5,  5,  5, 11,  5, 10,  8,  6,  6,  5,  5,  5,  5,  5,  5, // 0x10
-         2,  3,  6, 10,  6, 13,  9,  3,  5,  5,  6,  6,  3,  5,  3,  6, // 0x20
-         6,  6,  6,  6,  6,  6,  6,  6,  6,  6,  3,  3,  6,  6,  6,  6, // 0x30
-        10,  7,  7,  6,  7,  5,  5,  8,  8,  3,  5,  7,  6, 10,  7,  8, // 0x40
-         7,  8,  8,  6,  7,  7,  8, 11,  7,  7,  7,  4,  6,  4,  6,  5, // 0x50
-         4,  6,  6,  5,  6,  6,  5,  6,  6,  3,  4,  6,  3,  9,  6,  6, // 0x60
-         6,  6,  5,  5,  6,  6,  6,  9,  6,  6,  5,  5,  3,  5,  7,  5, // 0x70
-         6,  5,  3,  9,  5,  6,  5,  5,  4, 17,  6,  5, 10, 10, 10, 10, // 0x80
-        10,  3,  3,  5,  5,  4,  4,  6,  7, 10,  5,  5, 10,  5,  5,  7, // 0x90
-         2,  3,  6,  7,  8,  7,  3,  6,  4,  8,  6,  8,  6,  5,  8,  6, // 0xA0
-         5,  6,  4,  4,  4,  6,  7,  2,  4,  2,  6,  8,  9,  9,  9,  6, // 0xB0
-         7,  7,  7,  7,  7,  7,  9,  6,  5,  5,  5,  5,  3,  3,  3,  3, // 0xC0
-         8,  7,  8,  8,  8,  8,  8,  6,  8,  7,  7,  7,  7,  7,  7,  8, // 0xD0
-         6,  6,  6,  6,  6,  6,  9,  5,  6,  6,  6,  6,  3,  3,  3,  3, // 0xE0
-         6,  6,  6,  6,  6,  6,  6,  7,  8,  6,  6,  6,  6,  6,  6,  6, // 0xF0
-    }},
-    {3, 10, {
-         5,  5,  5, 11, 10, 10, 10, 11, 11,  7,  4,  6,  6,  8,  8,  8, // 0x00
-         8,  8,  8,  7,  7,  7,  6, 10, 10, 10, 10,  5,  5,  5,  5,  5, // 0x10
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x20
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x30
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x40
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x50
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x60
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x70
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x80
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0x90
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0xA0
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0xB0
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0xC0
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0xD0
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0xE0
-         5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5,  5, // 0xF0
-    }},
+struct FontSize {
+    int font, height; ///< pixels
 };
-// clang-format on
 
-const Font *FontOf(std::int64_t number)
+// The fonts of docs/palm-formats.md, "Sizes that are left open": standard, bold and symbols.
+constexpr FontWidths widthsOfFonts[] = {
+#include "palmtools/pilrc/font_widths.inc"
+};
+constexpr FontSize sizesOfFonts[] = {{0, 11}, {1, 11}, {3, 10}};
+
+template <typename Row, std::size_t count>
+constexpr const Row *RowOf(const Row (&table)[count], std::int64_t font)
 {
-    for (const Font &font : fonts) {
-        if (font.number == number)
-            return &font;
+    for (const Row &row : table) {
+        if (row.font == font)
+            return &row;
     }
     return nullptr;
 }
@@ -84,17 +34,17 @@ const Font *FontOf(std::int64_t number)
 
 bool FontIsKnown(std::int64_t number)
 {
-    return FontOf(number) != nullptr;
+    return RowOf(sizesOfFonts, number) != nullptr;
 }
 
 int FontHeight(std::int64_t number)
 {
-    return FontOf(number)->height;
+    return RowOf(sizesOfFonts, number)->height;
 }
 
 std::int64_t TextWidth(std::string_view text, std::int64_t number)
 {
-    const Font &font = *FontOf(number);
+    const FontWidths &font = *RowOf(widthsOfFonts, number);
     std::int64_t width = 0;
     for (const char c : text)
         width += font.widths[static_cast<unsigned char>(c)];

@@ -10,7 +10,7 @@ namespace {
 
 TEST(FontWidths, AreThoseOfTheHandheld)
 {
-    std::ifstream file(TEST_DATA "/palm/font-widths.csv");
+    std::ifstream file(TEST_DATA "/../../resources/font-widths.csv");
     std::string heading;
     ASSERT_TRUE(std::getline(file, heading));
     int rows = 0, font = 0, code = 0, width = 0;

@@ -1,0 +1,33 @@
+# cmake -D CSV=FILE -D TABLE=FILE -P write_font_widths.cmake: writes the widths of fonts, which a CSV
+# has as lines "font,code,width", as rows of a C++ table. Each font has the codes 0 to 255 in order.
+cmake_minimum_required(VERSION 3.25)
+
+file(STRINGS ${CSV} lines)
+list(POP_FRONT lines heading)
+if(NOT heading STREQUAL "font,code,width")
+    message(FATAL_ERROR "${CSV} does not begin with font,code,width")
+endif()
+
+set(rows "// Made from font-widths.csv.\n")
+set(next 0)
+foreach(line IN LISTS lines)
+    if(NOT line MATCHES "^([0-9]+),([0-9]+),([0-9]+)$"
+       OR NOT CMAKE_MATCH_2 EQUAL next OR CMAKE_MATCH_3 GREATER 255)
+        message(FATAL_ERROR "${CSV}: '${line}' is not the width of code ${next}")
+    endif()
+    if(next EQUAL 0)
+        set(font ${CMAKE_MATCH_1})
+        string(APPEND rows "{${font}, {")
+    elseif(NOT CMAKE_MATCH_1 EQUAL font)
+        message(FATAL_ERROR "${CSV}: font ${font} ends before code ${next}")
+    endif()
+    string(APPEND rows "${CMAKE_MATCH_3},")
+    math(EXPR next "(${next} + 1) % 256")
+    if(next EQUAL 0)
+        string(APPEND rows "}},\n")
+    endif()
+endforeach()
+if(NOT next EQUAL 0)
+    message(FATAL_ERROR "${CSV}: font ${font} ends before code ${next}")
+endif()
+file(WRITE ${TABLE} "${rows}")

@@ -1,0 +1,30 @@
+#include "readback/font_widths.h"
+
+#include <algorithm>
+
+namespace vellumo {
+namespace {
+
+struct Font {
+    quint32 number;
+    quint8 widths[256]; ///< pixels, by code
+};
+
+// A table of this room's own, though from the same figures as that which databases are made by.
+constexpr Font fonts[] = {
+#include "readback/font_widths.inc"
+};
+
+} // namespace
+
+quint32 TextWidth(QByteArrayView text, quint32 font)
+{
+    const auto row = std::ranges::find(fonts, font, &Font::number);
+    Q_ASSERT(row != std::end(fonts));
+    quint32 width = 0;
+    for (const char c : text)
+        width += row->widths[static_cast<uchar>(c)];
+    return width;
+}
+
+} // namespace vellumo
