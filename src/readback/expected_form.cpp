@@ -20,7 +20,7 @@ QList<FormObject> AnswerObjects(const DeliveredQuestion &question)
     QList<FormObject> objects = question.type->objects;
     for (FormObject &object : objects) {
         if (object.kind == ObjectKind::List)
-            object.items = question.items;
+            Fill(object, question.items);
     }
     return objects;
 }

@@ -7,8 +7,7 @@ namespace vellumo {
 
 /// The form that a question must have, object by object (docs/palm-formats.md, "The form of a
 /// question"); a question of an unknown type has only
-/// what every form has. The width of a list is the least that it can be: it grows with the widths
-/// of the items' letters in the handheld's font, which are not known here.
+/// what every form has.
 Form ExpectedForm(quint32 number, const DeliveredQuestion &question);
 
 } // namespace vellumo

@@ -1,12 +1,14 @@
 #include "readback/expected_objects.h"
 
+#include "readback/font_widths.h"
 #include "readback/form_flags.h"
+
+#include <algorithm>
 
 namespace vellumo::expected {
 namespace {
 
-// Wide enough for the margins alone. The letters of the widest item come on top.
-constexpr quint32 leastListWidth = 6;
+constexpr quint32 listMargins = 6; // left and right of the items, together
 
 constexpr quint32 plainControl = FormFlag::usable | FormFlag::enabled | FormFlag::controlLeftAnchor;
 constexpr quint32 framedControl = plainControl | FormFlag::controlFrame;
@@ -113,7 +115,16 @@ FormObject PopupList(quint32 trigger, quint32 list)
 
 FormObject HiddenList(quint32 number, quint32 x, quint32 y, quint32 height)
 {
-    return Placed(ObjectKind::List, number, {x, y, leastListWidth, height}, FormFlag::enabled);
+    return Placed(ObjectKind::List, number, {x, y, listMargins, height}, FormFlag::enabled);
+}
+
+void Fill(FormObject &list, const QList<QByteArray> &items)
+{
+    quint32 widest = 0;
+    for (const QByteArray &item : items)
+        widest = std::max(widest, TextWidth(item, list.font));
+    list.items = items;
+    list.width += widest;
 }
 
 FormObject EditableTable(quint32 number, Rectangle place, quint32 rows,

@@ -32,9 +32,10 @@ FormObject SelectorTrigger(quint32 number, Rectangle place, const QByteArray &te
 FormObject PopupTrigger(quint32 number, Rectangle place);
 FormObject PopupList(quint32 trigger, quint32 list);
 
-/// A list that is hidden until it is asked for, as narrow as one without letters can be; its items
-/// are those of the question.
+/// A list that is hidden until it is asked for, without items yet and as narrow as without letters.
 FormObject HiddenList(quint32 number, quint32 x, quint32 y, quint32 height);
+/// Gives such a list its items, and the width that they need.
+void Fill(FormObject &list, const QList<QByteArray> &items);
 
 FormObject EditableTable(quint32 number, Rectangle place, quint32 rows,
                          const QList<quint32> &columnWidths);

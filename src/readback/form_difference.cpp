@@ -1,6 +1,5 @@
 #include "readback/form_difference.h"
 
-#include <algorithm>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -73,9 +72,9 @@ QStringList HeaderDifferences(const Form &found, const Form &expected)
 QStringList ObjectDifferences(const FormObject &found, const FormObject &expected)
 {
     FormObject allowed = expected;
-    // A list is as wide as its widest item, which depends on letters of the handheld's font.
-    if (expected.kind == ObjectKind::List)
-        allowed.width = std::max(expected.width, found.width);
+    // A list is as wide as its widest item: with other items, which are told, it is another width.
+    if (found.items != expected.items)
+        allowed.width = found.width;
     const QString owner = Describe(found);
     QStringList differences = Differences<FormObject>(found, allowed, objectNumbers, owner);
     if (found.columnWidths != expected.columnWidths)

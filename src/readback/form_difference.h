@@ -10,7 +10,8 @@ namespace vellumo {
 /// of 160".
 QStringList HeaderDifferences(const Form &found, const Form &expected);
 
-/// Likewise for two objects of the same kind, number and style. A list may be wider than expected.
+/// Likewise for two objects of the same kind, number and style, but for their texts and items. The
+/// width of a list counts only where its items are those that are expected.
 QStringList ObjectDifferences(const FormObject &found, const FormObject &expected);
 
 } // namespace vellumo

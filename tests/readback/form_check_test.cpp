@@ -67,9 +67,14 @@ TEST(FormCheck, FindsOtherObjects)
          changedForm(1, table + 74, 13),
          {u"form-object [form 1] The form of question 1: the columns of table 2 differ."_s}},
         {"a list too narrow",
-         changedForm(1, list + 6, 5),
-         {u"form-object [form 1] The form of question 1: the width of list 4 is 5 instead of 6."_s}},
-        {"a list just wide enough", changedForm(1, list + 6, 6), {}},
+         changedForm(1, list + 6, 42),
+         {u"form-object [form 1] "
+          "The form of question 1: the width of list 4 is 42 instead of 43."_s}},
+        {"a list as wide as its widest item", changedForm(1, list + 6, 43), {}},
+        {"a list too wide",
+         changedForm(1, list + 6, 44),
+         {u"form-object [form 1] "
+          "The form of question 1: the width of list 4 is 44 instead of 43."_s}},
     };
     for (const Damage &row : rows)
         ExpectFound(row, TenTypesProject());

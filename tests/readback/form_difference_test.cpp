@@ -68,17 +68,20 @@ TEST(FormDifference, TellsSeveralInTheirOrder)
                            u"the columns of table 2 differ"_s}));
 }
 
-TEST(FormDifference, OnlyAListMayBeWider)
+TEST(FormDifference, TellsTheWidthOfAListWhereItsItemsAreRight)
 {
-    const FormObject list = {.kind = ObjectKind::List, .number = 3, .width = 6};
-    const FormObject gadget = {.kind = ObjectKind::Gadget, .number = 2, .width = 6};
-    const auto withWidth = [](FormObject object, quint32 width) {
-        object.width = width;
-        return object;
-    };
-    EXPECT_EQ(ObjectDifferences(withWidth(list, 160), list), QStringList());
-    EXPECT_EQ(ObjectDifferences(withWidth(list, 5), list),
-              QStringList{u"the width of list 3 is 5 instead of 6"_s});
-    EXPECT_EQ(ObjectDifferences(withWidth(gadget, 7), gadget),
-              QStringList{u"the width of gadget 2 is 7 instead of 6"_s});
+    const FormObject list = {
+        .kind = ObjectKind::List, .number = 3, .width = 16, .items = {"Wren", "Robin"}};
+    FormObject found = list;
+    EXPECT_EQ(ObjectDifferences(found, list), QStringList());
+    for (const quint32 width : {15u, 17u, 160u}) {
+        found.width = width;
+        EXPECT_EQ(ObjectDifferences(found, list),
+                  QStringList{u"the width of list 3 is %1 instead of 16"_s.arg(width)});
+    }
+    found.items = {"Wren"};
+    EXPECT_EQ(ObjectDifferences(found, list), QStringList()) << "it follows from the items";
+    found.height = 1;
+    EXPECT_EQ(ObjectDifferences(found, list),
+              QStringList{u"the height of list 3 is 1 instead of 0"_s});
 }

@@ -46,6 +46,38 @@ inline Project TextProject()
                                           .ColumnName = u"FINDER"_s});
 }
 
+/// A question with its items, and the name of the golden database that has it alone.
+struct QuestionOfOneProject {
+    QString name;
+    QuestionRow question;
+    QStringList items = {};
+};
+
+/// The projects of the golden databases that have one question each, one for every type.
+inline QList<Project> SmallProjects()
+{
+    using namespace Qt::StringLiterals;
+    const QuestionOfOneProject rows[] = {
+        {u"numeric"_s, {0, u"Count"_s, u"How many were seen?"_s, u"Numeric"_s, u"COUNT"_s}},
+        {u"currency"_s, {0, u"Price"_s, u"What did it cost?"_s, u"Currency"_s, u"PRICE"_s}},
+        {u"notes"_s, {0, u"Sketch"_s, u"Draw the place"_s, u"Notes"_s, u"SKETCH"_s}},
+        {u"yesno"_s, {0, u"Open?"_s, u"Is the gate open?"_s, u"Yes/No"_s, u"IS_OPEN"_s}},
+        {u"datetime"_s, {0, u"When"_s, u"When was it seen?"_s, u"Date/Time"_s, u"SEEN_AT"_s}},
+        {u"signature"_s, {0, u"Sign"_s, u"Please sign here"_s, u"Signature"_s, u"SIGNED"_s}},
+        {u"barcode"_s, {0, u"Tag"_s, u"Scan the tag"_s, u"Scanned Barcode"_s, u"TAG"_s}},
+        {u"pulldown"_s,
+         {0, u"Colour"_s, u"Which colour?"_s, u"Pulldown List"_s, u"COLOUR"_s},
+         {u"Red"_s, u"Green"_s, u"Blue"_s}},
+        {u"checkboxes"_s,
+         {0, u"Damage"_s, u"Mark all damage"_s, u"Checkboxes"_s, u"DAMAGE"_s},
+         {u"Roof"_s, u"Wall"_s, u"Window"_s, u"Door"_s}},
+    };
+    QList<Project> projects = {TextProject()};
+    for (const QuestionOfOneProject &row : rows)
+        projects += OneQuestionProject(row.name, row.question, row.items);
+    return projects;
+}
+
 /// The project of tentypes, which has a question of each type.
 inline Project TenTypesProject()
 {
