@@ -23,8 +23,15 @@ Result<QByteArray> ReadWholeFile(const QString &path, const FileLimit &limit);
 /// The error that something is larger than the limit.
 Error TooLarge(const QString &path, const FileLimit &limit);
 
-/// Puts bytes in the place of a file, which stays whole until they are all on disk.
+/// Puts bytes in the place of a file. The old one stays whole, and keeps its name, until the new
+/// one is on the disk; the new one has its rights, and its owner where the user may give files
+/// away. Links are followed, but none that somebody else laid into a folder where others may write.
+/// What is no regular file, such as a device, a pipe or /dev/stdout, is written into; that waits
+/// until a pipe has a reader.
 Outcome ReplaceFile(const QString &path, const QByteArray &bytes);
+
+/// Whether ReplaceFile would write into what stands there.
+bool IsWrittenInto(const QString &path);
 
 /// Creates a file anew with these bytes; what stood there is gone, also where writing then fails.
 Outcome WriteNewFile(const QString &path, const QByteArray &bytes);
