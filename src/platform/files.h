@@ -33,7 +33,8 @@ Outcome ReplaceFile(const QString &path, const QByteArray &bytes);
 /// Whether ReplaceFile would write into what stands there.
 bool IsWrittenInto(const QString &path);
 
-/// Creates a file anew with these bytes; what stood there is gone, also where writing then fails.
+/// Creates a file anew with these bytes; what stood there is gone, also where writing then fails. A
+/// link, a pipe or a device is removed and nothing written through it.
 Outcome WriteNewFile(const QString &path, const QByteArray &bytes);
 
 /// Deletes a file; one that does not exist is no error.

@@ -91,6 +91,20 @@ Outcome Put(const Result<OutputPlace> &place, const QByteArray &bytes)
     return place->IsFileOrFree() ? PutInPlace(*place, bytes) : WriteInto(*place, bytes);
 }
 
+/// Removes what would stand in the way of a new file. A file that may not be written, as in the
+/// hands of another, stays.
+Outcome MakeWay(const QByteArray &path)
+{
+    struct stat old = {};
+    if (lstat(path, &old) != 0)
+        return errno == ENOENT ? done : Outcome(LastError());
+    if (S_ISDIR(old.st_mode))
+        return Error{u"Is a folder"_s};
+    if (S_ISREG(old.st_mode) && faccessat(AT_FDCWD, path, W_OK, AT_EACCESS) != 0)
+        return LastError();
+    return unlink(path) == 0 ? done : Outcome(LastError());
+}
+
 Outcome Named(const Outcome &outcome, const QString &path)
 {
     if (outcome)
@@ -116,8 +130,9 @@ bool IsWrittenInto(const QString &path)
 Outcome WriteNewFile(const QString &path, const QByteArray &bytes)
 {
     const QByteArray name = QFile::encodeName(path);
-    constexpr int anew = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
-    return Named(Fill(Descriptor(open(name, anew, 0666)), bytes), path);
+    if (const Outcome free = MakeWay(name); !free)
+        return Named(free, path);
+    return Named(Fill(Descriptor(open(name, newFile, 0666)), bytes), path);
 }
 
 } // namespace vellumo

@@ -7,6 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
@@ -20,6 +25,48 @@ TEST(Files, WritesAnewAndDeletes)
     EXPECT_TRUE(RemoveFile(path));
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(RemoveFile(path)) << "what does not exist is no error";
+}
+
+TEST(Files, WritesThroughNothingThatStandsInItsWay)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.rcp"_s), other = folder.filePath(u"other"_s);
+    const QByteArray name = QFile::encodeName(path), otherName = QFile::encodeName(other);
+    ASSERT_TRUE(WriteBytes(other, "kept"));
+    const struct {
+        const char *what;
+        std::function<int()> put;
+    } rows[] = {
+        {"a link", [&] { return symlink("other", name); }},
+        {"a second name of a file", [&] { return link(otherName, name); }},
+        {"a link to nothing", [&] { return symlink("none", name); }},
+        {"a pipe that nobody reads", [&] { return mkfifo(name, 0600); }},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        ASSERT_EQ(row.put(), 0);
+        EXPECT_TRUE(WriteNewFile(path, "new"));
+        EXPECT_FALSE(QFileInfo(path).isSymLink());
+        EXPECT_EQ(BytesOf(path), "new");
+        EXPECT_EQ(BytesOf(other), "kept");
+        EXPECT_TRUE(RemoveFile(path));
+    }
+    EXPECT_EQ(NamesIn(folder.path()), QStringList{u"other"_s});
+}
+
+TEST(Files, WritesNoFileAnewThatMayNotBeWritten)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.rcp"_s);
+    ASSERT_TRUE(WriteBytes(path, "held"));
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x4444)));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
+    const AsOrdinaryUser ordinary;
+    const Outcome outcome = WriteNewFile(path, "new");
+    ASSERT_FALSE(outcome);
+    EXPECT_TRUE(outcome.error().permissionDenied);
+    EXPECT_EQ(outcome.error().text, u"Permission denied"_s);
+    EXPECT_EQ(BytesOf(path), "held");
 }
 
 TEST(Files, TellsDeniedPermissionFromOtherReasons)
