@@ -3,6 +3,7 @@
 #include "cli/inputs.h"
 #include "model/project_writer.h"
 #include "palmgen/script_generator.h"
+#include "platform/files.h"
 #include "platform/identifier.h"
 
 using namespace Qt::StringLiterals;
@@ -52,6 +53,9 @@ Exit RewriteProject(const CommandLine &line, const Console &console)
     const QString target = line.output.isEmpty() ? input : line.output;
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
+    if (line.output.isEmpty() && target != "-"_L1 && IsWrittenInto(target))
+        return Refuse(console, Exit::WrongUse,
+                      {u"What is no file cannot be rewritten in its place: -o FILE."_s, input});
     const Result<Project> project = ReadProjectInput(input, console);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
