@@ -1,4 +1,5 @@
 #include "cli/vellumo.h"
+#include "platform/arguments.h"
 #include "platform/terminal.h"
 
 #include <QCoreApplication>
@@ -15,5 +16,6 @@ int main(int argc, char *argv[])
                       {.in = std::cin,
                        .out = std::cout,
                        .err = std::cerr,
-                       .showProgress = StandardErrorIsTerminal()});
+                       .showProgress = StandardErrorIsTerminal()},
+                      CheckArguments(argc, argv));
 }

@@ -24,8 +24,10 @@ bool HasOption(const QStringList &words, const QString &option)
     return std::find(words.begin(), end, option) != end;
 }
 
-Exit Run(const QStringList &words, const Console &console)
+Exit Run(const QStringList &words, const Console &console, const Outcome &typed)
 {
+    if (!typed)
+        return RefuseUse(console, typed.error().text);
     if (HasOption(words, u"--help"_s) || HasOption(words, u"-h"_s)) {
         console.Write(HelpText().toLatin1());
         return Exit::Fine;
@@ -47,11 +49,11 @@ Exit Run(const QStringList &words, const Console &console)
 
 } // namespace
 
-int RunVellumo(const QStringList &words, Console console)
+int RunVellumo(const QStringList &words, Console console, const Outcome &typed)
 {
     // Before the words are understood, so that wrong use is told as JSON, too.
     console.json = HasOption(words, u"--json"_s);
-    const Exit exit = Run(words, console);
+    const Exit exit = Run(words, console, typed);
     // What the stream still holds may meet a full disk only now.
     if (console.out.flush())
         return static_cast<int>(exit);
