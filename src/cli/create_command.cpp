@@ -4,6 +4,7 @@
 #include "cli/review_command.h"
 #include "cli/verify_command.h"
 #include "palmgen/build_with_tools.h"
+#include "palmgen/create_messages.h"
 #include "palmgen/create_pass.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -27,25 +28,6 @@ CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
     const ToolLimits limits = {{ApplicationFolder()}, line.timeoutSeconds};
     return {{.work = folder, .databases = folder + QDir::separator()},
             BuildWithTools([limits](const ToolCall &call) { return RunAndWait(call, limits); })};
-}
-
-/// How a tool failed, with its own words where it had any; empty where it succeeded.
-QString ToolFault(const ToolRun &run, int timeoutSeconds)
-{
-    switch (run.end) {
-    case ToolEnd::Succeeded:
-        break;
-    case ToolEnd::NotStarted:
-        return u"cannot start %1: %2"_s.arg(run.commandLine, run.reason);
-    case ToolEnd::TimedOut:
-        return u"did not end within %1 s: %2"_s.arg(QString::number(timeoutSeconds),
-                                                    run.commandLine);
-    case ToolEnd::Failed:
-        const QString fault = u"failed (%1): %2"_s.arg(run.reason, run.commandLine);
-        const QString words = run.messages.trimmed();
-        return words.isEmpty() ? fault : fault + u'\n' + words;
-    }
-    return {};
 }
 
 /// What became of one project, told with the project's name in front.
@@ -105,7 +87,7 @@ private:
         }
         // The first that failed is the cause: each is run whatever the one before it says.
         for (const ToolRun &run : report.runs)
-            if (const QString fault = ToolFault(run, m_line.timeoutSeconds); !fault.isEmpty())
+            if (const QString fault = FaultOf(run, m_line.timeoutSeconds); !fault.isEmpty())
                 return Fail(Exit::ToolFailed, fault);
         return Exit::Fine;
     }

@@ -1,5 +1,6 @@
 #include "designer/help_links.h"
 #include "designer/real_environment.h"
+#include "platform/arguments.h"
 #include "ui/about/myHelp.h"
 #include "ui/common/pictures.h"
 #include "ui/main/appInfoForm.h"
@@ -15,7 +16,8 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(ProgramIcon());
 
     const Environment environment = RealEnvironment();
-    const Start start = StartUp(environment, QApplication::arguments().mid(1));
+    const Start start =
+        StartUp(environment, QApplication::arguments().mid(1), CheckArguments(argc, argv));
 
     myHelp help(environment);
     appInfoForm window(environment);

@@ -131,7 +131,7 @@ ShowOpenForm ReadShowOpenForm(const QString &applicationFolder)
     for (const qint16 known : {qint16(0), qint16(1)})
         if (isNumber && number == known)
             return {.value = known};
-    return {.message = damagedSettingsFile};
+    return {.message = damagedSettingsFile, .file = path};
 }
 
 void HideOpenFormNextTime(const QString &applicationFolder)

@@ -13,6 +13,7 @@ inline constexpr QLatin1StringView damagedSettingsFile{"There is a bug with sett
 struct ShowOpenForm {
     qint16 value = -1;    ///< 1 = show the chooser, 0 = skip it, -1 = unknown, which skips it too
     QString message = {}; ///< for the user; empty = nothing to tell
+    QString file = {};    ///< that the message is about
 };
 
 /// True when the file was there before; false when it was missing, and now is there, saying 1, if

@@ -1,14 +1,29 @@
 #include "ui/common/prompts.h"
 
 #include <QInputDialog>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
 
 namespace vellumo {
+namespace {
+
+/// The box's own text format does not hold for this part of it.
+void ShowBelow(QMessageBox &box, const QString &informative)
+{
+    box.setInformativeText(informative);
+    if (auto *label = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
+        label->setTextFormat(Qt::PlainText);
+}
+
+} // namespace
 
 QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box)
 {
     // Not one of the toolkit's ready boxes, which take a text that looks like markup for markup.
     QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
     shown.setTextFormat(Qt::PlainText);
+    ShowBelow(shown, box.informative);
     shown.setDefaultButton(box.defaultButton);
     shown.setEscapeButton(box.closeButton);
     return static_cast<QMessageBox::StandardButton>(shown.exec());
@@ -27,6 +42,12 @@ void ShowInformation(QWidget *parent, const QString &message)
 void ShowCritical(QWidget *parent, const QString &message)
 {
     ShowBox(parent, {.text = message, .icon = QMessageBox::Critical});
+}
+
+void ShowCritical(QWidget *parent, const QString &message, const Error &error)
+{
+    ShowBox(parent,
+            {.text = message, .icon = QMessageBox::Critical, .informative = Describe(error)});
 }
 
 QString AskYesNo(QWidget *parent, const QString &message)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/result.h"
+
 #include <QMessageBox>
 #include <QString>
 
@@ -20,6 +22,7 @@ struct Box {
     QMessageBox::StandardButton defaultButton = QMessageBox::Ok;
     /// What closing the box without a button means.
     QMessageBox::StandardButton closeButton = QMessageBox::Ok;
+    QString informative = {}; ///< stands below the text, smaller; empty = nothing does
 };
 
 /// Shows the box and waits; gives the button that was pressed.
@@ -29,6 +32,9 @@ QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box);
 void ShowExclamation(QWidget *parent, const QString &message);
 void ShowInformation(QWidget *parent, const QString &message);
 void ShowCritical(QWidget *parent, const QString &message);
+
+/// The same with file and reason of the error below the message.
+void ShowCritical(QWidget *parent, const QString &message, const Error &error);
 
 /// "Yes" or "No"; No is the default, and what closing the box means.
 QString AskYesNo(QWidget *parent, const QString &message);

@@ -139,7 +139,7 @@ void appInfoForm::OpenProject(const QString &path)
         m_document.Replace(std::move(*loaded), path);
     } else {
         m_document.Replace({}, {});
-        ShowCritical(this, invalidProjectFile);
+        ShowCritical(this, invalidProjectFile, loaded.error());
     }
     Review(false);
     SelectStep(1);

@@ -31,10 +31,13 @@ void CreateDatabase(const Project &project, const Environment &environment, QWid
 
     for (const QString &message : MessagesOfTools(report))
         ShowBox(window, {.text = message, .icon = QMessageBox::Warning, .title = u"Error"_s});
-    if (report.end != CreateEnd::BuildEnded)
-        return ShowCritical(window, MessageOfFailure(report));
-    // By intention also after a tool that failed: here only one that did not start is noticed.
-    ShowInformation(window, MessageOfSuccess(report, folders));
+    const bool failed = report.end != CreateEnd::BuildEnded;
+    // A success is told, by intention, also after a tool that failed: what it said stands below.
+    ShowBox(window, {.text = failed ? MessageOfFailure(report) : MessageOfSuccess(report, folders),
+                     .icon = failed ? QMessageBox::Critical : QMessageBox::Information,
+                     .informative = ReasonOf(report)});
+    if (failed)
+        return;
     environment.open(report.database);
     environment.open(folders.databases);
 }

@@ -86,7 +86,7 @@ void ProjectFiles::SaveTo(const QString &path)
         return m_document.MarkSaved(path);
     m_saveCancelled = true;
     if (!path.isEmpty())
-        ShowCritical(m_window, saved.error().text);
+        ShowCritical(m_window, saved.error().text, saved.error());
 }
 
 QString ProjectFiles::ChooseTarget(const QString &folder, const QString &fileName)

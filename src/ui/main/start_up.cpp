@@ -1,6 +1,7 @@
 #include "ui/main/start_up.h"
 
 #include "model/basRegistry.h"
+#include "model/project_file.h"
 #include "ui/common/prompts.h"
 #include "ui/main/fileOpenForm.h"
 #include "ui/main/logoForm.h"
@@ -35,9 +36,13 @@ QString ProjectOfCommandLine(const QStringList &arguments, const QString &applic
     return applicationFolder + QDir::separator() + commandLine;
 }
 
-Start StartUp(const Environment &environment, const QStringList &arguments)
+Start StartUp(const Environment &environment, const QStringList &arguments, const Outcome &typed)
 {
     QDir().mkpath(environment.projectsFolder);
+    if (!typed) {
+        ShowCritical(nullptr, invalidProjectFile, typed.error());
+        return {};
+    }
     const QString named = ProjectOfCommandLine(arguments, environment.applicationFolder);
     if (!named.isEmpty())
         return {existingProject, named};
@@ -45,7 +50,7 @@ Start StartUp(const Environment &environment, const QStringList &arguments)
     ShowSplash(environment);
     const ShowOpenForm setting = ReadShowOpenForm(environment.applicationFolder);
     if (!setting.message.isEmpty())
-        ShowBox(nullptr, {.text = setting.message});
+        ShowBox(nullptr, {.text = setting.message, .informative = setting.file});
     return setting.value == 1 ? AskForProject(environment) : Start();
 }
 

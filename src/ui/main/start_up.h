@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/result.h"
 #include "ui/common/environment.h"
 #include "ui/main/start.h"
 
@@ -16,8 +17,10 @@ QString ProjectOfCommandLine(const QStringList &arguments, const QString &applic
 /// command line names is the outcome. Without one, shows the splash with its update check and,
 /// where the settings file of the application folder says so, the chooser; an existing project
 /// without a path becomes a new one.
+/// Where the words are not what was typed, nothing is opened, and a box says so.
 ///
 /// The caller loads start.path, and reviews it in silence, if start.choice is "Existing".
-Start StartUp(const Environment &environment, const QStringList &arguments);
+Start StartUp(const Environment &environment, const QStringList &arguments,
+              const Outcome &typed = done);
 
 } // namespace vellumo

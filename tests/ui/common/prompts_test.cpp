@@ -32,6 +32,20 @@ TEST(Prompts, TellsWithAnOkButton)
     }
 }
 
+TEST(Prompts, TellsFileAndReasonOfAnErrorBelow)
+{
+    const PromptScript script({u"OK"_s});
+    ShowCritical(nullptr, u"Not <b>saved"_s, {u"No <i>space"_s, u"/a <u>b/c.vmp"_s, 3});
+
+    ASSERT_EQ(script.boxes().size(), 1u);
+    const SeenBox &box = script.boxes().front();
+    EXPECT_EQ(box.title, u"Vellumo Designer"_s);
+    EXPECT_EQ(box.text, u"Not <b>saved"_s);
+    EXPECT_EQ(box.informative, u"/a <u>b/c.vmp:3: No <i>space"_s);
+    EXPECT_EQ(box.icon, QMessageBox::Critical);
+    EXPECT_EQ(box.buttons, QStringList{u"OK"_s});
+}
+
 TEST(Prompts, AsksYesOrNoWithNoAsDefault)
 {
     const PromptScript script({u"Yes"_s, u"No"_s, u""_s});

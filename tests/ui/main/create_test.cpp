@@ -1,4 +1,5 @@
 #include "platform/tool_runner.h"
+#include "support/ordinary_user.h"
 #include "support/print.h"
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
@@ -49,13 +50,14 @@ TEST(Create, TellsOfSuccessWhateverTheToolsSaid)
 {
     Designer designer(sample);
     designer.runTool = [](const ToolCall &) {
-        return ToolRun{.end = ToolEnd::Failed, .reason = u"exit status 1"_s};
+        return ToolRun{.commandLine = u"tool"_s, .end = ToolEnd::Failed, .reason = u"crashed"_s};
     };
     const PromptScript prompts({u"OK"_s, u"OK"_s});
     ReviewAndCreate(designer);
     ASSERT_EQ(prompts.boxes().size(), 2u);
     EXPECT_EQ(prompts.boxes()[1].icon, QMessageBox::Information);
     EXPECT_TRUE(prompts.boxes()[1].text.contains(u".Prc has been created."_s));
+    EXPECT_EQ(prompts.boxes()[1].informative, u"failed (crashed): tool\nfailed (crashed): tool"_s);
 }
 
 TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
@@ -88,7 +90,35 @@ TEST(Create, FailsWithOneBoxWhereTheScriptCannotBeWritten)
     EXPECT_EQ(prompts.boxes()[1].icon, QMessageBox::Critical);
     EXPECT_EQ(prompts.boxes()[1].title, u"Vellumo Designer"_s);
     EXPECT_EQ(prompts.boxes()[1].text, u"Error in Vellsheet Creation!"_s);
+    EXPECT_TRUE(prompts.boxes()[1].informative.contains(u"'\u0416' (U+0416)"_s))
+        << "names the character";
     EXPECT_TRUE(designer.opened.isEmpty());
+}
+
+TEST(Create, NamesAListWithoutItems)
+{
+    Designer designer(DataFile(u"projects/edge-noitems.vmp"_s));
+    const PromptScript prompts({u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+    ASSERT_EQ(prompts.boxes().size(), 2u);
+    EXPECT_EQ(prompts.boxes()[1].text, u"Error in Vellsheet Creation!"_s);
+    EXPECT_EQ(prompts.boxes()[1].informative, u"Question 3 is a list without items"_s);
+}
+
+TEST(Create, NamesTheFileThatCannotBeWritten)
+{
+    Designer designer(sample);
+    const PromptScript prompts({u"OK"_s, u"OK"_s});
+    QFile::setPermissions(designer.folder.path(), QFile::Permissions(0x7755));
+    QFile::setPermissions(designer.application, QFile::Permissions(0x7555));
+    {
+        const AsOrdinaryUser ordinary;
+        ReviewAndCreate(designer);
+    }
+    ASSERT_EQ(prompts.boxes().size(), 2u);
+    EXPECT_EQ(prompts.boxes()[1].text, u"Permission denied\r\nError in Vellsheet Creation!"_s);
+    EXPECT_EQ(prompts.boxes()[1].informative,
+              designer.application + u"/SiteVisit.rcp: Permission denied"_s);
 }
 
 TEST(Create, IsNotToBePressedBeforeAReview)

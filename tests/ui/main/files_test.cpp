@@ -159,6 +159,7 @@ TEST(Save, SaysWhyItCouldNotBeDoneAndLeavesTheOldFileWhole)
     EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Critical);
     EXPECT_EQ(prompts.boxes()[0].title, u"Vellumo Designer"_s);
     EXPECT_TRUE(prompts.boxes()[0].text.contains(u"\u0416"_s)) << "names the character";
+    EXPECT_EQ(prompts.boxes()[0].informative, path + u": "_s + prompts.boxes()[0].text);
     EXPECT_EQ(BytesOf(path), before);
     EXPECT_TRUE(designer.ProjectChanged());
     EXPECT_EQ(designer.window.document().path(), path);
@@ -183,7 +184,8 @@ TEST(Save, SaysWhyAFolderCannotBeWritten)
     QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     ASSERT_EQ(prompts.boxes().size(), 1u);
     EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Critical);
-    EXPECT_FALSE(prompts.boxes()[0].text.isEmpty());
+    EXPECT_EQ(prompts.boxes()[0].text, u"Permission denied"_s);
+    EXPECT_EQ(prompts.boxes()[0].informative, path + u": Permission denied"_s);
     EXPECT_EQ(BytesOf(path), before);
     EXPECT_TRUE(designer.ProjectChanged());
 }
@@ -247,6 +249,7 @@ TEST(Open, RefusesAFileThatIsNoProject)
     EXPECT_EQ(prompts.fileDialogs(), QStringList{open});
     ASSERT_EQ(prompts.boxes().size(), 1u);
     EXPECT_EQ(prompts.boxes()[0].text, u"This file is not a valid VMP file."_s);
+    EXPECT_TRUE(prompts.boxes()[0].informative.startsWith(path + u":1: "_s));
     EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Critical);
     EXPECT_EQ(designer.window.document().path(), QString());
     EXPECT_EQ(designer.project().source.QuestionCount(), 0);

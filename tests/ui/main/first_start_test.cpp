@@ -71,6 +71,7 @@ TEST_F(FirstStart, TellsOfADamagedSettingsFileInAPlainBox)
     const SeenBox &box = script.boxes().front();
     EXPECT_EQ(box.title, u"Vellumo Designer"_s);
     EXPECT_EQ(box.text, u"There is a bug with setting file."_s);
+    EXPECT_EQ(box.informative, SettingsFile());
     EXPECT_EQ(box.icon, QMessageBox::NoIcon);
     EXPECT_EQ(box.buttons, QStringList{u"OK"_s});
 }

@@ -99,6 +99,18 @@ TEST_F(AStart, WithAProjectNamedShowsNothing)
     EXPECT_FALSE(QFile::exists(m_folder.filePath(u"settings.ini"_s)));
 }
 
+TEST_F(AStart, OpensNothingWhereTheNameIsNotWhatWasTyped)
+{
+    const PromptScript script({u"OK"_s});
+    const Error error = {uR"(The name '\xff.vmp' is not in the encoding of this system.)"_s};
+    const Start start = StartUp(m_environment, {u"\uFFFD.vmp"_s}, error);
+    EXPECT_EQ(start.choice, u"New"_s);
+    ASSERT_EQ(script.boxes().size(), 1u);
+    EXPECT_EQ(script.boxes()[0].text, u"This file is not a valid VMP file."_s);
+    EXPECT_EQ(script.boxes()[0].informative, error.text);
+    EXPECT_TRUE(QDir(m_environment.projectsFolder).exists());
+}
+
 TEST_F(AStart, TakesTheChoiceOfTheChooser)
 {
     const PromptScript script({m_folder.filePath(u"a.vmp"_s), m_folder.filePath(u"a.vmp"_s)});

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -23,9 +24,13 @@ QString CaptionOf(const QAbstractButton *button)
 
 SeenBox Look(const QMessageBox &box)
 {
-    SeenBox seen{box.windowTitle(), box.text(), box.icon(), {}, CaptionOf(box.defaultButton())};
+    SeenBox seen{box.windowTitle(),    box.text(), box.icon(), {}, CaptionOf(box.defaultButton()),
+                 box.informativeText()};
     for (const QAbstractButton *button : box.buttons())
         seen.buttons += CaptionOf(button);
+    for (const QLabel *label : box.findChildren<QLabel *>())
+        EXPECT_TRUE(label->text().isEmpty() || label->textFormat() == Qt::PlainText)
+            << "may be taken for markup: " << label->text().toStdString();
     return seen;
 }
 

@@ -17,8 +17,9 @@ struct SeenBox {
     QString title;
     QString text;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
-    QStringList buttons;   ///< captions without their access keys, in the order of the box
-    QString defaultButton; ///< caption
+    QStringList buttons;      ///< captions without their access keys, in the order of the box
+    QString defaultButton;    ///< caption
+    QString informative = {}; ///< below the text
 };
 
 /// What was shown, and whether the test has looked at it since.
