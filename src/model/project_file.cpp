@@ -4,9 +4,20 @@
 #include "model/project_reader.h"
 #include "model/project_writer.h"
 
-namespace vellumo {
+#include <QCryptographicHash>
+#include <QFileInfo>
 
-Result<Project> LoadProject(const QString &path)
+namespace vellumo {
+namespace {
+
+Fingerprint FingerprintOf(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+} // namespace
+
+Result<Project> LoadProject(const QString &path, Fingerprint *fingerprint)
 {
     const Result<QByteArray> bytes = ReadWholeFile(path, projectLimit);
     if (!bytes)
@@ -14,15 +25,28 @@ Result<Project> LoadProject(const QString &path)
     Result<Project> project = ReadProject(*bytes);
     if (!project)
         return Error{project.error().text, path, project.error().line};
+    if (fingerprint)
+        *fingerprint = FingerprintOf(*bytes);
     return project;
 }
 
-Outcome SaveProject(const Project &project, const QString &path)
+Outcome SaveProject(const Project &project, const QString &path, Fingerprint *fingerprint)
 {
     const Result<QByteArray> bytes = WriteProject(project);
     if (!bytes)
         return Error{bytes.error().text, path};
-    return ReplaceFile(path, *bytes);
+    const Outcome replaced = ReplaceFile(path, *bytes);
+    if (replaced && fingerprint)
+        *fingerprint = FingerprintOf(*bytes);
+    return replaced;
+}
+
+bool HoldsSomethingElse(const QString &path, const Fingerprint &fingerprint)
+{
+    if (fingerprint.isEmpty() || !QFileInfo(path).isFile())
+        return false;
+    const Result<QByteArray> bytes = ReadWholeFile(path, projectLimit);
+    return !bytes || FingerprintOf(*bytes) != fingerprint;
 }
 
 } // namespace vellumo

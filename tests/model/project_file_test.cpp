@@ -98,3 +98,26 @@ TEST_F(ProjectFile, AFolderThatVanishedIsSaid)
 {
     EXPECT_FALSE(SaveProject(Project(), InFolder(u"gone/x.vmp"_s)));
 }
+
+TEST_F(ProjectFile, KnowsWhetherItHoldsSomethingElse)
+{
+    const QString path = InFolder(u"a.vmp"_s);
+    Fingerprint saved, loaded;
+    ASSERT_TRUE(SaveProject(Project(), path, &saved));
+    ASSERT_TRUE(LoadProject(path, &loaded));
+    EXPECT_EQ(loaded, saved);
+    EXPECT_FALSE(HoldsSomethingElse(path, saved));
+    ASSERT_TRUE(WriteBytes(path, BytesOf(path)));
+    EXPECT_FALSE(HoldsSomethingElse(path, saved)) << "the same bytes, written again";
+    EXPECT_TRUE(HoldsSomethingElse(DataFile(u"projects/SiteVisit.vmp"_s), saved));
+    EXPECT_FALSE(HoldsSomethingElse(DataFile(u"projects/SiteVisit.vmp"_s), {}));
+
+    QFile file(path);
+    ASSERT_TRUE(file.resize(file.size() - 1));
+    EXPECT_TRUE(HoldsSomethingElse(path, saved));
+    ASSERT_TRUE(file.resize(16 * 1024 * 1024 + 1));
+    EXPECT_TRUE(HoldsSomethingElse(path, saved)) << "too large to be a project";
+    ASSERT_TRUE(file.remove());
+    EXPECT_FALSE(HoldsSomethingElse(path, saved)) << "gone";
+    EXPECT_FALSE(HoldsSomethingElse(m_folder.path(), saved)) << "no file";
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/form_fields.h"
+#include "model/project_file.h"
 
 #include <QObject>
 
@@ -26,12 +27,15 @@ public:
     bool ProjectChanged() const { return m_changed; }
     void SetProjectChanged(bool changed) { m_changed = changed; }
 
+    /// Of that file's bytes when it was opened or saved here; empty where that is not known.
+    const Fingerprint &fingerprint() const { return m_fingerprint; }
+
     /// Puts another project in place of the open one. Whether it counts as changed is the caller's
     /// to say.
-    void Replace(Project project, const QString &path);
+    void Replace(Project project, const QString &path, const Fingerprint &fingerprint = {});
 
     /// The project is what that file holds.
-    void MarkSaved(const QString &path);
+    void MarkSaved(const QString &path, const Fingerprint &fingerprint);
 
     /// Takes a text as it is typed; the project counts as changed.
     void SetText(FormField field, const QString &text);
@@ -75,6 +79,7 @@ private:
 
     Project m_project;
     QString m_path;
+    Fingerprint m_fingerprint;
     bool m_changed = false;
 };
 

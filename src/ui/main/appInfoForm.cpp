@@ -134,9 +134,10 @@ void appInfoForm::Open()
 
 void appInfoForm::OpenProject(const QString &path)
 {
-    Result<Project> loaded = LoadProject(path);
+    Fingerprint fingerprint;
+    Result<Project> loaded = LoadProject(path, &fingerprint);
     if (loaded) {
-        m_document.Replace(std::move(*loaded), path);
+        m_document.Replace(std::move(*loaded), path, fingerprint);
     } else {
         m_document.Replace({}, {});
         ShowCritical(this, invalidProjectFile, loaded.error());

@@ -78,15 +78,31 @@ QString ProjectFiles::ChooseProject()
     return ChosenFile(dialog);
 }
 
+/// Whether the user lets a file go that another program put in the place of the project's, or wrote
+/// to; the dialog that chooses a file has asked about any other.
+bool ProjectFiles::MayReplace(const QString &path)
+{
+    const bool isOwn = QFileInfo(path) == QFileInfo(m_document.path());
+    if (!isOwn || !HoldsSomethingElse(path, m_document.fingerprint()))
+        return true;
+    return AskYesNo(m_window,
+                    u"%1\r\nhas been changed by another program since you opened or saved "
+                    "it. Do you want to save your project over it?"_s.arg(path)) == "Yes"_L1;
+}
+
 /// An empty path stands for a dialog that was cancelled.
 void ProjectFiles::SaveTo(const QString &path)
 {
-    const Outcome saved = path.isEmpty() ? Error{} : SaveProject(m_document.project(), path);
+    if (path.isEmpty() || !MayReplace(path)) {
+        m_saveCancelled = true;
+        return;
+    }
+    Fingerprint fingerprint;
+    const Outcome saved = SaveProject(m_document.project(), path, &fingerprint);
     if (saved)
-        return m_document.MarkSaved(path);
+        return m_document.MarkSaved(path, fingerprint);
     m_saveCancelled = true;
-    if (!path.isEmpty())
-        ShowCritical(m_window, saved.error().text, saved.error());
+    ShowCritical(m_window, saved.error().text, saved.error());
 }
 
 QString ProjectFiles::ChooseTarget(const QString &folder, const QString &fileName)

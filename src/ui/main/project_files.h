@@ -34,6 +34,7 @@ public:
     QString ChooseProject();
 
 private:
+    bool MayReplace(const QString &path);
     void SaveTo(const QString &path);
     QString ChooseTarget(const QString &folder, const QString &fileName);
 
