@@ -1,31 +1,22 @@
 #include "model/project_reader.h"
 
 #include "model/form_fields.h"
+#include "model/named_texts.h"
 #include "model/project_format.h"
-#include "platform/code_page.h"
+#include "model/xml_reader.h"
 
-#include <QRegularExpression>
-#include <QXmlStreamReader>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
-/// Whether a number's text is without the blanks and plus sign that a conversion passes over.
-bool IsPlain(const QString &number)
-{
-    return number.back().isDigit() && (number.front() == u'-' || number.front().isDigit());
-}
-
-/// The texts of the elements of some names, in the order of the names; null = not met yet.
-template <size_t count> struct Texts {
-    std::array<QLatin1StringView, count> names;
-    std::array<QString, count> values = {};
-};
+using Names = std::span<const QLatin1StringView>;
 
 /// The company, the form information and the next Id.
 constexpr auto namesOfDocument = [] {
@@ -36,210 +27,196 @@ constexpr auto namesOfDocument = [] {
     names.back() = QLatin1StringView("MaxId");
     return names;
 }();
-using DocumentTexts = Texts<namesOfDocument.size()>;
 
-class Reader
+constexpr std::array namesOfQuestion = {"Order"_L1,      "Type"_L1,     "Title"_L1,
+                                        "ColumnName"_L1, "Question"_L1, "Id"_L1};
+constexpr std::array namesOfItem = {"Id"_L1, "Item"_L1};
+
+/// Not QString::fromUtf8, which takes U+FEFF at the beginning for a byte order mark.
+QString FromUtf8(const std::string &text)
+{
+    using Flag = QStringConverter::Flag;
+    return QStringDecoder(QStringConverter::Utf8,
+                          Flag::Stateless | Flag::ConvertInitialBom)(QByteArrayView(text));
+}
+
+/// Knows by depth alone what an element is: 1 = the document, 2 = a section or a text of the
+/// document, 3 = a record or a title, 4 = a text of a record. A text has everything that is in it.
+class Reader : private XmlReader
 {
 public:
-    explicit Reader(const QByteArray &bytes)
+    Result<Project> Read(const QByteArray &bytes)
     {
-        m_xml.setNamespaceProcessing(false);
-        Feed(bytes);
-    }
-
-    Result<Project> Read()
-    {
-        while (!m_xml.atEnd() && !m_xml.isStartElement()) {
-            m_xml.readNext();
-            if (m_xml.isDTD() && m_xml.text().contains("<!ENTITY"_L1))
-                Refuse(u"a project declares no entities"_s);
-        }
-        if (m_xml.isStartElement())
-            ReadDocument();
-        while (!m_xml.atEnd())
-            m_xml.readNext();
-        if (m_xml.hasError())
-            return Error{m_xml.errorString(), {}, static_cast<int>(m_xml.lineNumber())};
+        m_document.Begin(namesOfDocument);
+        if (const Outcome read = ReadDocument(bytes); !read)
+            return read.error();
         m_project.source.MoveFirst();
         return std::move(m_project);
     }
 
 private:
-    void Feed(const QByteArray &bytes);
-    void ReadDocument();
-    void TakeForm(const DocumentTexts &texts);
-    void ReadQuestions();
-    void ReadItems();
-    void ReadTitles();
-    QString ReadText();
-    template <size_t count> void ReadTexts(Texts<count> &record);
-    template <size_t count> bool TakeText(Texts<count> &texts);
-    template <size_t count> void RefuseIncomplete(const Texts<count> &texts);
-    int Number(QLatin1StringView name, const QString &text);
-    void Refuse(const QString &reason);
-
-    QXmlStreamReader m_xml;
-    Project m_project;
-};
-
-/// The parser knows windows-1252 only on some platforms, so those bytes are decoded for it.
-void Reader::Feed(const QByteArray &bytes)
-{
-    static const QRegularExpression declaration(
-        uR"(^<\?xml[^>]*\sencoding\s*=\s*["'](windows-1252|cp1252)["'])"_s,
-        QRegularExpression::CaseInsensitiveOption);
-    if (declaration.match(QString::fromLatin1(bytes.first(std::min<qsizetype>(bytes.size(), 200))))
-            .hasMatch())
-        m_xml.addData(FromWindows1252(bytes));
-    else
-        m_xml.addData(bytes);
-}
-
-void Reader::ReadDocument()
-{
     struct Section {
         QLatin1StringView name;
-        void (Reader::*read)();
+        std::string_view child; ///< as it is written; another name is read as well
+        Names names;            ///< of the texts of a child; none = the child is a text itself
+        void (Reader::*take)();
         bool met = false;
-    } sections[] = {{"rcMain"_L1, &Reader::ReadQuestions},
-                    {"rcChilds"_L1, &Reader::ReadItems},
-                    {"TitleList"_L1, &Reader::ReadTitles}};
+    };
 
-    DocumentTexts texts = {namesOfDocument};
-    while (m_xml.readNextStartElement()) {
-        const auto section = std::ranges::find_if(
-            sections, [this](const Section &known) { return m_xml.name() == known.name; });
-        if (section != std::end(sections) && !section->met) {
-            section->met = true;
-            (this->*section->read)();
-        } else if (!TakeText(texts)) {
-            m_xml.skipCurrentElement();
+    bool StartElement(std::string_view name) override;
+    void EndElement() override;
+    void Text(std::string_view piece) override { *m_text += piece; }
+
+    bool EnterSection(std::string_view name);
+    bool EnterText(std::string *text);
+
+    void TakeDocument();
+    void TakeForm();
+    void TakeQuestion();
+    void TakeItem();
+    void TakeTitle() { m_titles.append(FromUtf8(m_title)); }
+
+    int Number(QLatin1StringView name, const std::string &text);
+    void RefuseIncomplete(const NamedTexts &texts, Names names);
+
+    std::array<Section, 3> m_sections = {
+        {{"rcMain"_L1, "record", namesOfQuestion, &Reader::TakeQuestion},
+         {"rcChilds"_L1, "record", namesOfItem, &Reader::TakeItem},
+         {"TitleList"_L1, "Item", {}, &Reader::TakeTitle}}};
+    NamedTexts m_document;
+    NamedTexts m_record;
+    std::string m_title;
+    QStringList m_titles;
+    Project m_project;
+
+    int m_depth = 0;
+    Section *m_section = nullptr;  ///< that the reader is in
+    int m_textDepth = 0;           ///< of the text that it is in, wanted or not; 0 = in none
+    std::string *m_text = nullptr; ///< that text; null = it is not wanted
+};
+
+bool Reader::StartElement(std::string_view name)
+{
+    ++m_depth;
+    if (m_textDepth > 0)
+        return false;
+    switch (m_depth) {
+    case 2:
+        return EnterSection(name) || EnterText(m_document.Place(name));
+    case 3:
+        if (m_section->names.empty()) {
+            m_title.clear();
+            EnterText(&m_title);
+        } else {
+            m_record.Begin(m_section->names);
         }
-    }
-
-    TakeForm(texts);
-    for (const Section &section : sections)
-        if (!section.met)
-            Refuse(u"the element %1 is missing"_s.arg(section.name));
-    m_project.source.SetMaxId(Number(texts.names.back(), texts.values.back()));
-}
-
-void Reader::TakeForm(const DocumentTexts &texts)
-{
-    const QString &company = texts.values.front();
-    if (!company.isNull() && std::ranges::find(companyTags, company) == companyTags.end())
-        Refuse(u"the company '%1' is not known"_s.arg(company.left(40)));
-    RefuseIncomplete(texts);
-    for (size_t i = 0; i < formFields.size(); ++i)
-        m_project.*formFields[i].text = texts.values[i + 1];
-}
-
-void Reader::ReadQuestions()
-{
-    while (m_xml.readNextStartElement()) {
-        Texts<6> texts = {
-            {"Order"_L1, "Type"_L1, "Title"_L1, "ColumnName"_L1, "Question"_L1, "Id"_L1}};
-        ReadTexts(texts);
-        auto &[order, type, title, columnName, question, id] = texts.values;
-        m_project.source.AddQuestion();
-        m_project.source.Questions().Current() = {
-            .Order = Number("Order"_L1, order),
-            .Title = std::move(title),
-            .Question = std::move(question),
-            .Type = std::move(type),
-            .ColumnName = std::move(columnName),
-            .Id = Number("Id"_L1, id),
-        };
+        return name == m_section->child;
+    case 4:
+        return EnterText(m_record.Place(name));
+    default:
+        return true;
     }
 }
 
-void Reader::ReadItems()
+void Reader::EndElement()
 {
-    while (m_xml.readNextStartElement()) {
-        Texts<2> texts = {{"Id"_L1, "Item"_L1}};
-        ReadTexts(texts);
-        auto &[id, item] = texts.values;
-        m_project.source.AddItem();
-        m_project.source.Items().Current() = {.Id = Number("Id"_L1, id), .Item = std::move(item)};
+    if (m_depth == m_textDepth) {
+        m_textDepth = 0;
+        WantText(false);
     }
+    if (m_depth == 3 && m_section)
+        (this->*m_section->take)();
+    else if (m_depth == 2)
+        m_section = nullptr;
+    else if (m_depth == 1)
+        TakeDocument();
+    --m_depth;
 }
 
-void Reader::ReadTitles()
+/// False for what is no section, and for one that was met before.
+bool Reader::EnterSection(std::string_view name)
 {
-    QStringList titles;
-    while (m_xml.readNextStartElement())
-        titles.append(ReadText());
-    if (!titles.isEmpty())
-        m_project.TitleList = titles;
-}
-
-template <size_t count> void Reader::ReadTexts(Texts<count> &texts)
-{
-    while (m_xml.readNextStartElement())
-        if (!TakeText(texts))
-            m_xml.skipCurrentElement();
-    RefuseIncomplete(texts);
-}
-
-/// Reads the current element where its text is wanted and was not met before.
-template <size_t count> bool Reader::TakeText(Texts<count> &texts)
-{
-    const auto name = std::ranges::find_if(
-        texts.names, [this](QLatin1StringView wanted) { return m_xml.name() == wanted; });
-    if (name == texts.names.end())
+    const auto section = std::ranges::find(m_sections, QLatin1StringView(name), &Section::name);
+    if (section == m_sections.end() || section->met)
         return false;
-    QString &value = texts.values[static_cast<size_t>(name - texts.names.begin())];
-    if (!value.isNull())
-        return false;
-    value = ReadText();
+    section->met = true;
+    m_section = &*section;
     return true;
 }
 
-/// The text of the current element and of those within it; never null. Goes by a counter, not by
-/// recursion: the depth of a file is whatever its author made it.
-QString Reader::ReadText()
+/// Whether the text is wanted.
+bool Reader::EnterText(std::string *text)
 {
-    QString text = u""_s;
-    for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        if (token == QXmlStreamReader::StartElement)
-            ++depth;
-        else if (token == QXmlStreamReader::EndElement)
-            --depth;
-        else if (token == QXmlStreamReader::Characters)
-            text += m_xml.text();
-    }
+    m_textDepth = m_depth;
+    m_text = text;
+    WantText(text);
     return text;
 }
 
-template <size_t count> void Reader::RefuseIncomplete(const Texts<count> &texts)
+void Reader::TakeDocument()
 {
-    for (size_t i = 0; i < count; ++i)
-        if (texts.values[i].isNull())
-            Refuse(u"the element %1 is missing"_s.arg(texts.names[i]));
+    TakeForm();
+    for (const Section &section : m_sections)
+        if (!section.met)
+            Refuse(u"the element %1 is missing"_s.arg(section.name));
+    m_project.source.SetMaxId(Number(namesOfDocument.back(), m_document[formFields.size() + 1]));
+    if (!m_titles.isEmpty())
+        m_project.TitleList = std::move(m_titles);
 }
 
-int Reader::Number(QLatin1StringView name, const QString &text)
+void Reader::TakeForm()
 {
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    if (!isNumber || !IsPlain(text))
-        Refuse(u"%1 is '%2', which is no whole number of 32 bits"_s.arg(name, text.left(40)));
+    const QString company = FromUtf8(m_document[0]);
+    if (m_document.Has(0) && std::ranges::find(companyTags, company) == companyTags.end())
+        Refuse(u"the company '%1' is not known"_s.arg(company.left(40)));
+    RefuseIncomplete(m_document, namesOfDocument);
+    for (size_t i = 0; i < formFields.size(); ++i)
+        m_project.*formFields[i].text = FromUtf8(m_document[i + 1]);
+}
+
+void Reader::TakeQuestion()
+{
+    RefuseIncomplete(m_record, namesOfQuestion);
+    m_project.source.Questions().Append({
+        .Order = Number("Order"_L1, m_record[0]),
+        .Title = FromUtf8(m_record[2]),
+        .Question = FromUtf8(m_record[4]),
+        .Type = FromUtf8(m_record[1]),
+        .ColumnName = FromUtf8(m_record[3]),
+        .Id = Number("Id"_L1, m_record[5]),
+    });
+}
+
+void Reader::TakeItem()
+{
+    RefuseIncomplete(m_record, namesOfItem);
+    m_project.source.Items().Append(
+        {.Id = Number("Id"_L1, m_record[0]), .Item = FromUtf8(m_record[1])});
+}
+
+int Reader::Number(QLatin1StringView name, const std::string &text)
+{
+    int number = 0;
+    const char *end = text.data() + text.size();
+    if (const auto read = std::from_chars(text.data(), end, number);
+        read.ec != std::errc() || read.ptr != end)
+        Refuse(u"%1 is '%2', which is no whole number of 32 bits"_s.arg(name,
+                                                                        FromUtf8(text).left(40)));
     return number;
 }
 
-/// Keeps the first reason: what follows a fault is often its consequence.
-void Reader::Refuse(const QString &reason)
+void Reader::RefuseIncomplete(const NamedTexts &texts, Names names)
 {
-    if (!m_xml.hasError())
-        m_xml.raiseError(reason);
+    for (size_t i = 0; i < names.size(); ++i)
+        if (!texts.Has(i))
+            Refuse(u"the element %1 is missing"_s.arg(names[i]));
 }
 
 } // namespace
 
 Result<Project> ReadProject(const QByteArray &bytes)
 {
-    return Reader(bytes).Read();
+    return Reader().Read(bytes);
 }
 
 } // namespace vellumo

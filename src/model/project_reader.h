@@ -12,8 +12,8 @@ namespace vellumo {
 ///
 /// The elements may stand in any order; of one that stands twice the first counts, and one that is
 /// not known is passed over. Fails, with the line, where the bytes are no well-formed XML, the
-/// company tag is missing or another's, entities are declared, an element is missing, or a number
-/// is no 32-bit decimal.
+/// company tag is missing or another's, there is a document type, an element is missing, or a
+/// number is no 32-bit decimal.
 Result<Project> ReadProject(const QByteArray &bytes);
 
 } // namespace vellumo

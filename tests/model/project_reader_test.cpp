@@ -113,6 +113,10 @@ TEST(ProjectReader, PassesOverWhatItDoesNotKnow)
     const Project renamed = Read(Changed("<record><Order>", "<question><Order>")
                                      .replace("</record></rcMain>", "</question></rcMain>"));
     EXPECT_EQ(renamed.source.QuestionCount(), 1) << "a record may have any name";
+    EXPECT_EQ(
+        Read(Changed("<root>", "<x:root a='b' x:c='d'>").replace("</root>", "</x:root>")).FormName,
+        u"Survey"_s)
+        << "attributes, and prefixes that nobody declared";
     EXPECT_EQ(Read(Changed("Survey", "Sur<b>v</b>ey<!-- -->!")).FormName, u"Survey!"_s)
         << "the text of an element is all the text in it";
 }
@@ -130,6 +134,12 @@ TEST(ProjectReader, KeepsTextsAsTheyStand)
         {"blanks at the ends", "  a  ", u"  a  "_s},
         {"the code page's own characters", "5 \x80 caf\xE9", u"5 \u20AC caf\u00E9"_s},
         {"an unassigned byte", "\x81", u"\u0081"_s},
+        {"references to characters", "&#x41;&#xE9;&#8364;&#x80;&#x1F600;",
+         u"A\u00E9\u20AC\u0080\U0001F600"_s},
+        {"a mark that is a text", "&#xFEFF;a", u"\uFEFFa"_s},
+        {"brackets", "<![CDATA[a]] ]>]]>]", u"a]] ]>]"_s},
+        {"several sections", "<![CDATA[a]]]]><![CDATA[>b]]> c", u"a]]>b c"_s},
+        {"what is no text", "a<!-- b --><?c d?>e", u"ae"_s},
         {"line ends as XML has them", "a\r\nb\rc\nd", u"a\nb\nc\nd"_s},
     };
     for (const auto &row : rows) {
@@ -214,6 +224,17 @@ TEST(ProjectReader, RefusesWhatIsNoXml)
         {"nothing", ""},
         {"words", "Hello"},
         {"an end tag that is missing", Changed("</root>\n", "")},
+        {"an attribute that stands twice", Changed("<root>", "<root a='1' a='2'>")},
+        {"an attribute without quotes", Changed("<root>", "<root a=1>")},
+        {"a less-than sign in an attribute", Changed("<root>", "<root a='<'>")},
+        {"two dashes in a comment", Changed("Words", "<!-- a -- b -->")},
+        {"a declaration that does not come first", '\n' + smallProject},
+        {"another version of XML", Changed("version=\"1.0\"", "version=\"1.1\"")},
+        {"another one in an encoding that the toolkit reads",
+         Changed("\"1.0\" encoding=\"windows-1252\"", "\"1.1\" encoding=\"koi8-r\"")},
+        {"half a surrogate pair", Changed("Words", "&#xD800;")},
+        {"a character that XML lacks", Changed("Words", "&#1;")},
+        {"bytes of two encodings", Changed("windows-1252", "UTF-16")},
         {"tags that cross", Changed("</FormName>", "</FormVersion>")},
         {"a second document element", smallProject + "<root/>"},
         {"words after the end", smallProject + "x"},
@@ -251,26 +272,85 @@ TEST(ProjectReader, HonoursAnotherEncoding)
     EXPECT_EQ(Read(utf16).FormName, u"Survey"_s);
 }
 
-TEST(ProjectReader, StandsDepthAndEntitiesThatGrow)
+TEST(ProjectReader, AByteOrderMarkTellsMoreThanTheDeclaration)
+{
+    const QByteArray mark = "\xEF\xBB\xBF", text = "5 \xE2\x82\xAC";
+    for (const QByteArray name : {"UTF-8", "windows-1252", "ISO-8859-1", "koi8-r"})
+        EXPECT_EQ(Read(mark + Changed("windows-1252", name).replace("Words", text)).Description,
+                  u"5 \u20AC"_s)
+            << name.toStdString();
+    EXPECT_EQ(
+        Read(mark + Changed("<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n", "")).FormName,
+        u"Survey"_s);
+}
+
+TEST(ProjectReader, HonoursEncodingsThatTheToolkitKnows)
+{
+    EXPECT_EQ(Read(Changed("windows-1252", "utf8").replace("Words", "\xE2\x82\xAC")).Description,
+              u"\u20AC"_s)
+        << "a name that is not quite UTF-8's";
+    EXPECT_EQ(Read(Changed("windows-1252", "latin1").replace("Words", "\xE9")).Description,
+              u"\u00E9"_s);
+    EXPECT_EQ(RefusalOf(Changed("windows-1252", "utf8").replace("Words", "caf\xE9")),
+              u"1: unknown encoding"_s)
+        << "bytes that are none of its texts";
+}
+
+TEST(ProjectReader, StandsDepth)
 {
     const QByteArray deep = QByteArray("<a>").repeated(100000);
     EXPECT_NE(RefusalOf(deep), u"read"_s);
     const QByteArray within = deep + "x" + QByteArray("</a>").repeated(100000);
     EXPECT_EQ(Read(Changed("Words", within)).Description, u"x"_s);
     EXPECT_EQ(Read(Changed("<MaxId>", within + "<MaxId>")).FormName, u"Survey"_s);
+}
 
-    const QByteArray many = "<!DOCTYPE root [<!ENTITY a \"" + QByteArray(4000, 'a') + "\">]>";
-    EXPECT_EQ(RefusalOf(Changed("<root>", many + "<root>")
-                            .replace("Words", QByteArray("&a;").repeated(100000))),
-              u"2: a project declares no entities"_s);
-    EXPECT_EQ(Read(Changed("<root>", "<!DOCTYPE root><root>")).FormName, u"Survey"_s);
-
-    QByteArray bomb = "<!DOCTYPE root [<!ENTITY a0 \"ha\">";
-    for (int i = 1; i <= 30; ++i) {
-        const QByteArray before = "&a" + QByteArray::number(i - 1) + ";";
-        bomb += "<!ENTITY a" + QByteArray::number(i) + " \"" + before + before + "\">";
+TEST(ProjectReader, RefusesADocumentTypeWhole)
+{
+    const struct {
+        const char *what;
+        QByteArray type;
+    } rows[] = {
+        {"a name alone", "<!DOCTYPE root>"},
+        {"one from elsewhere", "<!DOCTYPE root SYSTEM \"file:///etc/hostname\">"},
+        {"a public one", "<!DOCTYPE root PUBLIC \"-//A//B\" \"root.dtd\">"},
+        {"one that declares an entity", "<!DOCTYPE root [<!ENTITY a \"b\">]>"},
+        {"one that is broken further on", "<!DOCTYPE root [<!ENTITY a"},
+        {"one of half a million bytes", "<!DOCTYPE root [<!ATTLIST root" +
+                                            QByteArray(" a CDATA #IMPLIED").repeated(30000) +
+                                            ">]>"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(RefusalOf(Changed("<root>", row.type + "<root>")),
+                  u"2: a project has no document type"_s);
     }
-    EXPECT_NE(RefusalOf(Changed("<root>", bomb + "]><root>").replace("Words", "&a30;")), u"read"_s);
+}
+
+TEST(ProjectReader, BoundsWhatNoProjectHas)
+{
+    const auto attributes = [](int count) {
+        QByteArray tag = "<a";
+        for (int i = 0; i < count; ++i)
+            tag += " a" + QByteArray::number(i) + "=''";
+        return tag + "/>";
+    };
+    const QString tooMany = u": there are too many attributes and unknown elements"_s;
+    const auto refusal = [](const QByteArray &foreign) {
+        return RefusalOf(Changed("<MaxId>", foreign + "\n<MaxId>"));
+    };
+    EXPECT_EQ(refusal(attributes(160'000)), u"read"_s) << "all on one tag";
+    EXPECT_EQ(refusal(QByteArray("<a/>").repeated(200'000)), u"read"_s);
+    EXPECT_EQ(refusal(QByteArray("<a/>").repeated(200'001)), u'8' + tooMany);
+    EXPECT_EQ(refusal(QByteArray("<a b=''/>").repeated(100'001)), u'8' + tooMany);
+    EXPECT_EQ(refusal(attributes(200'001)), u'8' + tooMany) << "before the tag ends";
+    EXPECT_EQ(refusal("<!--" + QByteArray("=").repeated(200'001) + "-->"), u"read"_s);
+
+    const QByteArray items = QByteArray("<record><Id>7</Id><Item/></record>").repeated(70'000);
+    EXPECT_EQ(Read(Changed("</rcChilds>", items + "</rcChilds>")).source.Items().Count(), 70'001)
+        << "what a project has may be many";
+    const QByteArray titles = QByteArray("<Item/>").repeated(200'001);
+    EXPECT_EQ(Read(Changed("</TitleList>", titles + "</TitleList>")).TitleList.size(), 200'002);
 }
 
 TEST(ProjectReader, RefusesEveryTruncation)
