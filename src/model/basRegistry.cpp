@@ -17,7 +17,7 @@ constexpr char firstContent[] = "<Vmdesigner>\r\n"
                                 "<ShowOpenForm>1</ShowOpenForm>\r\n"
                                 "</Vmdesigner>";
 
-constexpr FileLimit settingsLimit = {16LL * 1024 * 1024, "settings file"_L1};
+constexpr FileLimit settingsLimit = {64LL * 1024, "settings file"_L1};
 
 struct Settings {
     QString showOpenForm;
@@ -101,6 +101,8 @@ private:
 
 std::optional<Settings> ReadSettings(const QString &path)
 {
+    if (!QFileInfo(path).isFile())
+        return std::nullopt; // a pipe would be waited for
     const Result<QByteArray> bytes = ReadWholeFile(path, settingsLimit);
     if (!bytes)
         return std::nullopt;

@@ -20,9 +20,9 @@ struct ShowOpenForm {
 /// the folder can be written. The folder comes without a separator at its end.
 bool EnsureSettingsFile(const QString &applicationFolder);
 
-/// Makes a missing file first. A file that says neither 0 nor 1, or that cannot be understood,
-/// gives -1 and damagedSettingsFile and stays as it is; a file that cannot be made gives -1 in
-/// silence.
+/// Makes a missing file first. A file that says neither 0 nor 1, that cannot be understood, has
+/// more than 64 KiB or is no regular file gives -1 and damagedSettingsFile and stays as it is; a
+/// file that cannot be made gives -1 in silence.
 ShowOpenForm ReadShowOpenForm(const QString &applicationFolder);
 
 /// Sets the value to 0 and keeps what else the document holds. A file that is not understood or

@@ -7,6 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <filesystem>
+
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
@@ -187,6 +191,29 @@ TEST_F(BasRegistry, AFolderInThePlaceOfTheFileIsDamage)
     EXPECT_EQ(ReadShowOpenForm(Folder()).value, -1);
     HideOpenFormNextTime(Folder());
     EXPECT_TRUE(QFileInfo(File()).isDir());
+}
+
+TEST_F(BasRegistry, APipeInThePlaceOfTheFileIsDamage)
+{
+    ASSERT_EQ(::mkfifo(QFile::encodeName(File()).constData(), 0600), 0);
+    const ShowOpenForm read = ReadShowOpenForm(Folder());
+    EXPECT_EQ(read.value, -1) << "and nobody waits for a writer";
+    EXPECT_EQ(read.message, u"There is a bug with setting file."_s);
+    HideOpenFormNextTime(Folder());
+    EXPECT_TRUE(std::filesystem::is_fifo(File().toStdU16String()));
+}
+
+TEST_F(BasRegistry, AFileOfMoreThan64KibIsDamage)
+{
+    const QByteArray largest = QByteArray(asFirstCreated).leftJustified(64 * 1024, ' ');
+    Put(largest);
+    EXPECT_EQ(ReadShowOpenForm(Folder()).value, 1);
+    Put(largest + ' ');
+    const ShowOpenForm read = ReadShowOpenForm(Folder());
+    EXPECT_EQ(read.value, -1);
+    EXPECT_EQ(read.message, u"There is a bug with setting file."_s);
+    HideOpenFormNextTime(Folder());
+    EXPECT_EQ(BytesOf(File()), largest + ' ');
 }
 
 TEST_F(BasRegistry, AFolderThatCannotBeWrittenIsNotSpokenOf)
