@@ -9,12 +9,12 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/identifier.h"
+#include "platform/work_folder.h"
 #include "readback/palm_database.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -51,13 +51,9 @@ public:
         if (!Passes(notices))
             return Exit::NotPassed;
 
-        const QString temporary = qEnvironmentVariable("TMPDIR", QDir::tempPath());
-        if (!QFileInfo(temporary).isDir())
-            return Refuse(m_console, Exit::NotWritten,
-                          {u"There is no such folder for temporary files"_s, temporary});
-        const QTemporaryDir work;
-        if (!work.isValid())
-            return Refuse(m_console, Exit::NotWritten, {work.errorString(), temporary});
+        const WorkFolder work;
+        if (!work.state())
+            return Refuse(m_console, Exit::NotWritten, work.state().error());
         const CreateReport report =
             MakeDatabase(*project, PrivatePlace(work.path(), m_line),
                          m_line.identifier.isEmpty() ? MakeIdentifier() : m_line.identifier);
@@ -130,6 +126,7 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
     if (!QFileInfo(folder).isDir())
         return Refuse(console, Exit::NotWritten, {u"There is no such folder"_s, folder});
 
+    WorkFolder::RemoveLeft();
     QHash<QString, QString> made;
     return ForEachInput(line, console, [&](const QString &input) {
         return Creation(input, line, console, made).Run(folder);

@@ -1,5 +1,6 @@
 #include "cli/vellumo.h"
 #include "platform/arguments.h"
+#include "platform/signals.h"
 #include "platform/terminal.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@ int main(int argc, char *argv[])
 {
     // Knows the program's folder, and the words as text whatever their encoding.
     const QCoreApplication application(argc, argv);
+    const SignalWatch watch(BrokenPipe::Ends, EndBySignal);
     return RunVellumo(application.arguments().sliced(1),
                       {.in = std::cin,
                        .out = std::cout,

@@ -1,10 +1,13 @@
 #include "platform/tool_runner.h"
 
+#include "platform/undoable.h"
+
 #include <QCoreApplication>
 #include <QProcess>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +39,15 @@ QString WhyFailed(const QProcess &process)
     return process.exitCode() == 0 ? QString() : u"exit status %1"_s.arg(process.exitCode());
 }
 
+/// For another thread, which may not use the QProcess.
+void EndProcess([[maybe_unused]] qint64 number)
+{
+#ifdef Q_OS_UNIX
+    if (number > 0)
+        kill(static_cast<pid_t>(number), SIGKILL);
+#endif
+}
+
 /// Waits for the tool, and no longer than its time; says how it ended.
 ToolEnd Finish(QProcess &process, const ToolLimits &limits)
 {
@@ -60,7 +72,13 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
                      [&] { Keep(output, process.readAllStandardOutput()); });
     QObject::connect(&process, &QProcess::readyReadStandardError,
                      [&] { Keep(messages, process.readAllStandardError()); });
-    process.start(FindTool(call.name, limits.folders), call.arguments);
+    qint64 number = 0;
+    const Undoable started(
+        [&] {
+            process.start(FindTool(call.name, limits.folders), call.arguments);
+            number = process.processId();
+        },
+        [&] { EndProcess(number); });
 
     ToolRun run = {.commandLine = call.commandLine};
     if (!process.waitForStarted(-1)) {

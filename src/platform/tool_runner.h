@@ -38,7 +38,7 @@ struct ToolLimits {
 
 /// Starts a tool and waits until it has ended; one whose time is over is ended. Pending window
 /// events other than keys and clicks are processed once after the start. Of what the tool writes
-/// the first 64 KiB of each stream are kept.
+/// the first 64 KiB of each stream are kept. A signal that ends this program ends the tool, too.
 ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits);
 
 } // namespace vellumo

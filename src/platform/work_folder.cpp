@@ -1,0 +1,66 @@
+#include "platform/work_folder.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <chrono>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+constexpr QLatin1StringView prefix{"vellumo-work-"};
+
+/// As it is named: of a folder that is not there the toolkit has no name.
+QString TemporaryFolder()
+{
+    const QString named = qEnvironmentVariable("TMPDIR");
+    return named.isEmpty() ? QDir::tempPath() : named;
+}
+
+/// A tool that was ended a moment ago may still write: for a second, what it left goes, too.
+void RemoveFromTool(OwnedFolder folder)
+{
+    for (int attempt = 0; !folder.Remove() && attempt < 100; ++attempt)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+}
+
+} // namespace
+
+WorkFolder::WorkFolder()
+    : m_undoable([this] { Make(); },
+                 [this] {
+                     if (m_folder)
+                         RemoveFromTool(*m_folder);
+                 })
+{}
+
+WorkFolder::~WorkFolder()
+{
+    if (m_folder)
+        m_folder->Remove();
+}
+
+void WorkFolder::Make()
+{
+    const QString temporary = TemporaryFolder();
+    if (!QFileInfo(temporary).isDir()) {
+        m_state = Error{u"There is no such folder for temporary files"_s, temporary};
+        return;
+    }
+    Result<OwnedFolder> folder = OwnedFolder::Make(temporary, prefix);
+    if (folder)
+        m_folder = std::move(*folder);
+    else
+        m_state = folder.error();
+}
+
+void WorkFolder::RemoveLeft()
+{
+    for (OwnedFolder &left : OwnedFolder::TakeOver(TemporaryFolder(), prefix))
+        left.Remove();
+}
+
+} // namespace vellumo

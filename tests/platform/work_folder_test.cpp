@@ -1,0 +1,75 @@
+#include "platform/work_folder.h"
+
+#include "support/files.h"
+#include "support/print.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace vellumo;
+
+namespace {
+
+class AWorkFolder : public testing::Test
+{
+protected:
+    AWorkFolder() { qputenv("TMPDIR", QFile::encodeName(m_temporary.path())); }
+    ~AWorkFolder() override { qputenv("TMPDIR", m_before); }
+
+    const QByteArray m_before = qgetenv("TMPDIR");
+    QTemporaryDir m_temporary;
+};
+
+TEST_F(AWorkFolder, GoesWithEverythingInIt)
+{
+    {
+        const WorkFolder work;
+        ASSERT_TRUE(work.state());
+        ASSERT_TRUE(QDir(work.path()).mkpath(u"deep/er"_s));
+        ASSERT_TRUE(WriteBytes(work.path() + u"/deep/file"_s, "x"));
+        EXPECT_EQ(NamesIn(m_temporary.path()).size(), 1);
+    }
+    EXPECT_EQ(NamesIn(m_temporary.path()), QStringList());
+}
+
+TEST_F(AWorkFolder, GoesWhereASignalUndoesEverything)
+{
+    const WorkFolder work;
+    ASSERT_TRUE(WriteBytes(work.path() + u"/file"_s, "x"));
+    UndoAll([] {});
+    ForgetUndoing();
+    EXPECT_EQ(NamesIn(m_temporary.path()), QStringList());
+}
+
+TEST_F(AWorkFolder, OthersRemoveItOnlyWhenItsProgramIsGone)
+{
+    const WorkFolder living;
+    {
+        Result<OwnedFolder> left = OwnedFolder::Make(m_temporary.path(), u"vellumo-work-"_s);
+        ASSERT_TRUE(left);
+        ASSERT_TRUE(WriteBytes(left->path() + u"/script.rcp"_s, "x"));
+    }
+    ASSERT_EQ(NamesIn(m_temporary.path()).size(), 2);
+    WorkFolder::RemoveLeft();
+    EXPECT_EQ(m_temporary.path() + u'/' + NamesIn(m_temporary.path()).join(u", "), living.path());
+}
+
+TEST_F(AWorkFolder, SaysWhereNoneCanBeMade)
+{
+    qputenv("TMPDIR", "/nowhere");
+    const WorkFolder work;
+    ASSERT_FALSE(work.state());
+    EXPECT_EQ(work.state().error().text, u"There is no such folder for temporary files"_s);
+    EXPECT_EQ(work.state().error().file, u"/nowhere"_s);
+    WorkFolder::RemoveLeft();
+}
+
+TEST_F(AWorkFolder, IsTheSystemsWhereTheVariableIsEmpty)
+{
+    qputenv("TMPDIR", "");
+    const WorkFolder work;
+    ASSERT_TRUE(work.state());
+    EXPECT_TRUE(work.path().startsWith(u"/tmp/vellumo-work-")) << work.path().toStdString();
+}
+
+} // namespace
