@@ -24,6 +24,18 @@ bool MakeProjectsFolder()
     return QDir().mkpath(ProjectsFolder());
 }
 
+QString StateFolder()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    // The platform's rules: a relative path counts for none.
+    const QString named = qEnvironmentVariable("XDG_STATE_HOME");
+    const bool isUsable = QDir::isAbsolutePath(named);
+    return (isUsable ? named : QDir::homePath() + "/.local/state"_L1) + "/vellumo-designer"_L1;
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+#endif
+}
+
 QString DataFolderOf(const QString &folder)
 {
     QString path = folder;

@@ -15,6 +15,10 @@ QString ProjectsFolder();
 /// that could not be done.
 bool MakeProjectsFolder();
 
+/// Where the designer keeps what has to outlive it and is nobody's document, without a separator at
+/// its end. It may not exist.
+QString StateFolder();
+
 /// A folder of this machine as the path of a drive, which a project's data folder always is. Where
 /// folders have no drive letters, drive Z: is the root, as under the common Windows compatibility
 /// layer.

@@ -31,6 +31,17 @@ TEST(Folders, SaysWhenTheProjectsFolderCannotBeMade)
     EXPECT_FALSE(MakeProjectsFolder());
 }
 
+TEST(Folders, TheStateFolderIsWhereThePlatformHasIt)
+{
+    qputenv("HOME", "/home/a");
+    qunsetenv("XDG_STATE_HOME");
+    EXPECT_EQ(StateFolder(), u"/home/a/.local/state/vellumo-designer"_s);
+    qputenv("XDG_STATE_HOME", "relative");
+    EXPECT_EQ(StateFolder(), u"/home/a/.local/state/vellumo-designer"_s) << "as if none were named";
+    qputenv("XDG_STATE_HOME", "/var/state");
+    EXPECT_EQ(StateFolder(), u"/var/state/vellumo-designer"_s);
+}
+
 TEST(Folders, ADataFolderHasADriveLetter)
 {
     EXPECT_EQ(DataFolderOf(u"/home/a/x"_s), u"Z:\\home\\a\\x"_s);
