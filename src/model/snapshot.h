@@ -19,7 +19,7 @@ struct Snapshot {
 inline constexpr FileLimit snapshotLimit = {64LL * 1024 * 1024, QLatin1StringView("rescue copy")};
 
 /// The snapshot as bytes. Unlike a project file they hold everything: each character, control
-/// characters too, and each number; all but the cursor.
+/// characters too, and each number. Only the cursor is not in them.
 QByteArray WriteSnapshot(const Snapshot &snapshot);
 
 /// The snapshot that WriteSnapshot made these bytes of; the cursor stands on the first question.

@@ -50,13 +50,15 @@ void ShowCritical(QWidget *parent, const QString &message, const Error &error)
             {.text = message, .icon = QMessageBox::Critical, .informative = Describe(error)});
 }
 
-QString AskYesNo(QWidget *parent, const QString &message)
+QString AskYesNo(QWidget *parent, const QString &message, const QString &informative,
+                 QMessageBox::StandardButton defaultButton)
 {
     const auto answer = ShowBox(parent, {.text = message,
                                          .icon = QMessageBox::Question,
                                          .buttons = QMessageBox::Yes | QMessageBox::No,
-                                         .defaultButton = QMessageBox::No,
-                                         .closeButton = QMessageBox::No});
+                                         .defaultButton = defaultButton,
+                                         .closeButton = defaultButton,
+                                         .informative = informative});
     return answer == QMessageBox::Yes ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 

@@ -36,8 +36,9 @@ void ShowCritical(QWidget *parent, const QString &message);
 /// The same with file and reason of the error below the message.
 void ShowCritical(QWidget *parent, const QString &message, const Error &error);
 
-/// "Yes" or "No"; No is the default, and what closing the box means.
-QString AskYesNo(QWidget *parent, const QString &message);
+/// "Yes" or "No"; the default is what closing the box means.
+QString AskYesNo(QWidget *parent, const QString &message, const QString &informative = {},
+                 QMessageBox::StandardButton defaultButton = QMessageBox::No);
 
 /// "Yes", "No" or "Cancel"; Cancel is the default, and what closing the box means.
 QString AskYesNoCancel(QWidget *parent, const QString &message);

@@ -60,6 +60,21 @@ TEST(Prompts, AsksYesOrNoWithNoAsDefault)
     EXPECT_EQ(box.defaultButton, u"No"_s);
 }
 
+TEST(Prompts, TellsMoreBelowTheQuestionAndHasYesForADefault)
+{
+    const PromptScript script({u""_s, u"No"_s});
+    const auto ask = [] {
+        return AskYesNo(nullptr, u"Open?"_s, u"The file\n/a/<b>/c.vmp"_s, QMessageBox::Yes);
+    };
+    EXPECT_EQ(ask(), u"Yes"_s) << "closed by its title bar";
+    EXPECT_EQ(ask(), u"No"_s);
+
+    const SeenBox &box = script.boxes().front();
+    EXPECT_EQ(box.text, u"Open?"_s);
+    EXPECT_EQ(box.informative, u"The file\n/a/<b>/c.vmp"_s);
+    EXPECT_EQ(box.defaultButton, u"Yes"_s);
+}
+
 TEST(Prompts, AsksYesNoOrCancelWithCancelAsDefault)
 {
     const PromptScript script({u"Yes"_s, u"No"_s, u"Cancel"_s, u""_s});
