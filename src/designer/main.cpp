@@ -1,4 +1,5 @@
 #include "designer/help_links.h"
+#include "designer/orderly_end.h"
 #include "designer/real_environment.h"
 #include "platform/arguments.h"
 #include "ui/about/myHelp.h"
@@ -15,6 +16,12 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setWindowIcon(ProgramIcon());
 
+    appInfoForm *shown = nullptr;
+    const SignalWatch watch(BrokenPipe::IsAnError, EndInEventLoop([&shown] {
+                                if (shown)
+                                    shown->WriteRescueCopy();
+                            }));
+
     const Environment environment = RealEnvironment();
     const Start start =
         StartUp(environment, QApplication::arguments().mid(1), CheckArguments(argc, argv));
@@ -26,5 +33,7 @@ int main(int argc, char *argv[])
         window.OpenProject(start.path);
     window.FinishSetUp();
     window.show();
+    shown = &window;
+    QMetaObject::invokeMethod(&window, &appInfoForm::OfferRescue, Qt::QueuedConnection);
     return QApplication::exec();
 }

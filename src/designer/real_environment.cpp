@@ -29,6 +29,7 @@ Environment RealEnvironment()
             .helpFile = application + QDir::separator() + "Vellumo_Help.chm"_L1,
             .siteAddress = SiteAddress(),
             .version = QStringLiteral(VELLUMO_VERSION),
+            .stateFolder = StateFolder(),
             .makeIdentifier = MakeIdentifier,
             .runTool =
                 [application](const ToolCall &call) {

@@ -17,6 +17,9 @@ struct Environment {
     QString siteAddress;       ///< of the maker's web site, without a slash at its end
     QString version;           ///< three numbers and two full stops, such as "1.1.2"
     std::chrono::milliseconds splashDuration{3000};
+    QString stateFolder =
+        {}; ///< for rescue copies, made where it is missing; empty = there are none
+    std::chrono::milliseconds rescueDelay{10'000}; ///< from a change to its rescue copy
     /// A fresh identifier in registry form; empty when none could be made.
     std::function<QString()> makeIdentifier;
     std::function<ToolRun(const ToolCall &call)> runTool;

@@ -19,6 +19,7 @@ void ProjectDocument::MarkSaved(const QString &path, const Fingerprint &fingerpr
     m_path = path;
     m_fingerprint = fingerprint;
     m_changed = false;
+    emit Saved();
 }
 
 void ProjectDocument::SetText(FormField field, const QString &text)

@@ -59,6 +59,8 @@ public:
     }
 
 signals:
+    /// The project's file holds the project.
+    void Saved();
     void QuestionsAboutToChange();
     void QuestionsChanged();
     /// The form information may be another one.

@@ -5,6 +5,7 @@
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
 #include "ui/main/create_database.h"
+#include "ui/main/rescue_offer.h"
 #include "ui/main/step_complete.h"
 #include "ui/main/step_data.h"
 #include "ui/main/step_info.h"
@@ -35,6 +36,7 @@ QList<QKeySequence> KeysOf(QKeySequence::StandardKey standard, const QKeySequenc
 appInfoForm::appInfoForm(Environment environment, QWidget *parent)
     : QMainWindow(parent),
       m_environment(std::move(environment)),
+      m_rescue(m_document, m_environment),
       ui(std::make_unique<Ui::appInfoForm>()),
       m_files(new ProjectFiles(m_document, m_environment, this)),
       m_info(new StepInfo(m_document)),
@@ -147,6 +149,18 @@ void appInfoForm::OpenProject(const QString &path)
     m_document.SetProjectChanged(false);
 }
 
+void appInfoForm::OfferRescue()
+{
+    std::optional<RescuedWork> wanted = OfferRescuedWork(this, m_environment.stateFolder);
+    if (!wanted)
+        return;
+    m_document.Replace(std::move(wanted->snapshot.project), wanted->snapshot.path);
+    Review(false);
+    SelectStep(1);
+    m_document.SetProjectChanged(true);
+    m_rescue.Adopt(std::move(wanted->copy));
+}
+
 void appInfoForm::Exit()
 {
     if (m_files->MayDiscard(ProjectFiles::Reason::Exit))
@@ -166,6 +180,7 @@ void appInfoForm::closeEvent(QCloseEvent *event)
     emit HelpCloseAsked();
     if (event->spontaneous() && !m_files->MayDiscard(ProjectFiles::Reason::CloseBox))
         return event->ignore();
+    m_rescue.Forget();
     QMainWindow::closeEvent(event);
 }
 

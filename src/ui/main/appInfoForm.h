@@ -3,6 +3,7 @@
 #include "ui/common/environment.h"
 #include "ui/common/project_document.h"
 #include "ui/main/project_files.h"
+#include "ui/main/rescue.h"
 
 #include <QMainWindow>
 
@@ -36,6 +37,13 @@ public:
 
     /// Lays the window out and shows step 1; the project counts as unchanged from here on.
     void FinishSetUp();
+
+    /// Offers unsaved work that earlier designers left; what the user wants is opened in place of
+    /// the open project and counts as changed. For once, when the window is shown.
+    void OfferRescue();
+
+    /// Writes unsaved work where a later designer finds it.
+    void WriteRescueCopy() { m_rescue.Write(); }
 
     const ProjectDocument &document() const { return m_document; }
 
@@ -73,6 +81,7 @@ private:
 
     Environment m_environment;
     ProjectDocument m_document;
+    Rescue m_rescue;
     std::unique_ptr<Ui::appInfoForm> ui;
     ProjectFiles *m_files;
     StepInfo *m_info;

@@ -26,10 +26,14 @@ public:
     Designer() : Designer(QString()) {}
 
     /// Opens the project as one that was named at the start.
-    explicit Designer(const QString &projectPath)
+    explicit Designer(const QString &projectPath) : Designer(projectPath, {}, {}) {}
+
+    /// Leaves rescue copies in the state folder.
+    Designer(const QString &projectPath, const QString &stateFolder,
+             std::chrono::milliseconds rescueDelay)
         : application(MakeFolder(QStringLiteral("app"))),
           projects(MakeFolder(QStringLiteral("docs"))),
-          window(Surroundings())
+          window(Surroundings(stateFolder, rescueDelay))
     {
         if (!projectPath.isEmpty())
             window.OpenProject(projectPath);
@@ -111,13 +115,15 @@ private:
         return folder.filePath(name);
     }
 
-    Environment Surroundings()
+    Environment Surroundings(const QString &stateFolder, std::chrono::milliseconds rescueDelay)
     {
         return {.applicationFolder = application,
                 .projectsFolder = projects + QLatin1Char('/'),
                 .helpFile = {},
                 .siteAddress = QStringLiteral("https://vellumo.example"),
                 .version = QStringLiteral("1.1.2"),
+                .stateFolder = stateFolder,
+                .rescueDelay = rescueDelay,
                 .makeIdentifier =
                     [] { return QStringLiteral("{00112233-4455-6677-8899-AABBCCDDEEFF}"); },
                 .runTool = [this](const ToolCall &call) { return runTool(call); },
