@@ -16,6 +16,12 @@ if(VELLUMO_WARNINGS_ARE_ERRORS)
     set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
 endif()
 
+# Only the fuzz targets have the fuzzer's main(); all else merely tells it where it has been.
+if(VELLUMO_FUZZ)
+    target_compile_options(vellumo_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(vellumo_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(VELLUMO_SANITIZE)
     target_compile_options(vellumo_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
