@@ -4,6 +4,7 @@
 #include "editing/question_list.h"
 #include "editing/wizard_rules.h"
 #include "property/random_projects.h"
+#include "property/rules_again.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
@@ -18,11 +19,6 @@ using namespace vellumo;
 namespace {
 
 constexpr int operations = 10000;
-
-bool OwnsItems(const QString &type)
-{
-    return type == "Pulldown List"_L1 || type == "Checkboxes"_L1;
-}
 
 /// What the list should be: a place is that in the vector.
 struct Model {
@@ -105,7 +101,7 @@ public:
     std::size_t Most() const { return m_most; }
 
 private:
-    Question RandomQuestion()
+    Question RandomShortQuestion()
     {
         Question question = {.title = RandomText(m_random, 20, Letters::Plain),
                              .question = RandomText(m_random, 40, Letters::Awkward),
@@ -128,7 +124,7 @@ private:
                   isFull ? u"The maximum number of questions is 128."_s : QString());
         if (isFull)
             return;
-        const Question question = RandomQuestion();
+        const Question question = RandomShortQuestion();
         AppendQuestion(m_source, question);
         m_model.Append(question);
         m_model.current = m_model.entries.size() - 1;
@@ -182,7 +178,7 @@ private:
 
     void Edit()
     {
-        Question edited = RandomQuestion();
+        Question edited = RandomShortQuestion();
         if (m_random.OnceIn(2))
             edited.columnName = Current().question.columnName;
         ReplaceCurrentQuestion(m_source, edited);

@@ -1,17 +1,14 @@
-// 10,000 moves through the wizard's steps, and as many questions held against the rules of the
-// property dialog, side by side with a second statement of the rules.
+// 10,000 moves through the wizard's steps, side by side with a second statement of its rules.
 
-#include "editing/property_rules.h"
 #include "editing/title_history.h"
 #include "editing/wizard_rules.h"
 #include "property/random_projects.h"
+#include "property/rules_again.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
@@ -19,124 +16,6 @@ using namespace vellumo;
 namespace {
 
 constexpr int operations = 10000;
-
-bool OwnsItems(const QString &type)
-{
-    return type == "Pulldown List"_L1 || type == "Checkboxes"_L1;
-}
-
-bool HasLineBreak(const QString &text)
-{
-    return text.count(u'\r') + text.count(u'\n') > 0;
-}
-
-/// A message and whether it applies.
-struct Case {
-    bool applies;
-    const char *message;
-};
-
-QString First(std::initializer_list<Case> cases)
-{
-    for (const auto &[applies, message] : cases)
-        if (applies)
-            return QString::fromLatin1(message);
-    return {};
-}
-
-QString All(std::initializer_list<Case> cases)
-{
-    QString messages;
-    for (const auto &[applies, message] : cases)
-        if (applies)
-            messages += QString::fromLatin1(message);
-    return messages;
-}
-
-using Columns = std::vector<QString>;
-
-/// What a step must say to Next; the texts are trimmed already.
-QString ExpectedAtNext(int step, const Question &entered, const Columns &columns)
-{
-    const QString &title = entered.title, &column = entered.columnName, &text = entered.question;
-    switch (step) {
-    case 1:
-        return First({{entered.type == u""_s, "Please select an item."}});
-    case 2:
-        return First(
-            {{title.size() >= 21, "Please keep the title length to 20 characters or less."},
-             {title.count(u'"') > 0, "Double quotes are not allowed."}});
-    case 3:
-        return First({{column == u""_s, "Please enter a column name."},
-                      {column.size() >= 256,
-                       "Please keep the column name length to 255 characters or less."},
-                      {column.count(u'"') > 0, "Double quotes are not allowed."},
-                      {std::ranges::count(columns, column) > 0,
-                       "The column name already exists. Please enter a different name."}});
-    default:
-        return First(
-            {{HasLineBreak(text), "Carriage returns are not allowed in a question."},
-             {text == u""_s, "Please enter a question."},
-             {text.size() >= 256, "Please keep the question length to 255 characters or less."}});
-    }
-}
-
-QString ExpectedAtFinish(int step, const Question &entered)
-{
-    const auto count = entered.items.size();
-    if (step == 5)
-        return First({{count == 0, "Please enter at least one item"},
-                      {entered.type == "Pulldown List"_L1 && count >= 256,
-                       "Please keep the list to 255 items or less."},
-                      {entered.type == "Checkboxes"_L1 && count >= 33,
-                       "Please keep the Check Box to 32 items or less."}});
-    const QString atNext = ExpectedAtNext(4, entered, {});
-    return atNext == "Please enter a question."_L1 ? atNext.chopped(1) : atNext;
-}
-
-QString ExpectedInDialog(const Question &edited, const Columns &others)
-{
-    const auto count = edited.items.size();
-    const bool owns = OwnsItems(edited.type), isBoxes = edited.type == "Checkboxes"_L1;
-    return All({
-        {edited.title.size() > 20, "Please keep the title length to 20 characters or less.\n"},
-        {edited.question.size() == 0, "Please enter a question.\n"},
-        {HasLineBreak(edited.question), "Carriage returns are not allowed in a question.\n"},
-        {edited.question.size() > 255,
-         "Please keep the question length to 255 characters or less.\n"},
-        {edited.columnName.size() == 0, "Please enter a column name.\n"},
-        {edited.columnName.size() > 255,
-         "Please keep the column name length to 255 characters or less.\n"},
-        {edited.title.count(u'"') + edited.columnName.count(u'"') > 0,
-         "Double quotes are not allowed in Title and Column Name."},
-        {std::ranges::count(others, edited.columnName) > 0,
-         "The column name already exists. Please enter a different name.\n"},
-        {owns && count == 0, "Please enter at least one item."},
-        {owns && !isBoxes && count > 255, "Please keep the list to 255 items or less."},
-        {isBoxes && count > 32, "Please keep the Check Box to 32 items or less."},
-    });
-}
-
-QString RandomLong(Random &random, int limit)
-{
-    QString text;
-    for (int length = RandomLength(random, limit); text.size() < length;)
-        text += RandomText(random, 9, random.OnceIn(60) ? Letters::Awkward : Letters::Plain);
-    text.truncate(limit + 1);
-    return random.OnceIn(3) ? text : Trimmed(text);
-}
-
-Question RandomQuestion(Random &random)
-{
-    Question question = {.title = RandomLong(random, 20),
-                         .question = RandomLong(random, 255),
-                         .type = random.OnceIn(20) ? QString() : RandomType(random, Letters::Plain),
-                         .columnName = random.OnceIn(2) ? RandomText(random, 1, Letters::Plain)
-                                                        : RandomLong(random, 255)};
-    for (int i = random.OneOf(std::array{0, 1, 31, 32, 33, 255, 256}); i > 0; --i)
-        question.items += QString::number(i);
-    return question;
-}
 
 class Walk
 {
@@ -249,34 +128,4 @@ TEST(WizardWalk, AgreesWithTheRulesStatedAgain)
         ASSERT_EQ(walk.Titles(), QStringList(recent.begin(), recent.end())) << "operation " << i;
     }
     EXPECT_GT(walk.Finished(), operations / 100);
-}
-
-TEST(PropertyDialog, AgreesWithTheRulesStatedAgain)
-{
-    Random random;
-    int fine = 0;
-    for (int i = 0; i < operations; ++i) {
-        clsDataSource source;
-        source.GetDataMember();
-        Columns columns;
-        for (int count = random.Between(1, 5); count > 0; --count) {
-            source.Questions().Append({.ColumnName = RandomText(random, 1, Letters::Plain)});
-            columns.push_back(source.Questions().Current().ColumnName);
-        }
-        const int current = random.Below(std::ssize(columns));
-        source.SetPosition(current);
-        columns.erase(columns.begin() + current);
-
-        Question edited = RandomQuestion(random);
-        const Question typed = edited;
-        TrimEdited(edited);
-        ASSERT_EQ(edited.title, Trimmed(typed.title));
-        ASSERT_EQ(edited.question, Trimmed(typed.question));
-        ASSERT_EQ(edited.columnName, typed.columnName);
-        const QString expected = ExpectedInDialog(edited, columns);
-        ASSERT_EQ(ObjectionsTo(edited, source), expected) << i;
-        ASSERT_EQ(source.GetPosition(), current);
-        fine += expected.isEmpty() ? 1 : 0;
-    }
-    EXPECT_GT(fine, operations / 100);
 }
