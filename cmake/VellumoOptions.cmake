@@ -27,3 +27,7 @@ if(VELLUMO_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(vellumo_options INTERFACE -fsanitize=address,undefined)
 endif()
+
+if(VELLUMO_HARDEN)
+    include(Hardening)
+endif()

@@ -47,7 +47,8 @@ private:
     {
         // The search for leaks does not work in a process that is traced.
         setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
-        std::freopen("err", "w", stderr);
+        if (!std::freopen("err", "w", stderr))
+            _exit(126);
         arguments[0].insert(0, PROGRAMS "/");
         std::vector<char *> pointers;
         for (std::string &argument : arguments)
