@@ -2,6 +2,7 @@
 #include "platform/arguments.h"
 #include "platform/signals.h"
 #include "platform/terminal.h"
+#include "platform/toolkit_words.h"
 
 #include <QCoreApplication>
 
@@ -11,7 +12,8 @@ using namespace vellumo;
 
 int main(int argc, char *argv[])
 {
-    // Knows the program's folder, and the words as text whatever their encoding.
+    KeepToolkitQuiet("vellumo", "The program cannot start", 0);
+    // Knows the program's folder, and the words as text.
     const QCoreApplication application(argc, argv);
     const SignalWatch watch(BrokenPipe::Ends, EndBySignal);
     return RunVellumo(application.arguments().sliced(1),

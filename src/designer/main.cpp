@@ -2,6 +2,7 @@
 #include "designer/orderly_end.h"
 #include "designer/real_environment.h"
 #include "platform/arguments.h"
+#include "platform/toolkit_words.h"
 #include "ui/about/myHelp.h"
 #include "ui/common/pictures.h"
 #include "ui/main/appInfoForm.h"
@@ -13,6 +14,7 @@ using namespace vellumo;
 
 int main(int argc, char *argv[])
 {
+    KeepToolkitQuiet("vellumo-designer", "No window can be opened here: is there a display?", 32);
     QApplication application(argc, argv);
     QApplication::setWindowIcon(ProgramIcon());
 

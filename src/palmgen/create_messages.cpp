@@ -40,7 +40,7 @@ QString ReasonOf(const CreateReport &report)
 {
     QStringList reasons;
     if (report.end != CreateEnd::BuildEnded)
-        reasons += Describe(report.error);
+        reasons += FirstLines(Describe(report.error));
     for (const ToolRun &run : report.runs)
         if (run.end == ToolEnd::Failed)
             reasons += FirstLines(FaultOf(run, 0));

@@ -1,5 +1,7 @@
 #include "platform/tool_runner.h"
 
+#include "platform/descriptor_supply.h"
+#include "platform/system_error.h"
 #include "platform/undoable.h"
 
 #include <QCoreApplication>
@@ -48,6 +50,16 @@ void EndProcess([[maybe_unused]] qint64 number)
 #endif
 }
 
+/// In the platform's words: the toolkit puts its own in front, and where it could not make its
+/// pipes the reason is another one than it says.
+QString WhyNotStarted(const QProcess &process)
+{
+    constexpr int neededForATool = 10;
+    return DescriptorsAreLeft(neededForATool)
+               ? process.errorString().section(u": "_s, -1)
+               : ErrorOf(std::make_error_code(std::errc::too_many_files_open)).text;
+}
+
 /// Waits for the tool, and no longer than its time; says how it ended.
 ToolEnd Finish(QProcess &process, const ToolLimits &limits)
 {
@@ -82,7 +94,7 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
 
     ToolRun run = {.commandLine = call.commandLine};
     if (!process.waitForStarted(-1)) {
-        run.reason = process.errorString();
+        run.reason = WhyNotStarted(process);
         return run;
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

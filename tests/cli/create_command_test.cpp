@@ -163,6 +163,12 @@ TEST_F(CreateCommand, RefusesToWorkInATemporaryFolderThatIsNotThere)
     EXPECT_EQ(Err(), u"/no/such/folder: There is no such folder for temporary files\n"_s);
 }
 
+TEST_F(CreateCommand, TakesAnEmptyNameOfATemporaryFolderForNone)
+{
+    qputenv("TMPDIR", "");
+    EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
+}
+
 TEST_F(CreateCommand, ReportsAToolThatIsMissing)
 {
     qputenv("PATH", QFile::encodeName(InFolder(u"tools"_s)));
