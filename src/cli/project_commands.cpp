@@ -2,6 +2,7 @@
 
 #include "cli/inputs.h"
 #include "model/project_writer.h"
+#include "model/unreadable_texts.h"
 #include "palmgen/script_generator.h"
 #include "platform/files.h"
 #include "platform/identifier.h"
@@ -60,6 +61,11 @@ Exit RewriteProject(const CommandLine &line, const Console &console)
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
 
+    if (const auto unreadable = FindUnreadableTexts(*project); !unreadable.empty())
+        return Refuse(
+            console, Exit::NotWritten,
+            {Visible(Quote(unreadable[0].place, unreadable[0].text) + ": "_L1 + UnreadableReason()),
+             InputName(input)});
     // A project in another encoding is read with characters that windows-1252 lacks.
     const Result<QByteArray> bytes = WriteProject(*project);
     if (!bytes)

@@ -13,6 +13,15 @@ QString Describe(const TextPlace &place)
     return u"The %1"_s.arg(place.field);
 }
 
+QString Quote(const TextPlace &place, const QString &text)
+{
+    QString quote = place.question > 0 ? u"question %1, "_s.arg(place.question) : QString();
+    quote += place.field;
+    if (!text.isEmpty())
+        quote += u": \"%1\""_s.arg(text);
+    return quote;
+}
+
 Outcome AppendEncoded(QByteArray &bytes, QStringView text, const TextPlace &place)
 {
     const qsizetype lacking = AppendWindows1252(bytes, text);

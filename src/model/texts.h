@@ -16,6 +16,9 @@ struct TextPlace {
 /// The place as a sentence begins with it: "The title of question 3", "The form name".
 QString Describe(const TextPlace &place);
 
+/// Place and text as a list has them: question 3, title: "Age". Without the text where it is empty.
+QString Quote(const TextPlace &place, const QString &text);
+
 /// Appends a text of a project in windows-1252, which project file and script are written in.
 /// Fails at the first character that the code page lacks, with place and character in the error;
 /// the bytes before it have then been appended.

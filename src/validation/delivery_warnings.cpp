@@ -2,6 +2,7 @@
 
 #include "model/form_fields.h"
 #include "model/question_types.h"
+#include "model/unreadable_texts.h"
 
 #include <QHash>
 
@@ -84,6 +85,8 @@ public:
         for (const QuestionRow &question : m_project.source.Questions().Rows())
             CheckQuestion(question, ++position);
         CheckOwners();
+        for (const UnreadableText &unreadable : FindUnreadableTexts(m_project))
+            Warn("unreadable"_L1, unreadable.place, unreadable.text, UnreadableReason());
         return std::move(m_warnings);
     }
 
@@ -176,14 +179,7 @@ private:
 
 QString Describe(const DeliveryWarning &warning)
 {
-    QString sentence;
-    if (warning.place.question > 0)
-        sentence = u"question %1, "_s.arg(warning.place.question);
-    sentence += warning.place.field;
-    sentence += u": "_s;
-    if (!warning.text.isEmpty())
-        sentence += u'"' + warning.text + u"\": "_s;
-    return sentence + warning.reason;
+    return Quote(warning.place, warning.text) + ": "_L1 + warning.reason;
 }
 
 std::vector<DeliveryWarning> FindDeliveryWarnings(const Project &project)

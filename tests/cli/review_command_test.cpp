@@ -53,6 +53,21 @@ TEST_F(ReviewCommand, WarnsOfWhatWillNotArriveAsTyped)
     EXPECT_TRUE(Out().startsWith(u"warning: question 1, title: \"a\\b\": ")) << Out().toStdString();
 }
 
+TEST_F(ReviewCommand, WarnsOfATextThatMakesTheFileUnreadable)
+{
+    const QString path =
+        Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[a]]]]><![CDATA[>b]]>");
+    EXPECT_EQ(Run({u"review"_s, path}), 1);
+    EXPECT_TRUE(Out().startsWith(u"warning: question 1, title: \"a]]>b\": "))
+        << Out().toStdString();
+    EXPECT_EQ(Run({u"review"_s, u"--json"_s, path}), 1);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"warning"_s);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"unreadable"_s);
+    EXPECT_EQ(Objects()[0][u"question"_s], 1);
+    EXPECT_EQ(Objects()[0][u"field"_s], u"title"_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"passed"_s);
+}
+
 TEST_F(ReviewCommand, KeepsControlCharactersFromTheTerminal)
 {
     const QString path = Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[a\\\xC2\x9B"

@@ -121,6 +121,31 @@ TEST_F(Vellumo, RewritingLeavesAFileThatItCannotReadOrWrite)
     EXPECT_EQ(BytesOf(path), foreign);
 }
 
+TEST_F(Vellumo, RewriteRefusesWhatCouldNotBeReadAgain)
+{
+    const QString path = InFolder(u"a.vmp"_s);
+    const QByteArray before = BytesOf(siteVisit).replace("<Title><![CDATA[Inspector]]>",
+                                                         "<Title><![CDATA[a\n]]]]><![CDATA[>b]]>");
+    ASSERT_TRUE(WriteBytes(path, before));
+    const QString reason =
+        u"question 1, title: \"a\\x0a]]>b\": \"]]>\" ends a text in a project file, "
+        "so the file cannot be opened again once it is saved"_s;
+    EXPECT_EQ(Run({u"rewrite"_s, path}), 5);
+    EXPECT_EQ(Err(), path + u": "_s + reason + u'\n');
+    EXPECT_EQ(BytesOf(path), before);
+
+    EXPECT_EQ(Run({u"rewrite"_s, path, u"-o"_s, InFolder(u"b.vmp"_s)}), 5);
+    EXPECT_EQ(Run({u"rewrite"_s, path, u"-o"_s, u"-"_s}), 5);
+    EXPECT_EQ(Out(), u""_s);
+    EXPECT_EQ(NamesIn(m_folder.path()), QStringList{u"a.vmp"_s});
+
+    EXPECT_EQ(Run({u"rewrite"_s, u"--json"_s, path}), 5);
+    EXPECT_EQ(Objects(), (QList<QJsonObject>{{{u"kind"_s, u"error"_s},
+                                              {u"code"_s, u"not-written"_s},
+                                              {u"file"_s, path},
+                                              {u"message"_s, reason}}}));
+}
+
 TEST_F(Vellumo, ReadsAndWritesStandardStreams)
 {
     const QByteArray project = BytesOf(siteVisit);

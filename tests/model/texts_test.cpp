@@ -38,3 +38,10 @@ TEST(Texts, EncodesOrNamesPlaceAndCharacter)
                                     "which windows-1252 does not have."_s);
     EXPECT_EQ(Describe(TextPlace{"form name"_L1}), u"The form name"_s);
 }
+
+TEST(Texts, AreQuotedWithTheirPlace)
+{
+    EXPECT_EQ(Quote({"title"_L1, 3}, u"a\"b"_s), u"question 3, title: \"a\"b\""_s);
+    EXPECT_EQ(Quote({"form name"_L1}, u"a"_s), u"form name: \"a\""_s);
+    EXPECT_EQ(Quote({"item list"_L1, 1}, u""_s), u"question 1, item list"_s);
+}

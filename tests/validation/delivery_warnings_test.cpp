@@ -255,6 +255,21 @@ TEST(DeliveryWarnings, StandInTheOrderOfTheProject)
                                   }));
 }
 
+TEST(DeliveryWarnings, OfTextsThatTheProjectsFileCannotHold)
+{
+    Project project = ProjectOf({{.Title = u"t]]>"_s, .Type = text, .Id = 5}}, {{8, u"]]>,"_s}});
+    project.FormPath = u"C:\\]]>"_s;
+    project.TitleList = {u"t]]>"_s};
+    EXPECT_EQ(Summaries(project),
+              (QStringList{u"stray-item 0 item ]]>,"_s, u"unreadable 0 data folder C:\\]]>"_s,
+                           u"unreadable 1 title t]]>"_s, u"unreadable 0 item ]]>,"_s,
+                           u"unreadable 0 title history t]]>"_s}));
+    EXPECT_EQ(
+        Sentences(project).last(),
+        u"title history: \"t]]>\": \"]]>\" ends a text in a project file, so the file cannot be "
+        "opened again once it is saved"_s);
+}
+
 TEST(DeliveryWarnings, OfProjectFiles)
 {
     const struct {

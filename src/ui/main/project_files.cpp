@@ -1,6 +1,7 @@
 #include "ui/main/project_files.h"
 
 #include "model/project_file.h"
+#include "model/unreadable_texts.h"
 #include "ui/common/prompts.h"
 
 #include <QFileDialog>
@@ -99,8 +100,12 @@ void ProjectFiles::SaveTo(const QString &path)
     }
     Fingerprint fingerprint;
     const Outcome saved = SaveProject(m_document.project(), path, &fingerprint);
-    if (saved)
-        return m_document.MarkSaved(path, fingerprint);
+    if (saved) {
+        m_document.MarkSaved(path, fingerprint);
+        if (const QString notice = UnreadableNotice(m_document.project()); !notice.isEmpty())
+            ShowExclamation(m_window, notice);
+        return;
+    }
     m_saveCancelled = true;
     ShowCritical(m_window, saved.error().text, saved.error());
 }

@@ -190,6 +190,32 @@ TEST(Save, SaysWhyAFolderCannotBeWritten)
     EXPECT_TRUE(designer.ProjectChanged());
 }
 
+TEST(Save, TellsWhichTextMakesTheFileUnreadable)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.vmp"_s);
+    ASSERT_TRUE(QFile::copy(sample, path));
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    const Designer designer(path);
+    designer.Find<QLineEdit>("txtAppVersion")->setText(u"1]]>2"_s);
+
+    const PromptScript prompts({u"OK"_s, u"Yes"_s, u"OK"_s});
+    designer.Choose("mnuFileSave");
+    ASSERT_EQ(prompts.boxes().size(), 1u);
+    EXPECT_EQ(prompts.boxes()[0].icon, QMessageBox::Warning);
+    EXPECT_EQ(prompts.boxes()[0].title, u"Vellumo Designer"_s);
+    EXPECT_EQ(prompts.boxes()[0].text,
+              u"The project is saved, but its file cannot be opened again: \"]]>\" ends a text too "
+              "early. Please change what has it, and save again:\n\nform version: \"1]]>2\""_s);
+    EXPECT_TRUE(BytesOf(path).contains("<FormVersion><![CDATA[1]]>2]]></FormVersion>"));
+    EXPECT_FALSE(designer.ProjectChanged()) << "it was saved all the same";
+
+    designer.Find<QLineEdit>("txtAppVersion")->setText(u"2]]>"_s);
+    designer.Choose("mnuFileNew");
+    EXPECT_EQ(prompts.texts().size(), 3);
+    EXPECT_EQ(designer.project().FormName, u""_s) << "and what was to come after it came";
+}
+
 TEST(Open, ReadsTheChosenProjectAndReviewsItInSilence)
 {
     const Designer designer;
