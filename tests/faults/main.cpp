@@ -66,7 +66,8 @@ std::vector<std::string> Try(const Scenario &scenario, const Judge &judge, const
     const Sandbox sandbox(scenario);
     const TracedRun run = sandbox.Run(scenario, point.strike);
     if (!run.struck)
-        return {"it ended before"};
+        return {"it ended before, with wait status " + std::to_string(run.status) + ": " +
+                run.messages};
     auto faults = judge.FaultsOf(sandbox, run);
     if (run.endedByUs)
         std::ranges::copy(judge.FaultsOfNext(sandbox, sandbox.Run(scenario, {})),
@@ -112,7 +113,8 @@ int Run(const std::vector<std::string> &arguments)
         return 77;
     }
     const bool all = arguments.back() == "--all";
-    const auto scenarios = Scenarios({arguments[0], arguments[1], arguments[2], arguments[3]});
+    const auto place = [&](std::size_t i) { return std::filesystem::absolute(arguments[i]); };
+    const auto scenarios = Scenarios({place(0), place(1), place(2), place(3)});
     const auto named = std::ranges::find(scenarios, arguments[4], &Scenario::name);
     if (named == scenarios.end()) {
         std::cerr << "faults: there is no scenario " << arguments[4] << '\n';

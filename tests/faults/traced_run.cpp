@@ -13,6 +13,7 @@
 
 #include <csignal>
 #include <cstddef>
+#include <cstdio>
 #include <cstring>
 
 namespace faults {
@@ -56,6 +57,7 @@ bool InstallFilter()
     words.push_back(nullptr);
     if (ready && raise(SIGSTOP) == 0 && InstallFilter())
         execv(words[0], words.data());
+    std::perror(words[0]);
     _exit(cannotStart);
 }
 
