@@ -2,6 +2,7 @@
 
 #include "platform/output_place.h"
 #include "platform/system_error.h"
+#include "platform/undoable.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -67,6 +68,7 @@ Outcome PutInPlace(const OutputPlace &place, const QByteArray &bytes)
     if (!folder && errno != EACCES) // one that may not be read cannot be synced, but written to
         return LastError();
 
+    const Undivided write; // a signal would leave the new file behind
     const QByteArray temporary = TemporaryName();
     Descriptor file(openat(*place.folder, temporary, newFile, replaces ? 0600 : 0666));
     if (!file)

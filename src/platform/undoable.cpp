@@ -32,6 +32,16 @@ Undoable::~Undoable()
     std::erase(all.undo, &m_undo);
 }
 
+Undivided::Undivided()
+{
+    all.guard.lock();
+}
+
+Undivided::~Undivided()
+{
+    all.guard.unlock();
+}
+
 void UndoAll(const std::function<void()> &atTheEnd)
 {
     const std::lock_guard lock(all.guard);

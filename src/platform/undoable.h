@@ -20,6 +20,17 @@ private:
     std::function<void()> m_undo;
 };
 
+/// While it lives, no signal comes in between: what undoes waits until it is gone. For what is
+/// short, and makes nothing undoable.
+class Undivided
+{
+public:
+    Undivided();
+    ~Undivided();
+    Undivided(const Undivided &) = delete;
+    Undivided &operator=(const Undivided &) = delete;
+};
+
 /// Undoes all that is undoable, the latest first, and then calls the function. Meanwhile nothing
 /// undoable comes or goes: whoever tries waits.
 void UndoAll(const std::function<void()> &atTheEnd);

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <string>
+#include <thread>
 
 using namespace vellumo;
 
@@ -40,4 +42,19 @@ TEST(Undoable, WhatIsMadeTooLateIsUndoneAtOnce)
     ForgetUndoing();
     const Undoable again([&] { done += ", made"; }, [&] { done += ", undone"; });
     EXPECT_EQ(done, "made, undone, made");
+}
+
+TEST(Undivided, HoldsASignalBackUntilItIsDone)
+{
+    std::atomic<bool> ended = false;
+    std::thread signal;
+    {
+        const Undivided work;
+        signal = std::thread([&] { UndoAll([&] { ended = true; }); });
+        std::this_thread::yield();
+        EXPECT_FALSE(ended);
+    }
+    signal.join();
+    EXPECT_TRUE(ended);
+    ForgetUndoing();
 }
