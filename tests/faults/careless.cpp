@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
 #include <string>
 
@@ -50,6 +51,11 @@ bool WriteBeside(const std::string &target, bool syncs, bool listens, bool tidie
 int main(int argc, char *argv[])
 {
     const std::string how = argc == 3 ? argv[1] : "";
+    sigset_t ending;
+    sigemptyset(&ending);
+    sigaddset(&ending, SIGTERM);
+    if (how != "in_place")
+        sigprocmask(SIG_BLOCK, &ending, nullptr);
     bool done = false;
     if (how == "in_place")
         done = WriteOnce(argv[2]);

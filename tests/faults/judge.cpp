@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <csignal>
 
 namespace faults {
 namespace {
@@ -43,6 +44,9 @@ std::vector<std::string> Judge::FaultsOfNext(const Sandbox &sandbox, const Trace
     JudgeFiles(sandbox, Succeeded(run), faults);
     if (!Succeeded(run))
         faults.push_back("the next run fails: " + run.messages);
+    for (const std::string &left : sandbox.LeftOver(m_scenario))
+        if (left.starts_with("tmp/"))
+            faults.push_back("the next run does not remove " + left);
     return faults;
 }
 
@@ -74,11 +78,16 @@ void Judge::JudgeEnd(const TracedRun &run, std::vector<std::string> &faults) con
 {
     if (run.hung)
         faults.emplace_back("the command hung");
-    else if (!run.endedByUs && !WIFEXITED(run.status))
+    else if (!run.endedByUs && !WIFEXITED(run.status) &&
+             !(run.wasAskedToEnd && WTERMSIG(run.status) == SIGTERM))
         faults.push_back("ended by signal " + std::to_string(WTERMSIG(run.status)));
     if (run.lostData && Succeeded(run))
         faults.emplace_back("success after a sync that failed");
-    if (WIFEXITED(run.status) && WEXITSTATUS(run.status) != 0 && run.messages.empty())
+    // A traced process that sends itself a signal comes to its next line, which exits, before that.
+    const bool endedAsAsked =
+        run.wasAskedToEnd && WIFEXITED(run.status) && WEXITSTATUS(run.status) == 128 + SIGTERM;
+    if (WIFEXITED(run.status) && WEXITSTATUS(run.status) != 0 && !endedAsAsked &&
+        run.messages.empty())
         faults.emplace_back("the failure is not told");
 }
 

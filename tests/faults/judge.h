@@ -13,7 +13,8 @@ public:
 
     std::vector<std::string> FaultsOf(const Sandbox &sandbox, const TracedRun &run) const;
 
-    /// Those of another run in the same folder after the first was killed.
+    /// Those of another run in the same folder after the first was killed: it must succeed, and
+    /// remove what is left of temporary files.
     std::vector<std::string> FaultsOfNext(const Sandbox &sandbox, const TracedRun &run) const;
 
 private:

@@ -19,9 +19,8 @@ constexpr struct {
     Fault fault;
     const char *name;
 } kinds[] = {
-    {Fault::Kill, "killed before"},
-    {Fault::NoSpace, "ENOSPC from"},
-    {Fault::InputOutput, "EIO from"},
+    {Fault::Kill, "killed before"},  {Fault::Terminate, "SIGTERM before"},
+    {Fault::NoSpace, "ENOSPC from"}, {Fault::InputOutput, "EIO from"},
     {Fault::Half, "half of"},
 };
 

@@ -8,7 +8,7 @@
 
 namespace faults {
 
-enum class Fault { None, Kill, NoSpace, InputOutput, Half };
+enum class Fault { None, Kill, Terminate, NoSpace, InputOutput, Half };
 
 /// What happens to one system call, counted from 1, of all that a command and the programs that it
 /// starts make to work with files.
@@ -34,6 +34,7 @@ struct TracedRun {
     std::vector<CountedCall> calls = {}; ///< in their order
     int status = 0;                      ///< as wait() gives it
     bool endedByUs = false;              ///< killed as the strike said
+    bool wasAskedToEnd = false;          ///< by SIGTERM, likewise
     bool hung = false;                   ///< killed since it did not end
     const FileCall *struck = nullptr;    ///< none = it ended before
     /// A sync was made to fail, or the close of a file that had not been synced since it was

@@ -118,6 +118,12 @@ void Tracer::StrikeCall(pid_t pid, const FileCall &call)
         m_run.endedByUs = true;
         return KillAll();
     }
+    if (m_strike.fault == Fault::Terminate) {
+        m_run.wasAskedToEnd = true;
+        NoteEffect(tracee, call);
+        kill(-m_first, SIGTERM);
+        return Continue(pid);
+    }
     if (m_strike.fault == Fault::Half) {
         NoteEffect(tracee, call);
         Shorten(tracee, call);
