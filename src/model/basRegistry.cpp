@@ -144,7 +144,8 @@ void HideOpenFormNextTime(const QString &applicationFolder)
         return;
     // XML reads each line end as LF; the file has CR LF, and one after the document.
     const QByteArray document = settings->withZero.trimmed().replace("\n", "\r\n") + "\r\n";
-    static_cast<void>(ReplaceFile(path, document));
+    if (document.size() <= settingsLimit.bytes) // or it could not be read again
+        static_cast<void>(ReplaceFile(path, document));
 }
 
 } // namespace vellumo

@@ -25,8 +25,8 @@ bool EnsureSettingsFile(const QString &applicationFolder);
 /// file that cannot be made gives -1 in silence.
 ShowOpenForm ReadShowOpenForm(const QString &applicationFolder);
 
-/// Sets the value to 0 and keeps what else the document holds. A file that is not understood or
-/// cannot be replaced stays as it is.
+/// Sets the value to 0 and keeps what else the document holds. A file that is not understood,
+/// would grow too large or cannot be replaced stays as it is.
 void HideOpenFormNextTime(const QString &applicationFolder);
 
 } // namespace vellumo

@@ -216,6 +216,16 @@ TEST_F(BasRegistry, AFileOfMoreThan64KibIsDamage)
     EXPECT_EQ(BytesOf(File()), largest + ' ');
 }
 
+TEST_F(BasRegistry, AFileThatWouldGrowBeyond64KibStays)
+{
+    const QByteArray longOne =
+        "<Vmdesigner>" + QByteArray(40000, '\n') + "<ShowOpenForm>1</ShowOpenForm></Vmdesigner>";
+    Put(longOne);
+    HideOpenFormNextTime(Folder());
+    EXPECT_EQ(BytesOf(File()), longOne);
+    EXPECT_EQ(ReadShowOpenForm(Folder()).value, 1);
+}
+
 TEST_F(BasRegistry, AFolderThatCannotBeWrittenIsNotSpokenOf)
 {
     ForbidWriting();
