@@ -2,6 +2,7 @@
 
 #include "model/project_reader.h"
 #include "model/project_writer.h"
+#include "model/snapshot.h"
 #include "property/random_projects.h"
 #include "support/print.h"
 
@@ -82,4 +83,20 @@ TEST(SaveAndLoad, RefusesJustWhatNoFileCanHold)
     }
     EXPECT_GT(refused, 0);
     EXPECT_LT(refused, rounds);
+}
+
+TEST(RescueCopy, HoldsEverything)
+{
+    Random random;
+    for (int round = 0; round < rounds; ++round) {
+        SCOPED_TRACE(round);
+        const Snapshot snapshot = {.project = RandomProject(random, Letters::Anything),
+                                   .path = RandomText(random, 40, Letters::Anything),
+                                   .taken = QDateTime::fromMSecsSinceEpoch(random.Below(1 << 30))};
+        const auto read = ReadSnapshot(WriteSnapshot(snapshot));
+        ASSERT_TRUE(read) << read.error().text.toStdString();
+        ASSERT_EQ(LinesOf(read->project), LinesOf(snapshot.project));
+        ASSERT_EQ(read->path, snapshot.path);
+        ASSERT_EQ(read->taken, snapshot.taken);
+    }
 }
