@@ -37,7 +37,7 @@ bool IsWindows1252(const char *name)
 
 void FillWithWindows1252(XML_Encoding &encoding)
 {
-    QByteArray bytes(std::size(encoding.map), Qt::Uninitialized);
+    QByteArray bytes(std::ssize(encoding.map), Qt::Uninitialized);
     std::iota(bytes.begin(), bytes.end(), char(0));
     std::ranges::transform(FromWindows1252(bytes), encoding.map,
                            [](QChar character) { return character.unicode(); });

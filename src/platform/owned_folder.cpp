@@ -23,9 +23,12 @@ namespace vellumo {
 /// The system's own lock, on the folder itself: it needs no file, and no process number that
 /// another process may have by now.
 struct FolderLock {
-    int folder;
+    const int folder;
 
+    explicit FolderLock(int opened) : folder(opened) {}
     ~FolderLock() { close(folder); }
+    FolderLock(const FolderLock &) = delete;
+    FolderLock &operator=(const FolderLock &) = delete;
 };
 
 namespace {

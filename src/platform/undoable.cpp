@@ -1,7 +1,6 @@
 #include "platform/undoable.h"
 
 #include <mutex>
-#include <ranges>
 #include <vector>
 
 namespace vellumo {
@@ -46,8 +45,8 @@ void UndoAll(const std::function<void()> &atTheEnd)
 {
     const std::lock_guard lock(all.guard);
     all.undone = true;
-    for (const auto *undo : all.undo | std::views::reverse)
-        (*undo)();
+    for (auto undo = all.undo.rbegin(); undo != all.undo.rend(); ++undo)
+        (**undo)();
     atTheEnd();
 }
 
