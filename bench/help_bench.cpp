@@ -42,7 +42,7 @@ void OpenHelp(benchmark::State &state)
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         return state.SkipWithError("no help file");
     file.close();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto help = HelpFile::Open(file.fileName());
         if (!help || help->PageOf(1) != u"1.html"_s) {
             state.SkipWithError("not read");
