@@ -25,8 +25,11 @@ constexpr int mostLinks = 40; // as many as the kernel follows
 
 bool MayFollow(const struct stat &link, const struct stat &folder)
 {
-    const bool shared = (folder.st_mode & (S_IWGRP | S_IWOTH)) != 0;
-    return !shared || link.st_uid == geteuid() || link.st_uid == folder.st_uid;
+    const auto isTrusted = [](const struct stat &one) {
+        return one.st_uid == geteuid() || one.st_uid == 0;
+    };
+    const bool shared = (folder.st_mode & (S_IWGRP | S_IWOTH)) != 0 || !isTrusted(folder);
+    return !shared || isTrusted(link);
 }
 
 /// Whether this is the folder that has our own descriptors, where a link is only the picture of

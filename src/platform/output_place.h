@@ -22,8 +22,8 @@ struct OutputPlace {
     }
 };
 
-/// Goes the way of a path, link by link. A link in a folder where others may write must be the
-/// user's own or that of the folder's owner: anybody could have laid another one there, to have a
+/// Goes the way of a path, link by link. A link in a folder where others than the user and root may
+/// write must be the user's own or root's: anybody could have laid another one there, to have a
 /// file of the user replaced.
 Result<OutputPlace> FollowToPlace(const QByteArray &path);
 

@@ -284,16 +284,20 @@ TEST_F(SharedFolder, ALinkOfSomebodyElseIsNotFollowed)
     EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "kept");
 }
 
-TEST_F(SharedFolder, AnOwnLinkAndOneOfTheFoldersOwnerAreFollowed)
+TEST_F(SharedFolder, AnOwnLinkIsFollowed)
 {
     Link("../victim", u"shared/own"_s, 0);
     EXPECT_TRUE(ReplaceFile(InFolder(u"shared/own"_s), "by the user's own"));
     EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "by the user's own");
+}
 
+TEST_F(SharedFolder, SomebodyElsesFolderIsOneWhateverItsRights)
+{
     ASSERT_EQ(chown(Name(u"shared"_s), nobody, nobody), 0);
+    ASSERT_EQ(chmod(Name(u"shared"_s), 0755), 0);
     Link("../victim", u"shared/owners"_s, nobody);
-    EXPECT_TRUE(ReplaceFile(InFolder(u"shared/owners"_s), "by the owner's"));
-    EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "by the owner's");
+    EXPECT_FALSE(ReplaceFile(InFolder(u"shared/owners"_s), "taken"));
+    EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "kept");
 }
 
 TEST_F(SharedFolder, InAFolderOfOnesOwnAnyLinkIsFollowed)
