@@ -39,6 +39,7 @@ WorkFolder::WorkFolder()
 
 WorkFolder::~WorkFolder()
 {
+    const Undivided alone; // a signal's undoing would remove it at the same time
     if (m_folder)
         m_folder->Remove();
 }
