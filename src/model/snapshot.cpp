@@ -97,6 +97,7 @@ QByteArray WriteSnapshot(const Snapshot &snapshot)
     stream.setVersion(streamVersion);
     stream << snapshot.path << snapshot.taken.toMSecsSinceEpoch();
     WriteProjectTo(stream, snapshot.project);
+    stream << snapshot.fingerprint;
     return mark.toByteArray() + QCryptographicHash::hash(content, hashMethod) + content;
 }
 
@@ -116,6 +117,7 @@ Result<Snapshot> ReadSnapshot(const QByteArray &bytes)
     stream.setVersion(streamVersion);
     stream >> snapshot.path >> taken;
     ReadProjectFrom(stream, snapshot.project);
+    stream >> snapshot.fingerprint;
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
         return damaged;
     snapshot.taken = QDateTime::fromMSecsSinceEpoch(taken);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/project.h"
+#include "model/project_file.h"
 #include "platform/files.h"
 
 #include <QByteArray>
@@ -13,6 +13,7 @@ struct Snapshot {
     Project project;
     QString path = {}; ///< full, empty while there is no file
     QDateTime taken = {};
+    Fingerprint fingerprint = {}; ///< of that file as it was opened or saved
 };
 
 /// Four times a project's file, whose characters take two bytes here.

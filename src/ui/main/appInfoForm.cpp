@@ -130,8 +130,11 @@ void appInfoForm::Open()
     if (!m_files->MayDiscard(ProjectFiles::Reason::Open))
         return;
     const QString path = m_files->ChooseProject();
-    if (!path.isEmpty())
-        OpenProject(path);
+    if (path.isEmpty())
+        return;
+    if (m_files->SaveMissed())
+        m_rescue.Leave();
+    OpenProject(path);
 }
 
 void appInfoForm::OpenProject(const QString &path)
@@ -142,6 +145,7 @@ void appInfoForm::OpenProject(const QString &path)
         m_document.Replace(std::move(*loaded), path, fingerprint);
     } else {
         m_document.Replace({}, {});
+        m_document.SetProjectChanged(false); // nothing to rescue while the box is up
         ShowCritical(this, invalidProjectFile, loaded.error());
     }
     Review(false);
@@ -154,7 +158,8 @@ void appInfoForm::OfferRescue()
     std::optional<RescuedWork> wanted = OfferRescuedWork(this, m_environment.stateFolder);
     if (!wanted)
         return;
-    m_document.Replace(std::move(wanted->snapshot.project), wanted->snapshot.path);
+    m_document.Replace(std::move(wanted->snapshot.project), wanted->snapshot.path,
+                       wanted->snapshot.fingerprint);
     Review(false);
     SelectStep(1);
     m_document.SetProjectChanged(true);

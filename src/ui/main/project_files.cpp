@@ -54,6 +54,7 @@ void ProjectFiles::SaveAndForget()
 
 bool ProjectFiles::MayDiscard(Reason reason)
 {
+    m_saveMissed = false;
     if (!m_document.ProjectChanged())
         return true;
     // By intention the title bar's button remembers a save that failed before, from the menu: then
@@ -66,8 +67,8 @@ bool ProjectFiles::MayDiscard(Reason reason)
     if (answer != "Yes"_L1)
         return answer == "No"_L1;
     Save();
-    const bool cancelled = std::exchange(m_saveCancelled, false);
-    return !cancelled || reason == Reason::Open; // opening goes on without the save, on purpose
+    m_saveMissed = std::exchange(m_saveCancelled, false);
+    return !m_saveMissed || reason == Reason::Open; // opening goes on without the save, on purpose
 }
 
 QString ProjectFiles::ChooseProject()

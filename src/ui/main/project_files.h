@@ -30,6 +30,9 @@ public:
     /// Offers to save unsaved work; whether the user lets the project go.
     bool MayDiscard(Reason reason);
 
+    /// Whether the user, asked last, wanted to save and that did not happen.
+    bool SaveMissed() const { return m_saveMissed; }
+
     /// The project file that the user chooses to open; empty when the dialog was cancelled.
     QString ChooseProject();
 
@@ -42,6 +45,7 @@ private:
     const Environment &m_environment;
     QWidget *m_window;
     bool m_saveCancelled = false; ///< the last save did not happen
+    bool m_saveMissed = false;
 };
 
 } // namespace vellumo

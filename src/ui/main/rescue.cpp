@@ -46,13 +46,22 @@ void Rescue::Write()
     if (!m_copy) {
         Result<RescueCopy> made = RescueCopy::Make(m_environment.stateFolder);
         if (!made)
-            return;
+            return m_timer.start(); // to try again
         m_copy = std::move(*made);
     }
-    const Outcome written = m_copy->Write(
-        {m_document.project(), FullPath(m_document.path()), QDateTime::currentDateTime()});
+    const Outcome written = m_copy->Write({m_document.project(), FullPath(m_document.path()),
+                                           QDateTime::currentDateTime(), m_document.fingerprint()});
     if (written)
-        m_timer.stop();
+        return m_timer.stop();
+    if (!m_copy->IsThere()) // somebody tidied up
+        m_copy.reset();
+    m_timer.start();
+}
+
+void Rescue::Leave()
+{
+    Write();
+    m_copy.reset();
 }
 
 void Rescue::Forget()

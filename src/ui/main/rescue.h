@@ -23,6 +23,8 @@ public:
 
     /// Writes what is unsaved, if anything is.
     void Write();
+    /// What is open now was to be saved and could not be: its copy stays for a later start.
+    void Leave();
     /// The user needs no copy of what is open now.
     void Forget();
     /// The open project is what this copy holds.

@@ -50,6 +50,11 @@ std::optional<Snapshot> RescueCopy::Read() const
     return std::move(*snapshot);
 }
 
+bool RescueCopy::IsThere() const
+{
+    return QFileInfo::exists(m_folder.path());
+}
+
 void RescueCopy::Remove()
 {
     m_folder.Remove();

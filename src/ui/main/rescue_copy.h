@@ -24,6 +24,9 @@ public:
     /// Nothing where none was written yet, or where it is damaged or of another version.
     std::optional<Snapshot> Read() const;
 
+    /// Whether it still has its folder.
+    bool IsThere() const;
+
     /// Removes the copy with its folder.
     void Remove();
 

@@ -65,6 +65,22 @@ TEST_F(LeftWork, IsOpenedAndCountsAsChanged)
     EXPECT_EQ(Copies(), QStringList());
 }
 
+TEST_F(LeftWork, IsNotSavedUnaskedOverAFileThatChangedMeanwhile)
+{
+    const QString path = m_folder.filePath(u"survey.vmp"_s);
+    ASSERT_TRUE(WriteBytes(path, "what another program wrote"));
+    const Result<RescueCopy> copy = RescueCopy::Make(State());
+    ASSERT_TRUE(copy);
+    ASSERT_TRUE(copy->Write({.path = path, .fingerprint = "as opened"}));
+    Designer designer({}, State(), 1h);
+    const PromptScript prompts({u"Yes"_s, u"No"_s});
+    designer.window.OfferRescue();
+    designer.Choose("mnuFileSave");
+    EXPECT_TRUE(prompts.texts().value(1).startsWith(path + u"\r\nhas been changed"_s));
+    EXPECT_EQ(BytesOf(path), "what another program wrote");
+    EXPECT_EQ(Copies().size(), 1) << "still unsaved";
+}
+
 TEST_F(LeftWork, IsLockedByTheDesignerThatOpenedIt)
 {
     Leave(u"Survey"_s, {}, 0);
@@ -178,6 +194,24 @@ TEST_F(LeftWork, AnAnsweredQuestionLeavesNone)
         EXPECT_EQ(Copies().size(), row.copyStays ? 1 : 0);
         (void)prompts.fileDialogs();
     }
+}
+
+TEST_F(LeftWork, ThatCouldNotBeSavedBeforeAnotherWasOpenedIsOfferedLater)
+{
+    {
+        Designer designer({}, State(), 1h);
+        designer.Type("txtAppName", u"Survey"_s);
+        const PromptScript prompts({u"Yes"_s, u""_s, DataFile(u"projects/SiteVisit.vmp"_s)});
+        designer.Choose("mnuFileOpen");
+        EXPECT_EQ(prompts.boxes().size(), 1u);
+        EXPECT_EQ(prompts.fileDialogs().size(), 2);
+        EXPECT_EQ(designer.project().FormName, u"SiteVisit"_s);
+    }
+    Designer next({}, State(), 1h);
+    const PromptScript prompts({u"Yes"_s});
+    next.window.OfferRescue();
+    EXPECT_EQ(prompts.boxes().size(), 1u);
+    EXPECT_EQ(next.project().FormName, u"Survey"_s);
 }
 
 TEST_F(LeftWork, IsNotThereAfterTheTitleBarClosedTheWindow)

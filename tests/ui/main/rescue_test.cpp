@@ -140,7 +140,7 @@ TEST_F(ARescue, TheCopyGoesWhenTheProjectIsSafe)
         const char *what;
         std::function<void(ProjectDocument &)> act;
     } rows[] = {
-        {"saved", [](ProjectDocument &document) { document.MarkSaved(u"/a.vmp"_s); }},
+        {"saved", [](ProjectDocument &document) { document.MarkSaved(u"/a.vmp"_s, {}); }},
         {"another one is open", [](ProjectDocument &document) { document.Replace({}, {}); }},
     };
     for (const auto &row : rows) {
@@ -163,13 +163,48 @@ TEST_F(ARescue, TheCopyGoesWhenTheProjectIsSafe)
     EXPECT_EQ(Copies(), QStringList()) << "at a clean end";
 }
 
+TEST_F(ARescue, WhatCouldNotBeSavedStaysForALaterStart)
+{
+    m_environment.rescueDelay = 1h;
+    Rescue rescue(m_document, m_environment);
+    m_document.SetText(FormField::Name, u"Survey"_s);
+    rescue.Leave();
+    m_document.Replace({}, u"/b.vmp"_s);
+    std::vector<RescueCopy> left = RescueCopy::TakeOver(m_environment.stateFolder);
+    ASSERT_EQ(left.size(), 1u);
+    EXPECT_EQ(left[0].Read().value_or(Snapshot()).project.FormName, u"Survey"_s);
+}
+
+TEST_F(ARescue, IsTriedAgainWhereItFailed)
+{
+    ASSERT_TRUE(WriteBytes(m_environment.stateFolder, "a file in the way"));
+    m_environment.rescueDelay = 1ms;
+    Rescue rescue(m_document, m_environment);
+    m_document.SetText(FormField::Name, u"Survey"_s);
+    rescue.Write();
+    ASSERT_TRUE(QFile::remove(m_environment.stateFolder));
+    EXPECT_TRUE(Becomes(u"Survey"_s)) << "no other change is needed";
+
+    ASSERT_TRUE(QDir(m_environment.stateFolder).removeRecursively());
+    m_document.SetText(FormField::Name, u"Survey 2"_s);
+    EXPECT_TRUE(Becomes(u"Survey 2"_s)) << "the folder was tidied away";
+}
+
+TEST_F(ARescue, KnowsWhatItsFileHeld)
+{
+    Rescue rescue(m_document, m_environment);
+    m_document.Replace({}, u"/a.vmp"_s, "as opened");
+    m_document.SetText(FormField::Name, u"Survey"_s);
+    rescue.Write();
+    EXPECT_EQ(OnDisk().fingerprint, "as opened");
+}
+
 TEST_F(ARescue, WorksOnWhereNoCopyCanBe)
 {
     ASSERT_TRUE(WriteBytes(m_environment.stateFolder, "a file in the way"));
     {
         Rescue rescue(m_document, m_environment);
         m_document.SetText(FormField::Name, u"Survey"_s);
-        LetTimersPass(rescue);
         rescue.Write();
     }
     EXPECT_EQ(BytesOf(m_environment.stateFolder), "a file in the way");
