@@ -94,8 +94,7 @@ void Judge::JudgeEnd(const TracedRun &run, std::vector<std::string> &faults) con
 void Judge::JudgeRest(const Sandbox &sandbox, const TracedRun &run,
                       std::vector<std::string> &faults) const
 {
-    if (m_scenario.isSynced &&
-        std::ranges::count(run.namedTooEarly, sandbox.Work() / m_scenario.target) > 0)
+    if (std::ranges::count(run.namedTooEarly, sandbox.Work() / m_scenario.target) > 0)
         faults.push_back(m_scenario.target + " gets its place before it is on the disk");
     // Nothing can be done about a file that cannot be removed.
     const bool isExcused =

@@ -51,8 +51,7 @@ std::vector<Scenario> RealScenarios(const Places &places)
     const Scenario compile = {.name = "pilrc",
                               .words = {program("pilrc"), "-ro", "a.rcp"},
                               .files = {{"a.rcp", script}},
-                              .target = "a.ro",
-                              .isSynced = false}; // what it makes is for the next tool alone
+                              .target = "a.ro"};
     const Scenario build = {.name = "build_prc",
                             .words = {program("build-prc"), "a.prc", "name", "Wmpt", "a.ro"},
                             .files = {{"a.ro", resources}},

@@ -17,8 +17,6 @@ struct Scenario {
     };
     std::vector<File> files = {}; ///< that are there before
     std::string target = {};      ///< the one that is made; one of the files, or none of them
-    /// What must reach the disk before it takes the place of the target.
-    bool isSynced = true;
     /// Where equal runs give different bytes: the times of a database.
     std::size_t freeStart = 0, freeSize = 0;
 };
