@@ -17,12 +17,14 @@ constexpr std::size_t largestFile = std::size_t{64} << 20;
 /// without an end is one.
 Result<Bytes> ReadFile(const std::filesystem::path &path);
 
-/// Makes the file have these bytes, or tells why it has not.
+/// Makes the file have these bytes, or tells why it has not, as where there is a file that the user
+/// may not write.
 ///
 /// They are written to a new file in the same folder, which takes the place of the target once they
-/// are on the disk. On a failure the new file is removed and the target, if there was one, is as it
-/// was before; so it is where a signal ends the program meanwhile. Links are followed as TargetOf()
-/// does. What exists and is neither file nor folder, such as a device or a pipe, is written into.
+/// are on the disk, and takes over its rights, owner and group as OutputFile::CreateLike() does. On
+/// a failure the new file is removed and the target, if there was one, is as it was before; so it
+/// is where a signal ends the program meanwhile. Links are followed as TargetOf() does. What exists
+/// and is neither file nor folder, such as a device or a pipe, is written into.
 std::optional<Error> ReplaceFile(const std::filesystem::path &path, std::string_view bytes);
 
 } // namespace palmtools

@@ -4,6 +4,7 @@
 
 #ifndef _WIN32
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -28,6 +29,17 @@ std::error_code SyncDescriptor(int descriptor)
     if (fsync(descriptor) == 0 || CannotBeSynced(errno))
         return {};
     return LastError();
+}
+
+/// Without the group, its rights would be those of another one. A file system without owners or
+/// rights has its own.
+void TakeOver(int descriptor, const struct stat &old)
+{
+    mode_t rights = old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    if (fchown(descriptor, uid_t(-1), old.st_gid) != 0)
+        rights &= ~mode_t(S_IRWXG);
+    [[maybe_unused]] const int sameOwner = fchown(descriptor, old.st_uid, gid_t(-1));
+    [[maybe_unused]] const int sameRights = fchmod(descriptor, rights);
 }
 
 #endif
@@ -64,6 +76,12 @@ std::error_code OutputFile::Close()
 
 #ifdef _WIN32
 
+std::error_code OutputFile::CreateLike(const std::filesystem::path &path,
+                                       const std::filesystem::path &)
+{
+    return Create(path);
+}
+
 std::error_code OutputFile::OpenExisting(const std::filesystem::path &path, bool)
 {
     return Take(std::fopen(path.string().c_str(), "r+b"));
@@ -79,7 +97,27 @@ std::error_code SyncFolder(const std::filesystem::path &)
     return {};
 }
 
+std::error_code CheckMayWrite(const std::filesystem::path &)
+{
+    return {}; // a file that may not be written cannot be renamed over either
+}
+
 #else
+
+std::error_code OutputFile::CreateLike(const std::filesystem::path &path,
+                                       const std::filesystem::path &old)
+{
+    struct stat status = {};
+    if (lstat(old.c_str(), &status) != 0)
+        return LastError();
+    constexpr int newFile = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    // Nobody else can open it before it has its rights.
+    const int descriptor = open(path.c_str(), newFile, S_IRUSR | S_IWUSR);
+    if (descriptor < 0)
+        return LastError();
+    TakeOver(descriptor, status);
+    return Take(fdopen(descriptor, "wb"));
+}
 
 std::error_code OutputFile::OpenExisting(const std::filesystem::path &path, bool followsLink)
 {
@@ -102,6 +140,12 @@ std::error_code SyncFolder(const std::filesystem::path &folder)
     const std::error_code failure = SyncDescriptor(descriptor);
     close(descriptor);
     return failure;
+}
+
+std::error_code CheckMayWrite(const std::filesystem::path &path)
+{
+    return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? std::error_code()
+                                                                    : LastError();
 }
 
 #endif

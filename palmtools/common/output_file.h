@@ -15,6 +15,9 @@ class OutputFile
 public:
     /// Makes a file that did not exist; fails where there is anything, and be it a link.
     std::error_code Create(const std::filesystem::path &path);
+    /// As Create(), and gives it the rights of an old file, and its owner and its group as far as
+    /// the user may give them away; without the group, a group has no rights.
+    std::error_code CreateLike(const std::filesystem::path &path, const std::filesystem::path &old);
     /// Opens what exists, such as a device or a pipe.
     std::error_code OpenExisting(const std::filesystem::path &path, bool followsLink);
 
@@ -37,5 +40,8 @@ private:
 /// Waits until the names in a folder are on the disk, where the platform and the rights of the user
 /// allow that.
 std::error_code SyncFolder(const std::filesystem::path &folder);
+
+/// Whether the user may write to a file that exists; the code tells why not.
+std::error_code CheckMayWrite(const std::filesystem::path &path);
 
 } // namespace palmtools

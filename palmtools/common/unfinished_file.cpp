@@ -29,11 +29,17 @@ UnfinishedFile::~UnfinishedFile()
 
 std::error_code UnfinishedFile::Create()
 {
+    std::error_code failure;
+    const bool replaces = fs::exists(m_target, failure);
+    if (replaces)
+        failure = CheckMayWrite(m_target); // the right to its folder would be enough to replace it
+    if (failure)
+        return failure;
     // A name that is taken already is next to impossible; twice in a row, something else is wrong.
-    std::error_code failure = std::make_error_code(std::errc::file_exists);
+    failure = std::make_error_code(std::errc::file_exists);
     for (int attempt = 0; attempt < 2 && failure == std::errc::file_exists; ++attempt) {
         const fs::path path = fs::path(m_target).replace_filename(UnguessableName());
-        failure = m_file.Create(path);
+        failure = replaces ? m_file.CreateLike(path, m_target) : m_file.Create(path);
         if (!failure)
             m_path = path;
     }

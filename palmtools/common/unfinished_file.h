@@ -20,6 +20,8 @@ public:
 
     // The steps, in this order; after one that fails comes none.
 
+    /// Fails also where the target exists and may not be written; else the new file has its rights,
+    /// owner and group, see OutputFile::CreateLike().
     std::error_code Create();
     std::error_code Write(std::string_view bytes) { return m_file.Write(bytes); }
     /// Sees that the bytes are on the disk, and closes the file.
