@@ -28,13 +28,19 @@ bool MayFollow(const fs::path &)
 
 #else
 
+/// Whether the user cannot but trust this one.
+bool IsTrusted(uid_t owner)
+{
+    return owner == 0 || owner == geteuid();
+}
+
 bool MayFollow(const fs::path &link)
 {
     struct stat ofLink = {}, ofFolder = {};
     if (lstat(link.c_str(), &ofLink) != 0 || stat(FolderOf(link).c_str(), &ofFolder) != 0)
         return false;
     const bool isShared = (ofFolder.st_mode & (S_IWGRP | S_IWOTH)) != 0;
-    return !isShared || ofLink.st_uid == geteuid() || ofLink.st_uid == ofFolder.st_uid;
+    return IsTrusted(ofLink.st_uid) || (!isShared && IsTrusted(ofFolder.st_uid));
 }
 
 #endif
@@ -70,7 +76,7 @@ Result<Target> TargetOf(const fs::path &path)
         if (links == mostLinks)
             return Refusal(path, "too many links follow each other");
         if (!MayFollow(target.path))
-            return Refusal(path, "the link is neither yours nor that of the folder's owner");
+            return Refusal(path, "the link is neither yours nor root's");
         std::error_code failure;
         const fs::path named = FolderOf(target.path) / fs::read_symlink(target.path, failure);
         if (failure)

@@ -15,8 +15,8 @@ struct Target {
 
 /// The end of the links that a path leads along; there need not be a file yet.
 ///
-/// In a folder where others may write, only links that belong to the user or to the owner of the
-/// folder are followed; any other is an error, as anybody could have laid it there.
+/// In a folder where others than the user and root may write, only links that belong to these two
+/// are followed; any other is an error, as somebody else could have laid it there.
 Result<Target> TargetOf(const std::filesystem::path &path);
 
 } // namespace palmtools

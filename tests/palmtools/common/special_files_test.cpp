@@ -110,45 +110,6 @@ TEST(SpecialFiles, ALinkMayLeadToWhatIsOpenAndHasNoName)
     close(ends[1]);
 }
 
-/// Whose a link is and its folder, and whether it is followed; user 0 is the one who writes.
-struct OwnerRow {
-    const char *what;
-    uid_t link, folder;
-    mode_t mode;
-    bool isFollowed;
-};
-
-TEST(SpecialFiles, LinksOfOthersAreNotFollowedWhereOthersMayWrite)
-{
-    if (geteuid() != 0)
-        GTEST_SKIP() << "only root can give files away";
-    constexpr uid_t other = 65534, third = 65533;
-    const OwnerRow rows[] = {
-        {"one's own", 0, other, 01777, true},
-        {"the folder owner's", other, other, 01777, true},
-        {"somebody's, as in a folder for all", other, 0, 01777, false},
-        {"somebody's, where the folder does not protect names", other, 0, 0777, false},
-        {"somebody's, where a group may write", other, third, 0775, false},
-        {"somebody's, where the folder's owner alone writes", other, third, 0755, true},
-    };
-    for (const OwnerRow &row : rows) {
-        SCOPED_TRACE(row.what);
-        const TemporaryFolder folder;
-        WriteContent("a.ro", "before");
-        fs::create_directory("shared");
-        fs::create_symlink("../a.ro", "shared/link.ro");
-        ASSERT_EQ(lchown("shared/link.ro", row.link, 0), 0);
-        ASSERT_EQ(chown("shared", row.folder, 0), 0);
-        ASSERT_EQ(chmod("shared", row.mode), 0);
-        const auto error = ReplaceFile("shared/link.ro", "after");
-        EXPECT_EQ(ContentOf("a.ro"), row.isFollowed ? "after" : "before");
-        EXPECT_EQ(error ? error->text : "",
-                  row.isFollowed ? ""
-                                 : "cannot be written: the link is neither yours nor that of the "
-                                   "folder's owner");
-    }
-}
-
 TEST(SpecialFiles, NewOnesHaveTheModeThatTheProcessGives)
 {
     const TemporaryFolder folder;

@@ -1,0 +1,93 @@
+#include "palmtools/common/target.h"
+
+#include "palmtools/common/files.h"
+#include "palmtools/support.h"
+#include "support/ordinary_user.h"
+
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+
+#include <sys/stat.h>
+
+namespace palmtools {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Whose a link is and its folder, and whether it is followed.
+struct OwnerRow {
+    const char *what;
+    uid_t link, folder;
+    mode_t mode;
+    bool isFollowed;
+};
+
+constexpr uid_t root = 0, ordinary = 65534, other = 65533; // the second is who AsOrdinaryUser is
+
+void LayLink(const OwnerRow &row)
+{
+    WriteContent("a.ro", "before");
+    fs::create_directory("shared");
+    fs::create_symlink("../a.ro", "shared/link.ro");
+    ASSERT_EQ(lchown("shared/link.ro", row.link, 0), 0);
+    ASSERT_EQ(chown("shared", row.folder, 0), 0);
+    ASSERT_EQ(chmod("shared", row.mode), 0);
+}
+
+const std::string refusal = "cannot be written: the link is neither yours nor root's";
+
+TEST(Target, OfRootIsNotWhereOthersCouldHaveLaidALink)
+{
+    if (geteuid() != root)
+        GTEST_SKIP() << "only root can give files away";
+    const OwnerRow rows[] = {
+        {"one's own", root, other, 01777, true},
+        {"the owner's of a folder for all", other, other, 01777, false},
+        {"somebody's, as in a folder for all", other, root, 01777, false},
+        {"somebody's, where the folder does not protect names", other, root, 0777, false},
+        {"somebody's, where a group may write", other, ordinary, 0775, false},
+        {"somebody's, where another owner alone writes", other, ordinary, 0755, false},
+        {"the owner's, where only that one writes", other, other, 0755, false},
+        {"somebody's, where only root writes", other, root, 0755, true},
+    };
+    for (const OwnerRow &row : rows) {
+        SCOPED_TRACE(row.what);
+        const TemporaryFolder folder;
+        LayLink(row);
+        const auto error = ReplaceFile("shared/link.ro", "after");
+        EXPECT_EQ(ContentOf("a.ro"), row.isFollowed ? "after" : "before");
+        EXPECT_EQ(error ? error->text : "", row.isFollowed ? "" : refusal);
+    }
+}
+
+TEST(Target, OfAnOrdinaryUserIsNotWhereOthersCouldHaveLaidALink)
+{
+    if (geteuid() != root)
+        GTEST_SKIP() << "only root can give files away";
+    const OwnerRow rows[] = {
+        {"one's own", ordinary, other, 01777, true},
+        {"root's", root, other, 01777, true},
+        {"root's, where another owner alone writes", root, other, 0755, true},
+        {"somebody's, as in a folder for all", other, root, 01777, false},
+        {"somebody's, in one's own folder for all", other, ordinary, 0777, false},
+        {"somebody's, where a group may write", other, ordinary, 0775, false},
+        {"the owner's, where only that one writes", other, other, 0755, false},
+        {"somebody's, where only root writes", other, root, 0755, true},
+        {"somebody's, where only the user writes", other, ordinary, 0755, true},
+    };
+    for (const OwnerRow &row : rows) {
+        SCOPED_TRACE(row.what);
+        const TemporaryFolder folder;
+        LayLink(row);
+        const AsOrdinaryUser user;
+        const auto target = TargetOf("shared/link.ro");
+        EXPECT_EQ(target ? target->path.string() : target.error().text,
+                  row.isFollowed ? "shared/../a.ro" : refusal);
+    }
+}
+
+} // namespace
+} // namespace palmtools
+
+#endif
