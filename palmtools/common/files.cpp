@@ -59,10 +59,22 @@ std::error_code WriteAnew(const fs::path &target, std::string_view bytes)
     return file.Finish();
 }
 
+bool IsWrittenInto(const Target &target, const fs::file_status &status)
+{
+    return target.ownDescriptor >= 0 || (fs::exists(status) && !fs::is_regular_file(status));
+}
+
+std::error_code Open(OutputFile &file, const Target &target)
+{
+    if (target.ownDescriptor >= 0)
+        return file.OpenOwn(target.ownDescriptor);
+    return file.OpenExisting(target.path, target.isNameless);
+}
+
 std::error_code WriteInto(const Target &target, std::string_view bytes)
 {
     OutputFile file;
-    if (const auto failure = file.OpenExisting(target.path, target.isNameless))
+    if (const auto failure = Open(file, target))
         return failure;
     if (const auto failure = file.Write(bytes))
         return failure;
@@ -77,8 +89,7 @@ std::error_code Write(const Target &target, std::string_view bytes)
     const fs::file_status status = fs::status(target.path, ignored);
     if (fs::is_directory(status))
         return std::make_error_code(std::errc::is_a_directory);
-    const bool isSpecial = fs::exists(status) && !fs::is_regular_file(status);
-    return isSpecial ? WriteInto(target, bytes) : WriteAnew(target.path, bytes);
+    return IsWrittenInto(target, status) ? WriteInto(target, bytes) : WriteAnew(target.path, bytes);
 }
 
 } // namespace

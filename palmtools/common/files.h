@@ -24,7 +24,8 @@ Result<Bytes> ReadFile(const std::filesystem::path &path);
 /// are on the disk, and takes over its rights, owner and group as OutputFile::CreateLike() does. On
 /// a failure the new file is removed and the target, if there was one, is as it was before; so it
 /// is where a signal ends the program meanwhile. Links are followed as TargetOf() does. What exists
-/// and is neither file nor folder, such as a device or a pipe, is written into.
+/// and is neither file nor folder, such as a device or a pipe, is written into; so is a
+/// descriptor of this process, behind what was written before.
 std::optional<Error> ReplaceFile(const std::filesystem::path &path, std::string_view bytes);
 
 } // namespace palmtools

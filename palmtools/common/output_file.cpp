@@ -87,6 +87,11 @@ std::error_code OutputFile::OpenExisting(const std::filesystem::path &path, bool
     return Take(std::fopen(path.string().c_str(), "r+b"));
 }
 
+std::error_code OutputFile::OpenOwn(int)
+{
+    return std::make_error_code(std::errc::not_supported); // none has a path here
+}
+
 std::error_code OutputFile::Sync()
 {
     return std::fflush(m_file.get()) == 0 ? std::error_code() : LastError();
@@ -124,6 +129,12 @@ std::error_code OutputFile::OpenExisting(const std::filesystem::path &path, bool
     const int flags = O_WRONLY | O_NOCTTY | O_CLOEXEC | (followsLink ? 0 : O_NOFOLLOW);
     const int descriptor = open(path.c_str(), flags);
     return descriptor < 0 ? LastError() : Take(fdopen(descriptor, "wb"));
+}
+
+std::error_code OutputFile::OpenOwn(int descriptor)
+{
+    const int own = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+    return own < 0 ? LastError() : Take(fdopen(own, "wb"));
 }
 
 std::error_code OutputFile::Sync()

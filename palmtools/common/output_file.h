@@ -20,6 +20,9 @@ public:
     std::error_code CreateLike(const std::filesystem::path &path, const std::filesystem::path &old);
     /// Opens what exists, such as a device or a pipe.
     std::error_code OpenExisting(const std::filesystem::path &path, bool followsLink);
+    /// Opens what a descriptor of this process is open to, where it stands; the descriptor stays
+    /// open.
+    std::error_code OpenOwn(int descriptor);
 
     std::error_code Write(std::string_view bytes);
     /// Waits until all that was written is on the disk; what cannot be waited for, as a pipe, is

@@ -1,5 +1,7 @@
 #include "palmtools/common/target.h"
 
+#include <charconv>
+#include <string>
 #include <system_error>
 
 #ifndef _WIN32
@@ -67,6 +69,19 @@ bool IsNameless(const fs::path &link, const fs::path &named)
            !fs::exists(fs::symlink_status(named, ignored));
 }
 
+/// What is open there may have been opened to go on behind other bytes, which a new file would
+/// lose.
+int OwnDescriptorOf(const fs::path &link)
+{
+    std::error_code ignored;
+    if (!fs::equivalent(FolderOf(link), "/dev/fd", ignored))
+        return -1;
+    int number = -1;
+    const std::string name = link.filename().string();
+    std::from_chars(name.data(), name.data() + name.size(), number);
+    return number;
+}
+
 } // namespace
 
 Result<Target> TargetOf(const fs::path &path)
@@ -75,6 +90,8 @@ Result<Target> TargetOf(const fs::path &path)
     for (int links = 0; IsLink(target.path); ++links) {
         if (links == mostLinks)
             return Refusal(path, "too many links follow each other");
+        if (const int own = OwnDescriptorOf(target.path); own >= 0)
+            return Target{.path = target.path, .ownDescriptor = own};
         if (!MayFollow(target.path))
             return Refusal(path, "the link is neither yours nor root's");
         std::error_code failure;
@@ -82,7 +99,7 @@ Result<Target> TargetOf(const fs::path &path)
         if (failure)
             return Refusal(path, failure.message());
         if (IsNameless(target.path, named))
-            return Target{target.path, true};
+            return Target{.path = target.path, .isNameless = true};
         target.path = named;
     }
     return target;

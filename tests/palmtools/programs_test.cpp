@@ -6,6 +6,7 @@
 #ifdef __linux__
 
 #include <csignal>
+#include <fcntl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -150,6 +151,32 @@ TEST_F(Programs, TellOfALimitOfFilesAsOfAFullDisk)
         EXPECT_NE(ContentOf("err").find("cannot be written: File too large\n"), std::string::npos);
         EXPECT_EQ(ContentOf("out.prc"), before);
         EXPECT_EQ(m_folder.Names(), "a.rcp a.ro err out.prc ");
+    }
+}
+
+TEST_F(Programs, WriteIntoTheirOutputBehindWhatIsThere)
+{
+    std::filesystem::create_symlink("/dev/stdout", "link.prc");
+    std::filesystem::create_symlink("/proc/self/fd/1", "own.prc");
+    const Arguments calls[] = {
+        {"pilrc", "-q", "-ro", "a.rcp", "link.prc"},
+        {"pilrc", "-q", "-ro", "a.rcp", "own.prc"},
+        {"build-prc", "link.prc", "Name", "Crtr", "a.ro"},
+    };
+    for (const Arguments &arguments : calls) {
+        SCOPED_TRACE(arguments[0] + ' ' + arguments.back());
+        WriteContent("out.prc", "");
+        const int output = open("out.prc", O_WRONLY | O_CLOEXEC);
+        ASSERT_EQ(write(output, before.data(), before.size()), ssize_t(before.size()));
+        Program program(arguments, [&] { dup2(output, STDOUT_FILENO); });
+        EXPECT_EQ(program.Wait(), 0) << ContentOf("err");
+        EXPECT_EQ(write(output, "after", 5), 5);
+        close(output);
+        const std::string written = ContentOf("out.prc");
+        EXPECT_EQ(written.substr(0, before.size()), before);
+        EXPECT_GT(written.size(), 60000u);
+        EXPECT_TRUE(written.ends_with("after"));
+        EXPECT_EQ(m_folder.Names(), "a.rcp a.ro err link.prc out.prc own.prc ");
     }
 }
 
