@@ -59,11 +59,6 @@ std::error_code WriteAnew(const fs::path &target, std::string_view bytes)
     return file.Finish();
 }
 
-bool IsWrittenInto(const Target &target, const fs::file_status &status)
-{
-    return target.ownDescriptor >= 0 || (fs::exists(status) && !fs::is_regular_file(status));
-}
-
 std::error_code Open(OutputFile &file, const Target &target)
 {
     if (target.ownDescriptor >= 0)
@@ -83,13 +78,24 @@ std::error_code WriteInto(const Target &target, std::string_view bytes)
     return file.Close();
 }
 
-std::error_code Write(const Target &target, std::string_view bytes)
+bool IsFolder(const Target &target)
 {
     std::error_code ignored; // whoever writes meets it again
-    const fs::file_status status = fs::status(target.path, ignored);
-    if (fs::is_directory(status))
+    return fs::is_directory(target.path, ignored);
+}
+
+/// A descriptor may be open to a file, but has its place in it.
+bool IsWrittenInto(const Target &target)
+{
+    std::error_code ignored;
+    return target.ownDescriptor >= 0 || fs::is_other(target.path, ignored);
+}
+
+std::error_code Write(const Target &target, std::string_view bytes)
+{
+    if (IsFolder(target))
         return std::make_error_code(std::errc::is_a_directory);
-    return IsWrittenInto(target, status) ? WriteInto(target, bytes) : WriteAnew(target.path, bytes);
+    return IsWrittenInto(target) ? WriteInto(target, bytes) : WriteAnew(target.path, bytes);
 }
 
 } // namespace
@@ -123,6 +129,12 @@ std::optional<Error> ReplaceFile(const fs::path &path, std::string_view bytes)
     if (const auto failure = Write(*target, bytes))
         return Error{"cannot be written: " + failure.message(), path.string()};
     return std::nullopt;
+}
+
+bool IsWrittenInto(const fs::path &path)
+{
+    const auto target = TargetOf(path);
+    return target && !IsFolder(*target) && IsWrittenInto(*target);
 }
 
 } // namespace palmtools

@@ -28,4 +28,7 @@ Result<Bytes> ReadFile(const std::filesystem::path &path);
 /// descriptor of this process, behind what was written before.
 std::optional<Error> ReplaceFile(const std::filesystem::path &path, std::string_view bytes);
 
+/// Whether ReplaceFile() would write into what is there, such as a device, and not make a new file.
+bool IsWrittenInto(const std::filesystem::path &path);
+
 } // namespace palmtools

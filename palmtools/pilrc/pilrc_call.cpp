@@ -1,6 +1,7 @@
 #include "palmtools/pilrc/pilrc_call.h"
 
 #include "palmtools/common/ascii.h"
+#include "palmtools/common/files.h"
 
 #include <cstddef>
 #include <optional>
@@ -71,8 +72,8 @@ std::string ResourceFileOf(std::string_view script, std::string_view asked)
     }
     const std::size_t separator = asked.find_last_of("/\\");
     const std::string_view name = separator == asked.npos ? asked : asked.substr(separator + 1);
-    const bool hasEnding = name.find('.') != name.npos;
-    return std::string(asked) + (hasEnding ? "" : ".ro");
+    const bool isWhole = name.find('.') != name.npos || IsWrittenInto(asked);
+    return std::string(asked) + (isWhole ? "" : ".ro");
 }
 
 } // namespace palmtools

@@ -24,6 +24,7 @@ struct PilrcCall {
 Result<PilrcCall> ReadPilrcCall(const std::vector<std::string> &arguments);
 
 /// Where the resource file goes. Both are as on the command line; "." asks for the usual place.
+/// A name without an ending gets one, but for what is there to be written into, such as a device.
 std::string ResourceFileOf(std::string_view script, std::string_view asked);
 
 } // namespace palmtools

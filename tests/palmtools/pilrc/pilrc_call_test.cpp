@@ -1,6 +1,13 @@
 #include "palmtools/pilrc/pilrc_call.h"
 
+#include "palmtools/support.h"
+
 #include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#endif
 
 namespace palmtools {
 namespace {
@@ -105,6 +112,34 @@ TEST(PilrcCall, TellsWhereTheOutputGoes)
         EXPECT_EQ(option->output, row.output);
     }
 }
+
+#ifndef _WIN32
+
+TEST(PilrcCall, AddsNoEndingToWhatIsWrittenInto)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo("pipe", 0600), 0);
+    std::filesystem::create_symlink("pipe", "link");
+    std::filesystem::create_directory("sub");
+    WriteContent("file", "");
+    EXPECT_EQ(ResourceFileOf("a.rcp", "pipe"), "pipe");
+    EXPECT_EQ(ResourceFileOf("a.rcp", "link"), "link");
+    EXPECT_EQ(ResourceFileOf("a.rcp", "sub/../pipe"), "sub/../pipe");
+    EXPECT_EQ(ResourceFileOf("a.rcp", "sub"), "sub.ro");
+    EXPECT_EQ(ResourceFileOf("a.rcp", "file"), "file.ro");
+    EXPECT_EQ(ResourceFileOf("pipe", "."), "pipe.ro");
+}
+
+TEST(PilrcCall, AddsNoEndingToADevice)
+{
+    const TemporaryFolder folder;
+    const dev_t nullDevice = makedev(1, 3);
+    if (mknod("null", S_IFCHR | 0600, nullDevice) != 0)
+        GTEST_SKIP() << "only root can make a device";
+    EXPECT_EQ(ResourceFileOf("a.rcp", "null"), "null");
+}
+
+#endif
 
 } // namespace
 } // namespace palmtools
