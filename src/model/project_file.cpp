@@ -35,7 +35,7 @@ Outcome SaveProject(const Project &project, const QString &path, Fingerprint *fi
     const Result<QByteArray> bytes = WriteProject(project);
     if (!bytes)
         return Error{bytes.error().text, path};
-    const Outcome replaced = ReplaceFile(path, *bytes);
+    Outcome replaced = ReplaceFile(path, *bytes);
     if (replaced && fingerprint)
         *fingerprint = FingerprintOf(*bytes);
     return replaced;

@@ -45,7 +45,7 @@ private:
 /// On one line, and not too long for a box.
 QString Shortened(const QString &text)
 {
-    const QString line = text.simplified();
+    QString line = text.simplified();
     const qsizetype end = line.indexOf(valueEnd) + valueEnd.size();
     if (line.size() <= longestShown)
         return line;

@@ -17,8 +17,8 @@ namespace {
 
 constexpr int mostForeignNames = 200'000; // expat keeps each; a project has none
 constexpr QLatin1StringView tooManyNames = "there are too many attributes and unknown elements"_L1;
-constexpr qsizetype longestTag = 1024 * 1024; // of so many names
-constexpr qsizetype pieceSize = 64 * 1024;
+constexpr qsizetype longestTag = 1 << 20; // of so many names
+constexpr qsizetype pieceSize = 1 << 16;
 
 /// Each attribute has an equals sign.
 bool MayHaveTooManyAttributes(QByteArrayView bytes)
@@ -96,7 +96,7 @@ struct XmlReader::Callbacks {
 Outcome XmlReader::ReadDocument(const QByteArray &bytes)
 {
     // A mark tells more than a declaration, which some editors leave as it was.
-    const Outcome read = Parse(bytes, bytes.startsWith("\xEF\xBB\xBF") ? "UTF-8" : nullptr);
+    Outcome read = Parse(bytes, bytes.startsWith("\xEF\xBB\xBF") ? "UTF-8" : nullptr);
     if (m_foreignEncoding.isEmpty() || !m_refusal.isNull())
         return read;
     // No element was told yet, and the toolkit may know the encoding.

@@ -42,9 +42,9 @@ Outcome Fill(Descriptor file, const QByteArray &bytes)
 {
     if (!file)
         return LastError();
-    if (const Outcome written = file.Write(bytes); !written)
+    if (Outcome written = file.Write(bytes); !written)
         return written;
-    if (const Outcome synced = file.Sync(); !synced)
+    if (Outcome synced = file.Sync(); !synced)
         return synced;
     return file.Close();
 }
@@ -76,7 +76,7 @@ Outcome PutInPlace(const OutputPlace &place, const QByteArray &bytes)
     auto remove = qScopeGuard([&] { unlinkat(*place.folder, temporary, 0); });
     if (replaces)
         TakeOver(file, place.status);
-    if (const Outcome filled = Fill(std::move(file), bytes); !filled)
+    if (Outcome filled = Fill(std::move(file), bytes); !filled)
         return filled;
     if (renameat(*place.folder, temporary, *place.folder, place.name) != 0)
         return LastError();

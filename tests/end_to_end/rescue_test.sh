@@ -29,8 +29,10 @@ offered() {
     await 20 'no main window' is_main_up
     windows 2
 }
-is_main_up() { xdotool search --onlyvisible --name '^Vellumo Designer$' getwindowgeometry %@ |
-    grep -q 'Geometry: 860x620'; }
+is_main_up() {
+    [[ $(xdotool search --onlyvisible --name '^Vellumo Designer$' getwindowgeometry %@) \
+        == *'Geometry: 860x620'* ]]
+}
 
 start
 await 20 'no main window' is_main

@@ -18,7 +18,8 @@ class LeftWork : public testing::Test
 {
 protected:
     /// The later ones are those of the larger number.
-    void Leave(const QString &formName, const QString &path, int second) const
+    void Leave(const QString &formName, const QString &path, int second,
+               const Fingerprint &fingerprint = {}) const
     {
         const Result<RescueCopy> copy = RescueCopy::Make(State());
         ASSERT_TRUE(copy);
@@ -26,6 +27,7 @@ protected:
         snapshot.project.FormName = formName;
         snapshot.path = path;
         snapshot.taken = QDateTime({2025, 3, 1}, {14, 2, second});
+        snapshot.fingerprint = fingerprint;
         ASSERT_TRUE(copy->Write(snapshot));
     }
 
@@ -69,9 +71,7 @@ TEST_F(LeftWork, IsNotSavedUnaskedOverAFileThatChangedMeanwhile)
 {
     const QString path = m_folder.filePath(u"survey.vmp"_s);
     ASSERT_TRUE(WriteBytes(path, "what another program wrote"));
-    const Result<RescueCopy> copy = RescueCopy::Make(State());
-    ASSERT_TRUE(copy);
-    ASSERT_TRUE(copy->Write({.path = path, .fingerprint = "as opened"}));
+    Leave(u"Survey"_s, path, 0, "as opened");
     Designer designer({}, State(), 1h);
     const PromptScript prompts({u"Yes"_s, u"No"_s});
     designer.window.OfferRescue();
