@@ -261,20 +261,20 @@ TEST_F(CreateCommand, WarnsAndCreatesAllTheSame)
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
 }
 
-TEST_F(CreateCommand, TakesNoDatabaseThatIsNotTheProjects)
+struct WrongDatabase {
+    const char *what;
+    QByteArray database;
+};
+
+/// Databases that are not the nestbox's, of which this is the right one.
+std::vector<WrongDatabase> WrongDatabases(const QByteArray &right)
 {
-    ASSERT_EQ(Create({nestbox}), 0);
-    const QString target = InFolder(u"out/Nestbox.prc"_s);
-    const QByteArray right = BytesOf(target);
     const auto changed = [&right](qsizetype at, char to) {
         QByteArray bytes = right;
         bytes[at] = to;
         return bytes;
     };
-    const struct {
-        const char *what;
-        QByteArray database;
-    } rows[] = {
+    return {
         {"an empty file", ""},
         {"half of it", right.first(right.size() / 2)},
         {"its last byte missing", right.chopped(1)},
@@ -294,7 +294,14 @@ TEST_F(CreateCommand, TakesNoDatabaseThatIsNotTheProjects)
                                 ? right.chopped(4) + "1.1" + '\0'
                                 : right.chopped(2) + "9" + '\0'},
     };
-    for (const auto &row : rows) {
+}
+
+TEST_F(CreateCommand, TakesNoDatabaseThatIsNotTheProjects)
+{
+    ASSERT_EQ(Create({nestbox}), 0);
+    const QString target = InFolder(u"out/Nestbox.prc"_s);
+    const QByteArray right = BytesOf(target);
+    for (const WrongDatabase &row : WrongDatabases(right)) {
         SCOPED_TRACE(row.what);
         ASSERT_NE(row.database, right) << "damaged in name only";
         UseBuilderThatLeaves(row.database);

@@ -30,6 +30,17 @@ std::vector<Scenario> CarelessScenarios(const Places &places)
     return all;
 }
 
+Scenario Create(const std::string &vellumo, const std::string &project)
+{
+    return {.name = "create",
+            .words = {vellumo, "create", "--guid", "0123456789ABCDEF0123456789ABCDEF", "-o", ".",
+                      "project.vmp"},
+            .files = {{"project.vmp", project}},
+            .target = "SiteVisit.prc",
+            .freeStart = timesStart,
+            .freeSize = timesSize};
+}
+
 std::vector<Scenario> RealScenarios(const Places &places)
 {
     const auto program = [&](const char *name) { return (places.programs / name).string(); };
@@ -40,14 +51,7 @@ std::vector<Scenario> RealScenarios(const Places &places)
     const std::string script = ContentOf(places.data / "palm/tentypes.rcp").value();
     const std::string resources = ContentOf(places.data / "palm/tentypes.ro").value();
 
-    const Scenario create = {.name = "create",
-                             .words = {vellumo, "create", "--guid",
-                                       "0123456789ABCDEF0123456789ABCDEF", "-o", ".",
-                                       "project.vmp"},
-                             .files = {{"project.vmp", project}},
-                             .target = "SiteVisit.prc",
-                             .freeStart = timesStart,
-                             .freeSize = timesSize};
+    const Scenario create = Create(vellumo, project);
     const Scenario compile = {.name = "pilrc",
                               .words = {program("pilrc"), "-ro", "a.rcp"},
                               .files = {{"a.rcp", script}},

@@ -65,7 +65,7 @@ TEST(ProjectWriter, EndsEveryLineInCrLf)
     EXPECT_EQ(bytes->count('\r'), 16);
 }
 
-TEST(ProjectWriter, WritesQuestionsItemsAndTitles)
+Project ShortSurvey()
 {
     Project project;
     project.FormName = u"Survey"_s;
@@ -80,8 +80,12 @@ TEST(ProjectWriter, WritesQuestionsItemsAndTitles)
     project.source.AddItem();
     project.source.Items().Current() = {.Id = 7, .Item = u"Red"_s};
     project.TitleList = QStringList{u"Age"_s, u""_s, u"Name"_s};
+    return project;
+}
 
-    const QByteArray text = Written(project);
+TEST(ProjectWriter, WritesQuestionsItemsAndTitles)
+{
+    const QByteArray text = Written(ShortSurvey());
     EXPECT_TRUE(text.contains("<FormPath><![CDATA[C:\\Data]]></FormPath>\n"
                               "<MaxId><![CDATA[8]]></MaxId>\n"
                               "<rcMain>\n"
@@ -175,47 +179,51 @@ TEST(ProjectWriter, WritingLeavesTheCursorWhereItIs)
     EXPECT_EQ(project.source.Questions().Current().Id, 1);
 }
 
+/// Of a project of two questions, after a change of the second or of its item.
+template <typename Change> QString RefusalAfter(Change change)
+{
+    Project project;
+    AddQuestion(project, {.Order = 1, .Id = 4});
+    AddQuestion(project, {.Order = 2, .Id = 9});
+    project.source.AddItem();
+    project.source.Items().Current() = {.Id = 9, .Item = u"Red"_s};
+    change(project);
+    return RefusalOf(project);
+}
+
+const QString omega = u"\u03A9"_s;
+const QString tail = u" has the character '\u03A9' (U+03A9), "
+                     "which windows-1252 does not have."_s;
+
 TEST(ProjectWriter, RefusesWhatTheFileCannotHold)
 {
-    const auto refusal = [](auto change) {
-        Project project;
-        AddQuestion(project, {.Order = 1, .Id = 4});
-        AddQuestion(project, {.Order = 2, .Id = 9});
-        project.source.AddItem();
-        project.source.Items().Current() = {.Id = 9, .Item = u"Red"_s};
-        change(project);
-        return RefusalOf(project);
-    };
-    const QString omega = u"\u03A9"_s;
-    const QString tail = u" has the character '\u03A9' (U+03A9), "
-                         "which windows-1252 does not have."_s;
-
-    EXPECT_EQ(refusal([](Project &) {}), u"written"_s);
-    EXPECT_EQ(refusal([&](Project &p) { p.FormName = omega; }), u"The form name"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.FormVersion = omega; }), u"The form version"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.Description = omega; }), u"The description"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.FormPath = omega; }), u"The data folder"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.TitleList = QStringList{omega}; }),
+    EXPECT_EQ(RefusalAfter([](Project &) {}), u"written"_s);
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.FormName = omega; }), u"The form name"_s + tail);
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.FormVersion = omega; }),
+              u"The form version"_s + tail);
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.Description = omega; }), u"The description"_s + tail);
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.FormPath = omega; }), u"The data folder"_s + tail);
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.TitleList = QStringList{omega}; }),
               u"The title history"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.source.Questions().Current().Title = omega; }),
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.source.Questions().Current().Title = omega; }),
               u"The title of question 2"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.source.Questions().Current().Question = omega; }),
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.source.Questions().Current().Question = omega; }),
               u"The question text of question 2"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.source.Questions().Current().ColumnName = omega; }),
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.source.Questions().Current().ColumnName = omega; }),
               u"The column name of question 2"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.source.Questions().Current().Type = omega; }),
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.source.Questions().Current().Type = omega; }),
               u"The type of question 2"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) { p.source.Items().Current().Item = omega; }),
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.source.Items().Current().Item = omega; }),
               u"The item list of question 2"_s + tail);
-    EXPECT_EQ(refusal([&](Project &p) {
+    EXPECT_EQ(RefusalAfter([](Project &p) {
                   p.source.Items().Current() = {5, omega};
               }),
               u"The item list"_s + tail)
         << "an item of no question";
-    EXPECT_EQ(refusal([](Project &p) { p.FormName = u"a\u000Bb"_s; }),
+    EXPECT_EQ(RefusalAfter([](Project &p) { p.FormName = u"a\u000Bb"_s; }),
               u"The form name has a control character (U+000B), "
               "which a project file cannot hold."_s);
-    EXPECT_EQ(refusal([&](Project &p) {
+    EXPECT_EQ(RefusalAfter([](Project &p) {
                   p.FormName = omega;
                   p.Description = u"\u4E2D"_s;
               }),

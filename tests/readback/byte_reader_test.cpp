@@ -41,44 +41,45 @@ TEST(ByteReader, TakesNothingBeyondTheEnd)
     EXPECT_EQ(zeros.Fault(), u"it ends too early, at byte 2"_s);
 }
 
+const struct {
+    const char *what;
+    void (*read)(ByteReader &);
+    QString fault;
+} readings[] = {
+    {"zeros", [](ByteReader &reader) { reader.PassZeros(2); }, u""_s},
+    {"no zero", [](ByteReader &reader) { reader.PassZeros(4); }, u"byte 3 is not zero"_s},
+    {"a number", [](ByteReader &reader) { reader.PassNumber(4, 7); }, u""_s},
+    {"another",
+     [](ByteReader &reader) {
+         reader.Take(2);
+         reader.PassNumber(2, 8);
+     },
+     u"the number at byte 2 is 7 instead of 8"_s},
+    {"no padding is due", [](ByteReader &reader) { reader.PassPadding(); }, u""_s},
+    {"padding that is not zero",
+     [](ByteReader &reader) {
+         reader.Take(3);
+         reader.PassPadding();
+     },
+     u"byte 3 is not zero"_s},
+    {"more than expected",
+     [](ByteReader &reader) {
+         reader.Take(3);
+         reader.PassEnd();
+     },
+     u"it should end at byte 3, but has 4 bytes"_s},
+    {"the first counts",
+     [](ByteReader &reader) {
+         reader.Refuse(u"one"_s);
+         reader.Refuse(u"two"_s);
+         reader.Take(9);
+     },
+     u"one"_s},
+};
+
 TEST(ByteReader, NamesTheFirstFault)
 {
-    const struct {
-        const char *what;
-        void (*read)(ByteReader &);
-        QString fault;
-    } rows[] = {
-        {"zeros", [](ByteReader &reader) { reader.PassZeros(2); }, u""_s},
-        {"no zero", [](ByteReader &reader) { reader.PassZeros(4); }, u"byte 3 is not zero"_s},
-        {"a number", [](ByteReader &reader) { reader.PassNumber(4, 7); }, u""_s},
-        {"another",
-         [](ByteReader &reader) {
-             reader.Take(2);
-             reader.PassNumber(2, 8);
-         },
-         u"the number at byte 2 is 7 instead of 8"_s},
-        {"no padding is due", [](ByteReader &reader) { reader.PassPadding(); }, u""_s},
-        {"padding that is not zero",
-         [](ByteReader &reader) {
-             reader.Take(3);
-             reader.PassPadding();
-         },
-         u"byte 3 is not zero"_s},
-        {"more than expected",
-         [](ByteReader &reader) {
-             reader.Take(3);
-             reader.PassEnd();
-         },
-         u"it should end at byte 3, but has 4 bytes"_s},
-        {"the first counts",
-         [](ByteReader &reader) {
-             reader.Refuse(u"one"_s);
-             reader.Refuse(u"two"_s);
-             reader.Take(9);
-         },
-         u"one"_s},
-    };
-    for (const auto &row : rows) {
+    for (const auto &row : readings) {
         SCOPED_TRACE(row.what);
         ByteReader reader(QByteArrayView("\0\0\0\x07", 4));
         row.read(reader);

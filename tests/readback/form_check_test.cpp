@@ -28,51 +28,66 @@ TEST(FormCheck, FindsOtherTexts)
         ExpectFound(row, TenTypesProject());
 }
 
-TEST(FormCheck, FindsOtherObjects)
+QByteArray WithChangedForm(quint32 number, qsizetype offset, quint32 value)
 {
-    const auto changedForm = [](quint32 number, qsizetype offset, quint32 value) {
-        return WithData(TenTypes(), "tFRM", number,
-                        [&](const QByteArray &data) { return WithNumber(data, offset, 2, value); });
-    };
-    const QByteArray text = DataOf(Read(TenTypes()), "tFRM", 10);
-    const qsizetype field = text.indexOf(QByteArray("\0\x02\0\x0A\0\x38", 6));
-    const QByteArray checks = DataOf(Read(TenTypes()), "tFRM", 1);
-    const qsizetype list = checks.indexOf(QByteArray("\0\x04\0\x0D\0\x35", 6));
-    const qsizetype table = checks.indexOf(QByteArray("\0\x02\0\x0D\0\x36", 6));
-    ASSERT_TRUE(field > 0 && list > 0 && table > 0);
+    return WithData(TenTypes(), "tFRM", number,
+                    [&](const QByteArray &data) { return WithNumber(data, offset, 2, value); });
+}
+
+/// Where an object lies in a form, by the bytes that it begins with.
+qsizetype PlaceIn(quint32 form, QByteArrayView beginning)
+{
+    return DataOf(Read(TenTypes()), "tFRM", form).indexOf(beginning);
+}
+
+TEST(FormCheck, FindsOtherFormsAndFields)
+{
+    const qsizetype field = PlaceIn(10, {"\0\x02\0\x0A\0\x38", 6});
+    ASSERT_GT(field, 0);
     const Damage rows[] = {
         {"a wider form",
-         changedForm(3, 14, 161),
+         WithChangedForm(3, 14, 161),
          {u"form-header [form 3] The form of question 3: the width of the form is 161 instead of 160."_s}},
         {"a form not shown",
-         changedForm(3, 42, 0),
+         WithChangedForm(3, 42, 0),
          {u"form-header [form 3] The form of question 3: the flag word of the form is 0x0000 instead of 0x8000."_s}},
         {"a field elsewhere",
-         changedForm(10, field + 2, 11),
+         WithChangedForm(10, field + 2, 11),
          {u"form-object [form 10] "
           "The form of question 10: the left edge of field 2 is 11 instead of 10."_s}},
         {"a field for fewer letters",
-         changedForm(10, field + 28, 254),
+         WithChangedForm(10, field + 28, 254),
          {u"form-object [form 10] "
           "The form of question 10: the longest content of field 2 is 254 instead of 255."_s}},
         {"a field for numbers",
-         changedForm(10, field + 10, 0xA242),
+         WithChangedForm(10, field + 10, 0xA242),
          {u"form-object [form 10] "
           "The form of question 10: the flag word of field 2 is 0xa242 instead of 0xa240."_s}},
         {"another number of a field",
-         changedForm(10, field, 3),
+         WithChangedForm(10, field, 3),
          {u"form-objects [form 10] "
           "The form of question 10: object 3 is field 3 instead of field 2."_s}},
+    };
+    for (const Damage &row : rows)
+        ExpectFound(row, TenTypesProject());
+}
+
+TEST(FormCheck, FindsOtherListsAndTables)
+{
+    const qsizetype list = PlaceIn(1, {"\0\x04\0\x0D\0\x35", 6});
+    const qsizetype table = PlaceIn(1, {"\0\x02\0\x0D\0\x36", 6});
+    ASSERT_TRUE(list > 0 && table > 0);
+    const Damage rows[] = {
         {"columns of another width",
-         changedForm(1, table + 74, 13),
+         WithChangedForm(1, table + 74, 13),
          {u"form-object [form 1] The form of question 1: the columns of table 2 differ."_s}},
         {"a list too narrow",
-         changedForm(1, list + 6, 42),
+         WithChangedForm(1, list + 6, 42),
          {u"form-object [form 1] "
           "The form of question 1: the width of list 4 is 42 instead of 43."_s}},
-        {"a list as wide as its widest item", changedForm(1, list + 6, 43), {}},
+        {"a list as wide as its widest item", WithChangedForm(1, list + 6, 43), {}},
         {"a list too wide",
-         changedForm(1, list + 6, 44),
+         WithChangedForm(1, list + 6, 44),
          {u"form-object [form 1] "
           "The form of question 1: the width of list 4 is 44 instead of 43."_s}},
     };

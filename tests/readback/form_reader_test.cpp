@@ -80,7 +80,7 @@ TEST(FormReader, ReadsTheHeader)
                                     u"button 101"_s, u"button 102"_s}));
 }
 
-TEST(FormReader, ReadsWhatEachKindOfObjectHolds)
+TEST(FormReader, ReadsWhatTextsAndButtonsHold)
 {
     EXPECT_EQ(TenTypesObject(2, u"title"_s).text, "Wind");
 
@@ -102,7 +102,10 @@ TEST(FormReader, ReadsWhatEachKindOfObjectHolds)
     EXPECT_EQ(button.font, 3u);
     EXPECT_EQ(button.text, "\v");
     EXPECT_EQ(TenTypesObject(6, u"check box 3"_s).group, 1u);
+}
 
+TEST(FormReader, ReadsWhatListsTablesAndDrawingsHold)
+{
     const FormObject list = TenTypesObject(2, u"list 3"_s);
     EXPECT_EQ(list.items, (QList<QByteArray>{"Calm", "Breeze", "Strong wind", "Storm"}));
     EXPECT_EQ(list.flags, 0x4000u);

@@ -131,54 +131,55 @@ TEST(FormRules, Description)
     ExpectRows(ValidateAppDesc, rows);
 }
 
+const QString missingFolder = u"Please provide a default data directory path."_s;
+const QString invalidFolder = u"This is not a valid directory name."_s;
+const Row dataFolders[] = {
+    Kept("empty", u""_s, missingFolder),
+    {"nothing but blanks", u"  "_s, u""_s, missingFolder},
+    Kept("a folder", u"C:\\Data"_s),
+    {"blanks around it go, those inside stay", u" C:\\My Data "_s, u"C:\\My Data"_s, passes},
+    {"blanks go from one that fails, too", u" Data "_s, u"Data"_s, invalidFolder},
+    {"a tab at the end stays", u"C:\\Data\t "_s, u"C:\\Data\t"_s, passes},
+    Kept("a tab at the start is no letter", u"\tC:\\Data"_s, invalidFolder),
+    Kept("a bare root, in lower case", u"c:\\"_s),
+    Kept("the first letter", u"A:\\"_s),
+    Kept("the last letter", u"Z:\\"_s),
+    Kept("the first small letter", u"a:\\"_s),
+    Kept("the last small letter", u"z:\\"_s),
+    Kept("what stands before the letters", u"@:\\"_s, invalidFolder),
+    Kept("what stands behind the letters", u"[:\\"_s, invalidFolder),
+    Kept("what stands before the small letters", u"`:\\"_s, invalidFolder),
+    Kept("what stands behind the small letters", u"{:\\"_s, invalidFolder),
+    Kept("a digit", u"1:\\x"_s, invalidFolder),
+    Kept("a letter beyond ASCII", u"\u00C4:\\x"_s, invalidFolder),
+    Kept("a letter alone", u"C"_s, invalidFolder),
+    Kept("a drive without a root", u"C:"_s, invalidFolder),
+    Kept("a drive and a relative path", u"C:Data"_s, invalidFolder),
+    Kept("a drive letter without its colon", u"C\\Data"_s, invalidFolder),
+    Kept("a root without a drive", u"\\Data"_s, invalidFolder),
+    Kept("a server", u"\\\\server\\share"_s, invalidFolder),
+    Kept("a backslash at the end", u"C:\\Data\\"_s),
+    Kept("two backslashes in a row", u"C:\\\\Data\\\\x"_s),
+    Kept("a second colon", u"C:\\Da:ta"_s, invalidFolder),
+    Kept("a colon in the third place", u"C::\\"_s, invalidFolder),
+    Kept("a double quote", u"C:\\Da\"ta"_s, invalidFolder),
+    Kept("a double quote in the third place", u"C:\"Data"_s, invalidFolder),
+    Kept("a double quote in the first place", u"\":\\Data"_s, invalidFolder),
+    Kept("a double quote in the second place", u"C\"\\Data"_s, invalidFolder),
+    Kept("a question mark", u"C:\\a?b"_s, invalidFolder),
+    Kept("a greater-than", u"C:\\a>b"_s, invalidFolder),
+    Kept("an asterisk", u"C:\\a*b"_s, invalidFolder),
+    Kept("a slash", u"C:\\a/b"_s, invalidFolder),
+    Kept("slashes for backslashes", u"C:/Data"_s, invalidFolder),
+    Kept("a vertical bar", u"C:\\a|b"_s, invalidFolder),
+    Kept("a less-than", u"C:\\a<b"_s, invalidFolder),
+    Kept("other odd characters", u"C:\\[a]!#;,%\u00E9"_s),
+    Kept("any length", u"C:\\"_s + QString(1000, u'x')),
+};
+
 TEST(FormRules, DataFolder)
 {
-    const QString missing = u"Please provide a default data directory path."_s;
-    const QString invalid = u"This is not a valid directory name."_s;
-    const Row rows[] = {
-        Kept("empty", u""_s, missing),
-        {"nothing but blanks", u"  "_s, u""_s, missing},
-        Kept("a folder", u"C:\\Data"_s),
-        {"blanks around it go, those inside stay", u" C:\\My Data "_s, u"C:\\My Data"_s, passes},
-        {"blanks go from one that fails, too", u" Data "_s, u"Data"_s, invalid},
-        {"a tab at the end stays", u"C:\\Data\t "_s, u"C:\\Data\t"_s, passes},
-        Kept("a tab at the start is no letter", u"\tC:\\Data"_s, invalid),
-        Kept("a bare root, in lower case", u"c:\\"_s),
-        Kept("the first letter", u"A:\\"_s),
-        Kept("the last letter", u"Z:\\"_s),
-        Kept("the first small letter", u"a:\\"_s),
-        Kept("the last small letter", u"z:\\"_s),
-        Kept("what stands before the letters", u"@:\\"_s, invalid),
-        Kept("what stands behind the letters", u"[:\\"_s, invalid),
-        Kept("what stands before the small letters", u"`:\\"_s, invalid),
-        Kept("what stands behind the small letters", u"{:\\"_s, invalid),
-        Kept("a digit", u"1:\\x"_s, invalid),
-        Kept("a letter beyond ASCII", u"\u00C4:\\x"_s, invalid),
-        Kept("a letter alone", u"C"_s, invalid),
-        Kept("a drive without a root", u"C:"_s, invalid),
-        Kept("a drive and a relative path", u"C:Data"_s, invalid),
-        Kept("a drive letter without its colon", u"C\\Data"_s, invalid),
-        Kept("a root without a drive", u"\\Data"_s, invalid),
-        Kept("a server", u"\\\\server\\share"_s, invalid),
-        Kept("a backslash at the end", u"C:\\Data\\"_s),
-        Kept("two backslashes in a row", u"C:\\\\Data\\\\x"_s),
-        Kept("a second colon", u"C:\\Da:ta"_s, invalid),
-        Kept("a colon in the third place", u"C::\\"_s, invalid),
-        Kept("a double quote", u"C:\\Da\"ta"_s, invalid),
-        Kept("a double quote in the third place", u"C:\"Data"_s, invalid),
-        Kept("a double quote in the first place", u"\":\\Data"_s, invalid),
-        Kept("a double quote in the second place", u"C\"\\Data"_s, invalid),
-        Kept("a question mark", u"C:\\a?b"_s, invalid),
-        Kept("a greater-than", u"C:\\a>b"_s, invalid),
-        Kept("an asterisk", u"C:\\a*b"_s, invalid),
-        Kept("a slash", u"C:\\a/b"_s, invalid),
-        Kept("slashes for backslashes", u"C:/Data"_s, invalid),
-        Kept("a vertical bar", u"C:\\a|b"_s, invalid),
-        Kept("a less-than", u"C:\\a<b"_s, invalid),
-        Kept("other odd characters", u"C:\\[a]!#;,%\u00E9"_s),
-        Kept("any length", u"C:\\"_s + QString(1000, u'x')),
-    };
-    ExpectRows(ValidateAppDir, rows);
+    ExpectRows(ValidateAppDir, dataFolders);
 }
 
 TEST(FormRules, QuestionCount)

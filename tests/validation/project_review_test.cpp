@@ -37,62 +37,56 @@ const QString badFolder = u"Step3\t\tThis is not a valid directory name."_s;
 
 } // namespace
 
+using Flags = std::array<bool, 3>;
+const struct {
+    const char *what;
+    QString name, version, description;
+    int questions;
+    QString folder;
+    Flags failed;
+    QStringList entries;
+} reviews[] = {
+    {"nothing wrong", u"Survey"_s, u"1.0"_s, u"Birds"_s, 1, u"C:\\Data"_s, {}, {}},
+    {"nothing wrong with the most questions", u"Survey"_s, {}, {}, 128, u"C:\\"_s, {}, {}},
+    {"a new project", {}, {}, {}, 0, {}, Flags{true, true, true}, {noName, noQuestion, noFolder}},
+    {"everything",
+     u" "_s,
+     u"1 0"_s,
+     u"a\nb"_s,
+     129,
+     u"x"_s,
+     Flags{true, true, true},
+     {noName, spacesInVersion, returns, tooMany, badFolder}},
+    {"version and description under a valid name",
+     u"Survey"_s,
+     u"1 0"_s,
+     u"a\nb"_s,
+     1,
+     u"C:\\Data"_s,
+     Flags{true, false, false},
+     {spacesInVersion, returns}},
+    {"the description does not hide the name's failure",
+     {},
+     {},
+     u"Birds"_s,
+     1,
+     u"C:\\Data"_s,
+     Flags{true, false, false},
+     {noName}},
+    {"step 2 alone",
+     u"Survey"_s,
+     {},
+     {},
+     0,
+     u"C:\\Data"_s,
+     Flags{false, true, false},
+     {noQuestion}},
+    {"step 3 alone", u"Survey"_s, {}, {}, 1, u"Data"_s, Flags{false, false, true}, {badFolder}},
+};
+
 TEST(ProjectReview, ListsWhatFailsInTheOrderOfTheRules)
 {
-    using Flags = std::array<bool, 3>;
-    const struct {
-        const char *what;
-        QString name, version, description;
-        int questions;
-        QString folder;
-        Flags failed;
-        QStringList entries;
-    } rows[] = {
-        {"nothing wrong", u"Survey"_s, u"1.0"_s, u"Birds"_s, 1, u"C:\\Data"_s, {}, {}},
-        {"nothing wrong with the most questions", u"Survey"_s, {}, {}, 128, u"C:\\"_s, {}, {}},
-        {"a new project",
-         {},
-         {},
-         {},
-         0,
-         {},
-         Flags{true, true, true},
-         {noName, noQuestion, noFolder}},
-        {"everything",
-         u" "_s,
-         u"1 0"_s,
-         u"a\nb"_s,
-         129,
-         u"x"_s,
-         Flags{true, true, true},
-         {noName, spacesInVersion, returns, tooMany, badFolder}},
-        {"version and description under a valid name",
-         u"Survey"_s,
-         u"1 0"_s,
-         u"a\nb"_s,
-         1,
-         u"C:\\Data"_s,
-         Flags{true, false, false},
-         {spacesInVersion, returns}},
-        {"the description does not hide the name's failure",
-         {},
-         {},
-         u"Birds"_s,
-         1,
-         u"C:\\Data"_s,
-         Flags{true, false, false},
-         {noName}},
-        {"step 2 alone",
-         u"Survey"_s,
-         {},
-         {},
-         0,
-         u"C:\\Data"_s,
-         Flags{false, true, false},
-         {noQuestion}},
-        {"step 3 alone", u"Survey"_s, {}, {}, 1, u"Data"_s, Flags{false, false, true}, {badFolder}},
-    };
-    for (const auto &row : rows) {
+    for (const auto &row : reviews) {
         SCOPED_TRACE(row.what);
         Project project = ProjectWith(row.questions);
         project.FormName = row.name;

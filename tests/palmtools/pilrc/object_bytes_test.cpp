@@ -18,62 +18,63 @@ std::string EncodedAs(const FormObject &object)
     return bytes;
 }
 
+const struct {
+    const char *what;
+    FormObject object;
+    int directoryKind;
+    std::string bytes;
+} plainObjects[] = {
+    {"title, even",
+     {.kind = Kind::title, .texts = {"abc"}},
+     9,
+     FromHex("000000000000000000000000 61626300")},
+    {"title, padded",
+     {.kind = Kind::title, .texts = {"Finder"}},
+     9,
+     FromHex("000000000000000000000000 46696E646572 0000")},
+    {"label",
+     {.kind = Kind::label, .number = 1, .place = place, .texts = {"a"}, .font = 1},
+     8,
+     FromHex("0001 0001 0002 8000 01 0000000000 6100")},
+    {"label, not usable",
+     {.kind = Kind::label, .number = 0xFFFF, .place = place, .texts = {""}, .usable = false},
+     8,
+     FromHex("FFFF 0001 0002 0000 00 0000000000 0000")},
+    {"popup list",
+     {.kind = Kind::popupList, .number = 2, .listNumber = 3},
+     10,
+     FromHex("0002 0003")},
+    {"indicator",
+     {.kind = Kind::graffitiIndicator, .place = {142, 126, 9, 10}},
+     11,
+     FromHex("008E 007E")},
+    {"gadget",
+     {.kind = Kind::gadget, .number = 2, .place = place},
+     12,
+     FromHex("0002 C000 0001 0002 0103 FFFC 0000000000000000")},
+    {"gadget, not usable",
+     {.kind = Kind::gadget, .number = 2, .place = place, .usable = false},
+     12,
+     FromHex("0002 4000 0001 0002 0103 FFFC 0000000000000000")},
+    {"scroll bar",
+     {.kind = Kind::scrollBar,
+      .number = 3,
+      .place = place,
+      .value = 50,
+      .min = -1,
+      .max = 100,
+      .pageSize = 10},
+     13,
+     FromHex("0001 0002 0103 FFFC 0003 80 00 0032 FFFF 0064 000A 00000000")},
+    {"scroll bar, not usable",
+     {.kind = Kind::scrollBar, .number = 3, .place = place, .usable = false},
+     13,
+     FromHex("0001 0002 0103 FFFC 0003 00 00 0000 0000 0000 0000 00000000")},
+};
+
 TEST(ObjectBytes, LieAsTheHandheldReadsThem)
 {
-    const struct {
-        const char *what;
-        FormObject object;
-        int directoryKind;
-        std::string bytes;
-    } rows[] = {
-        {"title, even",
-         {.kind = Kind::title, .texts = {"abc"}},
-         9,
-         FromHex("000000000000000000000000 61626300")},
-        {"title, padded",
-         {.kind = Kind::title, .texts = {"Finder"}},
-         9,
-         FromHex("000000000000000000000000 46696E646572 0000")},
-        {"label",
-         {.kind = Kind::label, .number = 1, .place = place, .texts = {"a"}, .font = 1},
-         8,
-         FromHex("0001 0001 0002 8000 01 0000000000 6100")},
-        {"label, not usable",
-         {.kind = Kind::label, .number = 0xFFFF, .place = place, .texts = {""}, .usable = false},
-         8,
-         FromHex("FFFF 0001 0002 0000 00 0000000000 0000")},
-        {"popup list",
-         {.kind = Kind::popupList, .number = 2, .listNumber = 3},
-         10,
-         FromHex("0002 0003")},
-        {"indicator",
-         {.kind = Kind::graffitiIndicator, .place = {142, 126, 9, 10}},
-         11,
-         FromHex("008E 007E")},
-        {"gadget",
-         {.kind = Kind::gadget, .number = 2, .place = place},
-         12,
-         FromHex("0002 C000 0001 0002 0103 FFFC 0000000000000000")},
-        {"gadget, not usable",
-         {.kind = Kind::gadget, .number = 2, .place = place, .usable = false},
-         12,
-         FromHex("0002 4000 0001 0002 0103 FFFC 0000000000000000")},
-        {"scroll bar",
-         {.kind = Kind::scrollBar,
-          .number = 3,
-          .place = place,
-          .value = 50,
-          .min = -1,
-          .max = 100,
-          .pageSize = 10},
-         13,
-         FromHex("0001 0002 0103 FFFC 0003 80 00 0032 FFFF 0064 000A 00000000")},
-        {"scroll bar, not usable",
-         {.kind = Kind::scrollBar, .number = 3, .place = place, .usable = false},
-         13,
-         FromHex("0001 0002 0103 FFFC 0003 00 00 0000 0000 0000 0000 00000000")},
-    };
-    for (const auto &row : rows) {
+    for (const auto &row : plainObjects) {
         SCOPED_TRACE(row.what);
         EXPECT_EQ(EncodedAs(row.object), row.bytes);
         EXPECT_EQ(DirectoryKind(row.object.kind), row.directoryKind);

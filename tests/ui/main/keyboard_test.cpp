@@ -50,6 +50,29 @@ void TypeQuestion(Typist &typist, const Project &project, const QuestionRow &que
     typist.Await("another one?", BoxAsks);
 }
 
+void TypeFormInformation(Typist &typist, const Project &project)
+{
+    typist.Text(project.FormName);
+    typist.TabTo("txtAppVersion");
+    typist.Text(project.FormVersion);
+    typist.TabTo("txtAppDesc");
+    typist.Text(project.Description);
+    typist.TabTo("cmd1_Next");
+    typist.Key(Qt::Key_Space);
+}
+
+void ReviewAndCreate(Typist &typist)
+{
+    typist.TabTo("cmdReviewForm");
+    typist.Key(Qt::Key_Space);
+    typist.Await("that it is valid", BoxAsks);
+    typist.Key(Qt::Key_Return);
+    typist.TabTo("cmdCreateForm");
+    typist.Key(Qt::Key_Space);
+    typist.Await("that it was created", BoxAsks);
+    typist.Key(Qt::Key_Return);
+}
+
 TEST(Keyboard, DesignsSavesAndCreatesAWholeInspection)
 {
     const Result<Project> loaded = LoadProject(example);
@@ -61,13 +84,7 @@ TEST(Keyboard, DesignsSavesAndCreatesAWholeInspection)
     };
 
     Typist typist;
-    typist.Text(project.FormName);
-    typist.TabTo("txtAppVersion");
-    typist.Text(project.FormVersion);
-    typist.TabTo("txtAppDesc");
-    typist.Text(project.Description);
-    typist.TabTo("cmd1_Next");
-    typist.Key(Qt::Key_Space);
+    TypeFormInformation(typist, project);
     typist.TabTo("DataGrid1");
     typist.Key(Qt::Key_Insert);
     const auto &questions = project.source.Questions().Rows();
@@ -85,14 +102,7 @@ TEST(Keyboard, DesignsSavesAndCreatesAWholeInspection)
     typist.Key(Qt::Key_S, Qt::ControlModifier);
     typist.Text(u"SiteVisit"_s);
     typist.Key(Qt::Key_Return);
-    typist.TabTo("cmdReviewForm");
-    typist.Key(Qt::Key_Space);
-    typist.Await("that it is valid", BoxAsks);
-    typist.Key(Qt::Key_Return);
-    typist.TabTo("cmdCreateForm");
-    typist.Key(Qt::Key_Space);
-    typist.Await("that it was created", BoxAsks);
-    typist.Key(Qt::Key_Return);
+    ReviewAndCreate(typist);
     ASSERT_TRUE(typist.Run());
 
     EXPECT_EQ(BytesOf(designer.projects + u"/SiteVisit.vmp"_s), BytesOf(example));
