@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# few_words_test.sh VELLUMO PROJECT: whatever the programs lack, standard error has a line of theirs,
-# and none of the toolkit's about its own workings.
+# few_words_test.sh VELLUMO PROJECT few-descriptors|enough-descriptors: whatever the programs lack,
+# standard error has a line of theirs, and none of the toolkit's about its own workings.
 set -euo pipefail
 
-vellumo=$1 project=$2
+vellumo=$1 project=$2 descriptors=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 unset QT_LOGGING_RULES QT_DEBUG_PLUGINS
@@ -32,10 +32,12 @@ with_descriptors() {
 # Where a person may not lay a core file down, an abort is an abort all the same.
 ulimit -c 0
 
-told 4 "$project: cannot start pilrc *: Too many open files" \
-    with_descriptors 9 "$vellumo" create -o "$work" "$project"
-told 5 "$work/a.rcp: Too many open files" \
-    with_descriptors 7 "$vellumo" script "$project" -o "$work/a.rcp"
+if [ "$descriptors" = few-descriptors ]; then
+    told 4 "$project: cannot start pilrc *: Too many open files" \
+        with_descriptors 9 "$vellumo" create -o "$work" "$project"
+    told 5 "$work/a.rcp: Too many open files" \
+        with_descriptors 7 "$vellumo" script "$project" -o "$work/a.rcp"
+fi
 mkdir "$work/alone"
 cp "$vellumo" "$work/alone"
 told 4 "$project: cannot start pilrc *: No such file or directory" \
@@ -48,5 +50,7 @@ designer=$(dirname -- "$vellumo")/vellumo-designer
 told 1 'vellumo-designer: No window can be opened here: is there a display?' \
     env DISPLAY= WAYLAND_DISPLAY= QT_QPA_PLATFORM=xcb "$designer"
 export QT_QPA_PLATFORM=offscreen
-told 1 'vellumo-designer: Too many open files' with_descriptors 8 "$designer" "$project"
+if [ "$descriptors" = few-descriptors ]; then
+    told 1 'vellumo-designer: Too many open files' with_descriptors 8 "$designer" "$project"
+fi
 printf 'passed\n'
