@@ -20,7 +20,8 @@ constexpr Font fonts[] = {
 quint32 TextWidth(QByteArrayView text, quint32 font)
 {
     const auto row = std::ranges::find(fonts, font, &Font::number);
-    Q_ASSERT(row != std::end(fonts));
+    if (row == std::end(fonts))
+        return 0;
     quint32 width = 0;
     for (const char c : text)
         width += row->widths[static_cast<uchar>(c)];
