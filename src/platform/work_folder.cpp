@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <chrono>
+#include <filesystem>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -12,6 +13,21 @@ namespace vellumo {
 namespace {
 
 constexpr QLatin1StringView prefix{"vellumo-work-"};
+
+// The sticky bit means nothing in a folder that nobody else may enter, so nobody sets it there: it
+// tells ours from a folder of the user's that only has such a name.
+constexpr auto mark = std::filesystem::perms::owner_all | std::filesystem::perms::sticky_bit;
+
+std::filesystem::path NativePath(const QString &path)
+{
+    return QFile(path).filesystemFileName();
+}
+
+bool IsMarked(const QString &path)
+{
+    std::error_code code;
+    return std::filesystem::status(NativePath(path), code).permissions() == mark;
+}
 
 /// As it is named: of a folder that is not there the toolkit has no name.
 QString TemporaryFolder()
@@ -52,16 +68,23 @@ void WorkFolder::Make()
         return;
     }
     Result<OwnedFolder> folder = OwnedFolder::Make(temporary, prefix);
-    if (folder)
-        m_folder = std::move(*folder);
-    else
+    if (!folder) {
         m_state = folder.error();
+        return;
+    }
+    m_folder = std::move(*folder);
+    std::error_code code; // where there are no such rights, it is not taken for a left-over
+    std::filesystem::permissions(NativePath(m_folder->path()), mark, code);
 }
 
 void WorkFolder::RemoveLeft()
 {
-    for (OwnedFolder &left : OwnedFolder::TakeOver(TemporaryFolder(), prefix))
-        left.Remove();
+    for (OwnedFolder &left : OwnedFolder::TakeOver(TemporaryFolder(), prefix)) {
+        if (IsMarked(left.path()))
+            left.Remove();
+        else
+            QDir().rmdir(left.path()); // one that was not marked yet is empty
+    }
 }
 
 } // namespace vellumo

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
@@ -43,15 +47,27 @@ TEST_F(AWorkFolder, GoesWhereASignalUndoesEverything)
 
 TEST_F(AWorkFolder, OthersRemoveItOnlyWhenItsProgramIsGone)
 {
-    const WorkFolder living;
-    {
-        Result<OwnedFolder> left = OwnedFolder::Make(m_temporary.path(), u"vellumo-work-"_s);
-        ASSERT_TRUE(left);
-        ASSERT_TRUE(WriteBytes(left->path() + u"/script.rcp"_s, "x"));
+    const pid_t killed = fork();
+    if (killed == 0) {
+        const WorkFolder work;
+        _exit(WriteBytes(work.path() + u"/script.rcp"_s, "x") ? 0 : 1);
     }
+    int status = 1;
+    ASSERT_EQ(waitpid(killed, &status, 0), killed);
+    ASSERT_EQ(status, 0);
+    const WorkFolder living;
     ASSERT_EQ(NamesIn(m_temporary.path()).size(), 2);
     WorkFolder::RemoveLeft();
     EXPECT_EQ(m_temporary.path() + u'/' + NamesIn(m_temporary.path()).join(u", "), living.path());
+}
+
+TEST_F(AWorkFolder, IsNotTheUsersOwnOfSuchAName)
+{
+    const QString own = m_temporary.path() + u"/vellumo-work-season"_s;
+    ASSERT_EQ(mkdir(QFile::encodeName(own), 0700), 0);
+    ASSERT_TRUE(WriteBytes(own + u"/survey.vmp"_s, "a season's work"));
+    WorkFolder::RemoveLeft();
+    EXPECT_EQ(BytesOf(own + u"/survey.vmp"_s), "a season's work");
 }
 
 TEST_F(AWorkFolder, SaysWhereNoneCanBeMade)
