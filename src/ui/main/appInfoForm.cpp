@@ -148,9 +148,15 @@ void appInfoForm::OpenProject(const QString &path)
         m_document.SetProjectChanged(false); // nothing to rescue while the box is up
         ShowCritical(this, invalidProjectFile, loaded.error());
     }
+    ShowOpened(false);
+}
+
+/// Last comes whether it is unsaved: a review and a step that is left can count as changes.
+void appInfoForm::ShowOpened(bool isUnsaved)
+{
     Review(false);
     SelectStep(1);
-    m_document.SetProjectChanged(false);
+    m_document.SetProjectChanged(isUnsaved);
 }
 
 void appInfoForm::OfferRescue()
@@ -160,9 +166,7 @@ void appInfoForm::OfferRescue()
         return;
     m_document.Replace(std::move(wanted->snapshot.project), wanted->snapshot.path,
                        wanted->snapshot.fingerprint);
-    Review(false);
-    SelectStep(1);
-    m_document.SetProjectChanged(true);
+    ShowOpened(true);
     m_rescue.Adopt(std::move(wanted->copy));
 }
 

@@ -66,6 +66,7 @@ private:
 
     void New();
     void Open();
+    void ShowOpened(bool isUnsaved);
     void Exit();
     void ForgetReview();
 
