@@ -3,17 +3,25 @@
 #include <QInputDialog>
 #include <QLabel>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
-/// The box's own text format does not hold for this part of it.
+/// The box's own text format does not hold for this part of it, nor does its width: a short text
+/// above would have a path broken into pieces.
 void ShowBelow(QMessageBox &box, const QString &informative)
 {
+    constexpr int widest = 400;
     box.setInformativeText(informative);
-    if (auto *label = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
-        label->setTextFormat(Qt::PlainText);
+    auto *label = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
+    if (!label)
+        return;
+    label->setTextFormat(Qt::PlainText);
+    const QSize whole = label->fontMetrics().size(0, informative);
+    label->setMinimumWidth(std::min(whole.width(), widest));
 }
 
 } // namespace
