@@ -19,9 +19,8 @@ QString MessageOfSuccess(const CreateReport &report, const BuildFolders &folders
 /// pass that did not come to that end.
 QString MessageOfFailure(const CreateReport &report);
 
-/// Why it failed, to stand below one of these two messages: the error of a pass that did not come
-/// to its end, and what the tools that failed said, in a few lines each. Empty where nothing
-/// failed.
+/// Why it failed, to stand below a message: the error of a pass that did not come to its end, and
+/// what the tools that failed said, in a few lines each. Empty where nothing failed.
 QString ReasonOf(const CreateReport &report);
 
 /// How a tool failed, with its own words where it had any; empty where it succeeded.

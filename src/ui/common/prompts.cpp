@@ -49,13 +49,17 @@ void ShowInformation(QWidget *parent, const QString &message)
 
 void ShowCritical(QWidget *parent, const QString &message)
 {
-    ShowBox(parent, {.text = message, .icon = QMessageBox::Critical});
+    ShowCritical(parent, message, QString());
+}
+
+void ShowCritical(QWidget *parent, const QString &message, const QString &informative)
+{
+    ShowBox(parent, {.text = message, .icon = QMessageBox::Critical, .informative = informative});
 }
 
 void ShowCritical(QWidget *parent, const QString &message, const Error &error)
 {
-    ShowBox(parent,
-            {.text = message, .icon = QMessageBox::Critical, .informative = Describe(error)});
+    ShowCritical(parent, message, Describe(error));
 }
 
 QString AskYesNo(QWidget *parent, const QString &message, const QString &informative,

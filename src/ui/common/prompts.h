@@ -33,7 +33,8 @@ void ShowExclamation(QWidget *parent, const QString &message);
 void ShowInformation(QWidget *parent, const QString &message);
 void ShowCritical(QWidget *parent, const QString &message);
 
-/// The same with file and reason of the error below the message.
+/// The same with why it is so below the message: a text, or file and reason of an error.
+void ShowCritical(QWidget *parent, const QString &message, const QString &informative);
 void ShowCritical(QWidget *parent, const QString &message, const Error &error);
 
 /// "Yes" or "No"; the default is what closing the box means.

@@ -3,6 +3,7 @@
 #include "palmgen/build_with_tools.h"
 #include "palmgen/create_messages.h"
 #include "ui/common/prompts.h"
+#include "ui/main/created_database.h"
 
 #include <QGuiApplication>
 #include <QScopeGuard>
@@ -31,15 +32,14 @@ void CreateDatabase(const Project &project, const Environment &environment, QWid
 
     for (const QString &message : MessagesOfTools(report))
         ShowBox(window, {.text = message, .icon = QMessageBox::Warning, .title = u"Error"_s});
-    const bool failed = report.end != CreateEnd::BuildEnded;
-    // A success is told, by intention, also after a tool that failed: what it said stands below.
-    ShowBox(window, {.text = failed ? MessageOfFailure(report) : MessageOfSuccess(report, folders),
-                     .icon = failed ? QMessageBox::Critical : QMessageBox::Information,
-                     .informative = ReasonOf(report)});
-    if (failed)
-        return;
+    if (report.end != CreateEnd::BuildEnded)
+        return ShowCritical(window, MessageOfFailure(report), ReasonOf(report));
+    // Success is told, by intention, whatever the tools said; only then the database is looked at.
+    ShowInformation(window, MessageOfSuccess(report, folders));
     environment.open(report.database);
     environment.open(folders.databases);
+    if (const auto fault = FaultOfCreated(report, project))
+        ShowCritical(window, fault->text, fault->reasons);
 }
 
 } // namespace vellumo

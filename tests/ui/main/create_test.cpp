@@ -46,18 +46,30 @@ TEST(Create, MakesTheDatabaseTellsWhereItIsAndOpensIt)
     EXPECT_TRUE(NamesIn(designer.application).isEmpty());
 }
 
-TEST(Create, TellsOfSuccessWhateverTheToolsSaid)
+TEST(Create, TellsOfSuccessWhateverTheToolsSaidAndThenThatThereIsNoDatabase)
 {
     Designer designer(sample);
     designer.runTool = [](const ToolCall &) {
         return ToolRun{.commandLine = u"tool"_s, .end = ToolEnd::Failed, .reason = u"crashed"_s};
     };
-    const PromptScript prompts({u"OK"_s, u"OK"_s});
+    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s});
     ReviewAndCreate(designer);
-    ASSERT_EQ(prompts.boxes().size(), 2u);
+    ASSERT_EQ(prompts.boxes().size(), 3u);
     EXPECT_EQ(prompts.boxes()[1].icon, QMessageBox::Information);
     EXPECT_TRUE(prompts.boxes()[1].text.contains(u".Prc has been created."_s));
-    EXPECT_EQ(prompts.boxes()[1].informative, u"failed (crashed): tool\nfailed (crashed): tool"_s);
+    EXPECT_EQ(prompts.boxes()[1].informative, QString());
+    EXPECT_EQ(designer.opened.size(), 2);
+
+    const SeenBox &fault = prompts.boxes()[2];
+    EXPECT_EQ(fault.icon, QMessageBox::Critical);
+    EXPECT_EQ(fault.title, u"Vellumo Designer"_s);
+    EXPECT_EQ(fault.text, u"The database is not what your Vellsheet asks for. Do not install it "
+                          "onto your Palm handheld."_s);
+    EXPECT_EQ(fault.informative,
+              designer.projects +
+                  u"/SiteVisit.prc: No such file or directory\n"
+                  "failed (crashed): tool\nfailed (crashed): tool\n"
+                  "Mend what these lines name, then review and create the Vellsheet again."_s);
 }
 
 TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
@@ -66,9 +78,9 @@ TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
     designer.runTool = [](const ToolCall &call) {
         return ToolRun{.commandLine = call.commandLine, .reason = u"No such file"_s};
     };
-    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s});
+    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s});
     ReviewAndCreate(designer);
-    ASSERT_EQ(prompts.boxes().size(), 4u);
+    ASSERT_EQ(prompts.boxes().size(), 5u);
     for (const int tool : {1, 2}) {
         const SeenBox &box = prompts.boxes()[static_cast<size_t>(tool)];
         EXPECT_EQ(box.title, u"Error"_s);
@@ -78,6 +90,49 @@ TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
                                                   : u"Error starting task build-prc"_s));
     }
     EXPECT_EQ(prompts.boxes()[3].icon, QMessageBox::Information);
+    EXPECT_TRUE(
+        prompts.boxes()[4].informative.contains(u"\nInstall Vellumo Designer again, or put "_s));
+}
+
+/// Runs the real tools, and then changes what they left.
+auto ToolsThatLeave(const Designer &designer, std::function<void(QByteArray &database)> change)
+{
+    return [&designer, change = std::move(change)](const ToolCall &call) {
+        const ToolRun run = RunRealTool(call);
+        const QString path = designer.projects + u"/SiteVisit.prc"_s;
+        if (QByteArray bytes = QFile::exists(path) ? BytesOf(path) : QByteArray();
+            !bytes.isEmpty()) {
+            change(bytes);
+            EXPECT_TRUE(WriteBytes(path, bytes));
+        }
+        return run;
+    };
+}
+
+TEST(Create, TellsInWhatTheDatabaseDiffers)
+{
+    Designer designer(sample);
+    designer.runTool = ToolsThatLeave(designer, [](QByteArray &database) {
+        database.replace("Overhead lines", "Overhead LINES");
+    });
+    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+    ASSERT_EQ(prompts.boxes().size(), 3u);
+    const SeenBox &fault = prompts.boxes()[2];
+    EXPECT_EQ(fault.icon, QMessageBox::Critical);
+    EXPECT_TRUE(fault.informative.contains(u"Overhead LINES"_s)) << fault.informative.toStdString();
+}
+
+TEST(Create, TellsOfADatabaseThatCannotBeRead)
+{
+    Designer designer(sample);
+    designer.runTool =
+        ToolsThatLeave(designer, [](QByteArray &database) { database.truncate(50); });
+    const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s});
+    ReviewAndCreate(designer);
+    ASSERT_EQ(prompts.boxes().size(), 3u);
+    EXPECT_TRUE(
+        prompts.boxes()[2].informative.startsWith(designer.projects + u"/SiteVisit.prc: "_s));
 }
 
 TEST(Create, FailsWithOneBoxWhereTheScriptCannotBeWritten)
@@ -110,7 +165,7 @@ TEST(Create, NamesTheFileThatCannotBeWritten)
     Designer designer(sample);
     const PromptScript prompts({u"OK"_s, u"OK"_s});
     QFile::setPermissions(designer.folder.path(), QFile::Permissions(0x7755));
-    QFile::setPermissions(designer.application, QFile::Permissions(0x7555));
+    QFile::setPermissions(designer.application, QFile::Permissions(0x5555));
     {
         const AsOrdinaryUser ordinary;
         ReviewAndCreate(designer);
