@@ -1,6 +1,6 @@
 #include "readback/delivered_texts.h"
 
-#include "readback/script_text.h"
+#include "handheld/script_text.h"
 
 #include <QHash>
 #include <QStringList>
@@ -9,17 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
-
-/// The items are joined with commas and split at all of them; an empty whole is no item.
-QList<QByteArray> DeliverItems(const QByteArray &joined)
-{
-    QList<QByteArray> items;
-    if (!joined.isEmpty()) {
-        for (const QByteArray &written : joined.split(','))
-            items.append(InterpretScriptText(written));
-    }
-    return items;
-}
 
 QByteArray DeliverFolder(QByteArray folder)
 {
@@ -66,7 +55,7 @@ private:
                 .title = AsWritten(row.Title, {"title"_L1, number}),
                 .text = AsWording(row.Question, {"question text"_L1, number}),
                 .columnName = AsWritten(row.ColumnName, {"column name"_L1, number}),
-                .items = DeliverItems(Encoded(items.join(u','), {"item list"_L1, number}))};
+                .items = InterpretItems(Encoded(items.join(u','), {"item list"_L1, number}))};
     }
 
     QByteArray Encoded(QStringView text, const TextPlace &place) const

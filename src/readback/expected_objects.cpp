@@ -1,6 +1,6 @@
 #include "readback/expected_objects.h"
 
-#include "readback/font_widths.h"
+#include "handheld/font_widths.h"
 #include "readback/form_flags.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 namespace vellumo {
 
@@ -13,5 +14,9 @@ QByteArray InterpretScriptText(QByteArrayView written);
 /// A text as those with free wording are written into a script: a backslash before every quote, in
 /// place of those that stand before it already. Other backslashes stay single.
 QByteArray WithEscapedQuotes(QByteArrayView text);
+
+/// What the items of a question stand for, which a script has joined with commas: they are split at
+/// all of them, those within an item too. An empty whole is no item.
+QList<QByteArray> InterpretItems(const QByteArray &joined);
 
 } // namespace vellumo

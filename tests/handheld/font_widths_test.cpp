@@ -1,4 +1,4 @@
-#include "readback/font_widths.h"
+#include "handheld/font_widths.h"
 
 #include "support/files.h"
 

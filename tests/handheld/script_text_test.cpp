@@ -1,4 +1,4 @@
-#include "readback/script_text.h"
+#include "handheld/script_text.h"
 
 #include "support/print.h"
 
@@ -73,4 +73,11 @@ TEST(ScriptText, EscapesQuotes)
     for (const auto &row : rows)
         EXPECT_EQ(WithEscapedQuotes(row.text), row.escaped);
     EXPECT_EQ(WithEscapedQuotes(QByteArray(1000000, '\\') + '"'), "\\\"");
+}
+
+TEST(ScriptText, SplitsItemsAtEveryComma)
+{
+    EXPECT_EQ(InterpretItems(""), QList<QByteArray>());
+    EXPECT_EQ(InterpretItems("a"), QList<QByteArray>{"a"});
+    EXPECT_EQ(InterpretItems("a, b,,c\\,d,"), (QList<QByteArray>{"a", " b", "", "c", "d", ""}));
 }

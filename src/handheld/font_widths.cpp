@@ -1,4 +1,4 @@
-#include "readback/font_widths.h"
+#include "handheld/font_widths.h"
 
 #include <algorithm>
 
@@ -10,9 +10,9 @@ struct Font {
     quint8 widths[256]; ///< pixels, by code
 };
 
-// A table of this room's own, though from the same figures as that which databases are made by.
+// Not the table that databases are made by, though from the same figures: they are checked by it.
 constexpr Font fonts[] = {
-#include "readback/font_widths.inc"
+#include "handheld/font_widths.inc"
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "readback/script_text.h"
+#include "handheld/script_text.h"
 
 #include <algorithm>
 #include <iterator>
@@ -96,6 +96,16 @@ QByteArray WithEscapedQuotes(QByteArrayView text)
         escaped.append(byte);
     }
     return escaped;
+}
+
+QList<QByteArray> InterpretItems(const QByteArray &joined)
+{
+    QList<QByteArray> items;
+    if (!joined.isEmpty()) {
+        for (const QByteArray &written : joined.split(','))
+            items.append(InterpretScriptText(written));
+    }
+    return items;
 }
 
 } // namespace vellumo
