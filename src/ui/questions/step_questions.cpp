@@ -1,9 +1,11 @@
 #include "ui/questions/step_questions.h"
 
 #include "editing/question_list.h"
+#include "handheld/screen_geometry.h"
 #include "help/help_topics.h"
 #include "ui/common/pictures.h"
 #include "ui/common/prompts.h"
+#include "ui/questions/delivery_notice.h"
 #include "ui/questions/frmWizard.h"
 #include "ui/questions/propertyForm.h"
 #include "ui/questions/question_model.h"
@@ -11,7 +13,9 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +30,8 @@ StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
     ui->setupUi(this);
     ui->scrollArea->viewport()->setAutoFillBackground(false); // the tab's ground, as on other steps
     ui->content->setAutoFillBackground(false);
+    ui->deliveryArea->viewport()->setAutoFillBackground(false);
+    ui->lblDelivery->setAutoFillBackground(false);
     ConnectHelp({{ui->lblAdd, HelpContext::questions},
                  {ui->lblEdit, HelpContext::questions},
                  {ui->lblDelete, HelpContext::questions},
@@ -70,7 +76,10 @@ void StepQuestions::ConnectGrid()
     connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::Edit);
     connect(&document(), &ProjectDocument::QuestionsChanged, this,
             &StepQuestions::SelectCurrentRow);
-    connect(&document(), &ProjectDocument::Replaced, this, [this] { ui->previewBox->Show({}); });
+    connect(&document(), &ProjectDocument::Replaced, this, [this] {
+        ui->previewBox->Show({});
+        ShowNotice({});
+    });
 }
 
 bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
@@ -172,8 +181,19 @@ void StepQuestions::RefreshPreview()
 {
     const auto preview = PreviewOf(document().source());
     ui->previewBox->Show(preview);
+    const int position = preview ? static_cast<int>(document().source().GetPosition()) + 1 : 0;
+    ShowNotice(NoticeOf(document().project(), position));
     if (preview && !preview->type)
         ShowCritical(window(), u"This type is wrong!"_s);
+}
+
+void StepQuestions::ShowNotice(const DeliveryNotice &notice)
+{
+    ui->lblDelivery->setText(notice.line);
+    ui->lblDelivery->setAccessibleDescription(notice.all);
+    // Tool tips take for markup what looks like it.
+    ui->lblDelivery->setToolTip(notice.all.isEmpty() ? QString()
+                                                     : Qt::convertFromPlainText(notice.all));
 }
 
 void StepQuestions::RefreshAfterClick()
@@ -192,6 +212,10 @@ void StepQuestions::FollowGrid(const QModelIndex &current)
 
 void StepQuestions::LayOut()
 {
+    // Of a window that is larger than at the start, the preview takes its share.
+    constexpr QSize start(860, 620);
+    const QSize more = (window()->size() - start).expandedTo({0, 0});
+    ui->previewBox->SetSide(screen::width + std::min(more.width() / 3, more.height()));
     ui->content->resize(
         ui->scrollArea->maximumViewportSize().expandedTo(ui->content->minimumSizeHint()));
     LayOutColumns();

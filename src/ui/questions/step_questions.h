@@ -7,6 +7,7 @@
 namespace vellumo {
 
 class QuestionModel;
+struct DeliveryNotice;
 namespace Ui {
 class StepQuestions;
 }
@@ -43,6 +44,7 @@ private:
     void SelectCurrentRow();
     void LayOutColumns();
     void RefreshPreview();
+    void ShowNotice(const DeliveryNotice &notice);
     void RefreshAfterClick();
     void FollowGrid(const QModelIndex &current);
 
