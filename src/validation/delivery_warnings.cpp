@@ -27,9 +27,27 @@ bool EndsInEscape(QStringView text)
     return (last - text.rbegin()) % 2 == 1;
 }
 
+constexpr QLatin1StringView escapes =
+    "a backslash starts an escape in the script, so it will not arrive as typed"_L1;
+
 constexpr TextCheck backslash = {
     "backslash"_L1, [](QStringView text) { return text.contains(u'\\') && !EndsInEscape(text); },
-    "a backslash starts an escape in the script, so it will not arrive as typed"_L1};
+    escapes};
+
+/// Whether the text has an escape other than \n; it does not end in one that is incomplete.
+bool HasOtherEscapes(QStringView text)
+{
+    for (qsizetype at = text.indexOf(u'\\'); at >= 0; at = text.indexOf(u'\\', at + 2)) {
+        if (text[at + 1] != u'n')
+            return true;
+    }
+    return false;
+}
+
+// In a question, \n is what breaks its line on the handheld, and typed for that.
+constexpr TextCheck backslashInQuestion = {
+    "backslash"_L1, [](QStringView text) { return !EndsInEscape(text) && HasOtherEscapes(text); },
+    escapes};
 
 constexpr TextCheck backslashAtEnd = {
     "backslash"_L1, EndsInEscape,
@@ -51,6 +69,7 @@ constexpr TextCheck comma = {"comma-in-item"_L1,
 // The review lets neither a backslash nor a double quote into the form name.
 constexpr TextCheck nameChecks[] = {lineBreak};
 constexpr TextCheck escapedTextChecks[] = {backslash, backslashAtEnd, lineBreak};
+constexpr TextCheck questionChecks[] = {backslashInQuestion, backslashAtEnd, lineBreak};
 constexpr TextCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak};
 constexpr TextCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak, comma};
 
@@ -108,7 +127,7 @@ private:
         if (const int other = EarlierUse(m_columnNames, question.ColumnName, position))
             Warn("duplicate-column-name"_L1, {"column name"_L1, position}, question.ColumnName,
                  u"question %1 has the same column name"_s.arg(other));
-        CheckText(escapedTextChecks, question.Question, {"question text"_L1, position});
+        CheckText(questionChecks, question.Question, {"question text"_L1, position});
         if (!TypeNamed(question.Type))
             Warn("unknown-type"_L1, {"type"_L1, position}, question.Type,
                  u"this is none of the question types, which breaks the build"_s);
@@ -176,11 +195,6 @@ private:
 };
 
 } // namespace
-
-QString Describe(const DeliveryWarning &warning)
-{
-    return Quote(warning.place, warning.text) + ": "_L1 + warning.reason;
-}
 
 std::vector<DeliveryWarning> FindDeliveryWarnings(const Project &project)
 {

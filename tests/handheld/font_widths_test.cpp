@@ -1,6 +1,6 @@
 #include "handheld/font_widths.h"
 
-#include "support/files.h"
+#include "handheld/letters.h"
 
 #include <gtest/gtest.h>
 
@@ -22,4 +22,22 @@ TEST(FontWidths, AddUp)
 {
     EXPECT_EQ(TextWidth("", 0), 0u);
     EXPECT_EQ(TextWidth("WiW", 0), 2 * TextWidth("W", 0) + TextWidth("i", 0));
+    EXPECT_EQ(TextWidth("WiW", 2), 0u) << "a font that the handheld does not have";
+}
+
+TEST(FontWidths, DrawTheEuroSignWiderThanItIsStored)
+{
+    EXPECT_EQ(TextWidth("\x80", 0), 5u);
+    EXPECT_EQ(TextWidth("\x80", 1), 6u);
+    EXPECT_EQ(DrawnWidth("\x80", 0), 8u);
+    EXPECT_EQ(DrawnWidth("\x80", 1), 9u);
+    EXPECT_EQ(DrawnWidth("\x80", 3), TextWidth("\x80", 3));
+    EXPECT_EQ(DrawnWidth("\x80\x80", 0), 16u);
+    for (const quint32 font : {0u, 1u, 3u}) {
+        for (int code = 0; code < 256; ++code) {
+            const QByteArray text = QByteArray("a") + static_cast<char>(code);
+            const quint32 more = code == 0x80 && font < 2 ? 3 : 0;
+            EXPECT_EQ(DrawnWidth(text, font), TextWidth(text, font) + more) << font << ' ' << code;
+        }
+    }
 }

@@ -94,6 +94,35 @@ TEST(DeliveryWarnings, OfBackslashesAndDoubleQuotes)
     }
 }
 
+TEST(DeliveryWarnings, LetALineBreakBeTypedIntoAQuestion)
+{
+    const QStringList none, backslash = {u"backslash"_s};
+    const struct {
+        QString typed;
+        QStringList codes; ///< of a question with this text
+    } rows[] = {
+        {u"a\\nb"_s, none},          {u"\\n"_s, none},           {u"a\\nb\\n\\nc"_s, none},
+        {u"a\\\\nb"_s, backslash},   {u"a\\nb\\"_s, backslash},  {u"a\\Nb"_s, backslash},
+        {u"a\\nb\\tc"_s, backslash}, {u"\\tb\\nc"_s, backslash},
+    };
+    const auto codesOf = [](const Project &project) {
+        QStringList found;
+        for (const DeliveryWarning &warning : FindDeliveryWarnings(project))
+            found << warning.code;
+        return found;
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.typed.toStdString());
+        EXPECT_EQ(codesOf(ProjectOf({{.Question = row.typed, .Type = text}})), row.codes);
+        EXPECT_EQ(codesOf(ProjectOf({{.Title = row.typed, .Type = text}})), backslash);
+        EXPECT_EQ(codesOf(ProjectOf({{.Type = pulldown}}, {{0, row.typed}, {0, u"b"_s}})),
+                  backslash);
+        Project project;
+        project.Description = row.typed;
+        EXPECT_EQ(codesOf(project), backslash);
+    }
+}
+
 TEST(DeliveryWarnings, OfALineBreakInTheFormName)
 {
     Project project;

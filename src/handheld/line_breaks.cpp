@@ -1,0 +1,48 @@
+#include "handheld/line_breaks.h"
+
+#include "handheld/font_widths.h"
+
+#include <algorithm>
+
+namespace vellumo {
+
+qsizetype FittingLength(QByteArrayView text, int width, quint32 font)
+{
+    qsizetype length = 0;
+    quint32 taken = 0;
+    for (; length < text.size(); ++length) {
+        taken += DrawnWidth(text.sliced(length, 1), font);
+        if (taken > static_cast<quint32>(width))
+            break;
+    }
+    return length;
+}
+
+QList<QByteArrayView> TypedLines(QByteArrayView text)
+{
+    QList<QByteArrayView> lines;
+    for (qsizetype end = text.indexOf('\n'); end >= 0; end = text.indexOf('\n')) {
+        lines.append(text.first(end));
+        text = text.sliced(end + 1);
+    }
+    lines.append(text);
+    return lines;
+}
+
+QList<QByteArrayView> WrappedLines(QByteArrayView line, int width, quint32 font)
+{
+    QList<QByteArrayView> lines;
+    for (;;) {
+        const qsizetype fitting = std::max<qsizetype>(FittingLength(line, width, font), 1);
+        if (fitting >= line.size())
+            break;
+        const qsizetype blank = line.first(fitting + 1).lastIndexOf(' ');
+        const qsizetype end = blank > 0 ? blank : fitting;
+        lines.append(line.first(end));
+        line = line.sliced(blank > 0 ? end + 1 : end);
+    }
+    lines.append(line);
+    return lines;
+}
+
+} // namespace vellumo

@@ -1,0 +1,85 @@
+#include "handheld/question_fit.h"
+
+#include "handheld/font_widths.h"
+#include "handheld/line_breaks.h"
+#include "handheld/screen_geometry.h"
+#include "platform/code_page.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+constexpr quint32 bold = 1;
+
+/// The end of a text, in quotation marks, as much as is needed to find it again.
+QString QuotedEnd(QByteArrayView text)
+{
+    constexpr qsizetype enough = 16;
+    return u"\"%1%2\""_s.arg(text.size() > enough ? u"..."_s : QString(),
+                             FromWindows1252(text.last(std::min(enough, text.size()))));
+}
+
+QString WideLine(QByteArrayView line, const QString &name)
+{
+    const QString misfit = LineMisfit(line, screen::questionWidth, bold);
+    if (misfit.isEmpty())
+        return {};
+    const bool leaves = DrawnWidth(line, bold) > quint32(screen::questionToEnd);
+    return u"%1 %2; %3"_s.arg(name, misfit,
+                              leaves ? u"the rest leaves the screen or wraps"_s
+                                     : u"a button covers the rest"_s);
+}
+
+/// The way out: a place for a line break where there is room for all the lines that it takes.
+QString WayOut(QByteArrayView text, int freeLines)
+{
+    QByteArrayView before;
+    qsizetype lines = 0;
+    for (const QByteArrayView line : TypedLines(text)) {
+        const auto parts = WrappedLines(line, screen::questionWidth, bold);
+        lines += parts.size();
+        if (parts.size() == 1 || !before.isEmpty())
+            continue;
+        if (line[parts.front().size()] != ' ')
+            break;
+        before = parts.front();
+    }
+    if (before.isEmpty() || lines > freeLines)
+        return u"it has to be shorter"_s;
+    return u"\\n in place of the blank after %1 breaks the line there"_s.arg(QuotedEnd(before));
+}
+
+} // namespace
+
+QString LineMisfit(QByteArrayView line, int width, quint32 font)
+{
+    const int more = static_cast<int>(DrawnWidth(line, font)) - width;
+    if (more <= 0)
+        return {};
+    return u"is %1 too wide and stops after %2"_s.arg(
+        more == 1 ? u"1 pixel"_s : u"%1 pixels"_s.arg(more),
+        QuotedEnd(line.first(FittingLength(line, width, font))));
+}
+
+QString QuestionMisfit(QByteArrayView text, int freeLines)
+{
+    const QList<QByteArrayView> typed = TypedLines(text);
+    QStringList parts;
+    qsizetype lines = 0;
+    for (qsizetype i = 0; i < typed.size(); ++i) {
+        lines += WrappedLines(typed[i], screen::questionWrapWidth, bold).size();
+        parts << WideLine(typed[i], typed.size() == 1 ? u"it"_s : u"line %1"_s.arg(i + 1));
+    }
+    if (lines > freeLines)
+        parts << u"in %1 lines it runs into the answer, as there is room for %2"_s.arg(lines).arg(
+            freeLines);
+    parts.removeAll(QString());
+    if (parts.isEmpty())
+        return {};
+    return (parts << WayOut(text, freeLines)).join("; "_L1);
+}
+
+} // namespace vellumo
