@@ -23,7 +23,7 @@ constexpr Command commands[] = {
     {.name = "review"_L1,
      .synopsis = "PROJECT..."_L1,
      .help = "Tells what is wrong with each project, as the designer's error list has it,\n"
-             "and then what would not arrive on the handheld as typed.\n"_L1,
+             "and then what would not arrive on the handheld as typed or fit its screen.\n"_L1,
      .shape = {.mostInputs = anyNumber, .whichInput = whichProject},
      .run = ReviewProjects},
     {.name = "create"_L1,

@@ -17,6 +17,7 @@ struct Notice {
     int line = 0;     ///< from 1, 0 = none applies
     int question = 0; ///< position from 1, 0 = none applies
     QString field = {};
+    bool advice = false; ///< it leaves the exit status alone
 };
 
 /// The notice as one JSON object on one line, in UTF-8; what does not apply is left out.

@@ -1,6 +1,7 @@
 #include "cli/review_command.h"
 
 #include "cli/inputs.h"
+#include "handheld/misfits.h"
 #include "validation/delivery_warnings.h"
 #include "validation/project_review.h"
 
@@ -29,7 +30,19 @@ Exit Review(const QString &input, bool oneOfSeveral, const Console &console)
                       .text = passes ? u"The project passes."_s : u"The project does not pass."_s,
                       .file = InputName(input)});
     }
-    return notices.empty() ? Exit::Fine : Exit::NotPassed;
+    const bool fine = std::ranges::all_of(notices, &Notice::advice);
+    return fine ? Exit::Fine : Exit::NotPassed;
+}
+
+Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName)
+{
+    return {.kind = "warning"_L1,
+            .code = warning.code,
+            .text = Describe(warning),
+            .shown = Visible("warning: "_L1 + Describe(warning)),
+            .file = inputName,
+            .question = warning.place.question,
+            .field = warning.place.field};
 }
 
 } // namespace
@@ -46,13 +59,11 @@ std::vector<Notice> ReviewNotices(Project &project, const QString &inputName)
                            .field = entry.field});
     // After the review, which takes the blanks off the texts that are judged here.
     for (const DeliveryWarning &warning : FindDeliveryWarnings(project))
-        notices.push_back({.kind = "warning"_L1,
-                           .code = warning.code,
-                           .text = Describe(warning),
-                           .shown = Visible("warning: "_L1 + Describe(warning)),
-                           .file = inputName,
-                           .question = warning.place.question,
-                           .field = warning.place.field});
+        notices.push_back(WarningNotice(warning, inputName));
+    for (const DeliveryWarning &misfit : FindMisfits(project)) {
+        notices.push_back(WarningNotice(misfit, inputName));
+        notices.back().advice = true;
+    }
     return notices;
 }
 

@@ -9,14 +9,15 @@
 namespace vellumo {
 
 /// What is wrong with a project, as the designer's error list has it (kind "finding"), and after
-/// that what would not arrive on the handheld as typed (kind "warning"). The project's form
-/// information is left without the blanks at its ends.
+/// that what would not arrive on the handheld as typed, and what its screen would not show so (kind
+/// "warning"; the latter is advice). The project's form information is left without the blanks at
+/// its ends.
 std::vector<Notice> ReviewNotices(Project &project, const QString &inputName);
 
 /// Whether a reviewed project may be created; warnings do not stand in the way.
 bool Passes(const std::vector<Notice> &notices);
 
-/// Tells the notices of each project. Findings and warnings alike give Exit::NotPassed.
+/// Tells the notices of each project. All but advice give Exit::NotPassed, warnings too.
 Exit ReviewProjects(const CommandLine &line, const Console &console);
 
 } // namespace vellumo

@@ -9,7 +9,7 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
+const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 
 /// Whatever is wrong with an input, each command says so in one line and writes nothing.
 class BadInput : public VellumoRun

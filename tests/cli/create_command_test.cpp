@@ -62,8 +62,8 @@ protected:
     QTemporaryDir m_temporary;
 };
 
-const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
-const QString nestbox = DataFile(u"projects/Nestbox.vmp"_s);
+const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
+const QString nestbox = DataFile(u"misfits/Nestbox-that-fits.vmp"_s);
 
 QByteArray InCodePage(const QString &text)
 {
@@ -258,6 +258,15 @@ TEST_F(CreateCommand, WarnsAndCreatesAllTheSame)
     WriteBytes(project, BytesOf(nestbox).replace("Box no.", "Box\\_no."));
     EXPECT_EQ(Create({project}), 0);
     EXPECT_TRUE(Err().startsWith(project + u": warning: question 1, title: "_s));
+    EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
+}
+
+TEST_F(CreateCommand, TellsWhatDoesNotFitTheScreenAndCreatesAllTheSame)
+{
+    const QString project = DataFile(u"projects/Nestbox.vmp"_s);
+    EXPECT_EQ(Create({project}), 0);
+    EXPECT_TRUE(Err().startsWith(project + u": warning: question 5, question text: "_s));
+    EXPECT_EQ(Err().count(u'\n'), 1) << Err().toStdString();
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
 }
 

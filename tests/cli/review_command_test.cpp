@@ -5,13 +5,15 @@ using namespace vellumo;
 
 namespace {
 
+const QString example = DataFile(u"../../examples/SiteVisit.vmp"_s);
+
 class ReviewCommand : public VellumoRun
 {
 protected:
-    /// A file with the project of tests/data, changed.
+    /// A file with the example, changed.
     QString Changed(const QByteArray &from, const QByteArray &to, const QString &name = u"a.vmp"_s)
     {
-        const QByteArray bytes = BytesOf(DataFile(u"projects/SiteVisit.vmp"_s));
+        const QByteArray bytes = BytesOf(example);
         EXPECT_TRUE(bytes.contains(from)) << from.toStdString();
         const QString path = InFolder(name);
         WriteBytes(path, QByteArray(bytes).replace(from, to));
@@ -26,7 +28,7 @@ const QByteArray noName = "<FormName></FormName>";
 
 TEST_F(ReviewCommand, SaysNothingOfAProjectThatIsFine)
 {
-    EXPECT_EQ(Run({u"review"_s, DataFile(u"projects/SiteVisit.vmp"_s)}), 0);
+    EXPECT_EQ(Run({u"review"_s, example}), 0);
     EXPECT_EQ(Out() + Err(), u""_s);
 }
 
@@ -40,7 +42,7 @@ TEST_F(ReviewCommand, ListsTheEntriesAsTheErrorListShowsThem)
 
 TEST_F(ReviewCommand, PutsTheFileInFrontWhereThereAreSeveral)
 {
-    const QString good = DataFile(u"projects/SiteVisit.vmp"_s), bad = Changed(name, noName);
+    const QString good = example, bad = Changed(name, noName);
     EXPECT_EQ(Run({u"review"_s, good, bad}), 1);
     EXPECT_EQ(Out(), bad + u": Step1\t\tPlease enter a name for your Vellsheet.\n"_s);
     EXPECT_EQ(Run({u"review"_s, bad, InFolder(u"none.vmp"_s), good}), 3);
@@ -98,6 +100,37 @@ TEST_F(ReviewCommand, TellsProgramsInJson)
     EXPECT_EQ(Objects()[1][u"code"_s], u"passed"_s) << "warnings do not stand in the way";
 }
 
+TEST_F(ReviewCommand, WarnsOfWhatDoesNotFitTheScreen)
+{
+    const QString path =
+        Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[WWWWWWWWWWWWWWWWWWWW]]>");
+    EXPECT_EQ(Run({u"review"_s, path}), 0) << "the database is as it should be";
+    EXPECT_EQ(Out(), u"warning: question 1, title: \"WWWWWWWWWWWWWWWWWWWW\": it is 74 pixels too "
+                     "wide and stops after \"WWWWWWWWWWWWW\"; a button covers the rest\n"_s);
+    EXPECT_EQ(Run({u"review"_s, u"--json"_s, path}), 0);
+    ASSERT_EQ(Objects().size(), 2);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"warning"_s);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"title-too-wide"_s);
+    EXPECT_EQ(Objects()[0][u"question"_s], 1);
+    EXPECT_EQ(Objects()[0][u"field"_s], u"title"_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"passed"_s);
+
+    const QString both =
+        Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[WWWWWWWWWWWWWWWWWW\\W]]>");
+    EXPECT_EQ(Run({u"review"_s, both}), 1) << "a warning of the other kind is in it too";
+    EXPECT_EQ(Out().count(u"warning: "_s), 2) << Out().toStdString();
+}
+
+TEST_F(ReviewCommand, LetsAQuestionBeBroken)
+{
+    const QString path =
+        Changed("Who inspects the site?", "Who inspects the site today,\\nand why?");
+    EXPECT_EQ(Run({u"review"_s, path}), 0);
+    EXPECT_TRUE(Out().startsWith(u"warning: question 1, question text: "_s)) << Out().toStdString();
+    EXPECT_TRUE(Out().contains(u": line 1 is "_s)) << Out().toStdString();
+    EXPECT_EQ(Out().count(u'\n'), 1) << "the line break of the question itself is none of these";
+}
+
 TEST_F(ReviewCommand, LeavesTheFileAlone)
 {
     const QString path = Changed("<FormVersion><![CDATA[1.0]]>", "<FormVersion><![CDATA[  1.0]]>");
@@ -109,7 +142,7 @@ TEST_F(ReviewCommand, LeavesTheFileAlone)
 TEST_F(ReviewCommand, TellsAPersonHowFarItIs)
 {
     watched = true;
-    const QString good = DataFile(u"projects/SiteVisit.vmp"_s);
+    const QString good = example;
     EXPECT_EQ(Run({u"review"_s, good, good}), 0);
     EXPECT_EQ(Err(), u"1 of 2: "_s + good + u"\n2 of 2: "_s + good + u'\n');
     EXPECT_EQ(Run({u"review"_s, good}), 0);

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
+const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 
 /// The program itself, in a folder with tools of the test's own.
 class Signals : public testing::Test

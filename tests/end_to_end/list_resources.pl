@@ -39,7 +39,7 @@ same('column names', $data{'tSTL 1004'}, "\0" . pack('n', scalar @columns) . joi
 for my $number (1 .. @titles) {
     my $form = $data{"tFRM $number"} // die "form $number is missing\n";
     defined $data{"fnav $number"} or die "the navigation of form $number is missing\n";
-    for my $text ($titles[$number - 1], $questions[$number - 1]) {
+    for my $text ($titles[$number - 1], $questions[$number - 1] =~ s/\\n/\n/gr) {
         index($form, ($text // '') . "\0") >= 0 or die "form $number does not have '$text'\n";
     }
 }

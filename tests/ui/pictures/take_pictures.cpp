@@ -23,6 +23,8 @@ using namespace vellumo;
 
 namespace {
 
+const QString example = DataFile(u"../../examples/SiteVisit.vmp"_s);
+
 /// The palette of a dark desktop, from the two colours of its windows and boxes.
 QPalette DarkPalette()
 {
@@ -43,7 +45,7 @@ void Keep(const QWidget &window, const QString &path)
 
 void TakeSteps(const QString &folder)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(example);
     const PromptScript prompts({u"OK"_s});
     for (int step = 1; step <= 4; ++step) {
         designer.ClickTab(step);
@@ -64,12 +66,12 @@ void TakeSteps(const QString &folder)
 
 void TakeWizard(const QString &folder)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(example);
     frmWizard wizard(const_cast<ProjectDocument &>(designer.window.document()), nullptr);
     wizard.show();
     wizard.findChild<QListWidget *>(u"lstWiz1_1"_s)->setCurrentRow(2);
     wizard.findChild<QPlainTextEdit *>(u"txtWiz3_1"_s)
-        ->setPlainText(u"Which species did you see first?"_s);
+        ->setPlainText(u"Which species came first?"_s);
     for (int step = 1; step <= 5; ++step) {
         Keep(wizard, folder + u"/wizard-%1.png"_s.arg(step));
         if (step == 4)
@@ -80,7 +82,7 @@ void TakeWizard(const QString &folder)
 
 void TakeProperties(const QString &folder)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(example);
     auto &document = const_cast<ProjectDocument &>(designer.window.document());
     for (const int row : {0, 2}) {
         document.source().SetPosition(row);
