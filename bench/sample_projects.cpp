@@ -22,7 +22,7 @@ Project Named(const QString &name)
     return project;
 }
 
-void AddQuestion(Project &project, const QString &type, int items)
+void AddQuestion(Project &project, const QString &type, int items, QChar filling = u'i')
 {
     clsDataSource &source = project.source;
     source.AddQuestion();
@@ -36,7 +36,7 @@ void AddQuestion(Project &project, const QString &type, int items)
                                     .Id = id};
     for (int item = 1; item <= items; ++item) {
         source.AddItem();
-        source.Items().Current() = {.Id = id, .Item = Filled(item, 32, u'i')};
+        source.Items().Current() = {.Id = id, .Item = Filled(item, 32, filling)};
     }
 }
 
@@ -57,6 +57,14 @@ Project LargestProject()
     Project project = Named(u"Largest"_s);
     for (int i = 0; i < 128; ++i)
         AddQuestion(project, u"Pulldown List"_s, 255);
+    return project;
+}
+
+Project WideProjectOfItems(int items)
+{
+    Project project = Named(u"Wide"_s);
+    for (int i = 0; i < items / 250; ++i)
+        AddQuestion(project, u"Pulldown List"_s, 250, u'W');
     return project;
 }
 

@@ -16,4 +16,7 @@ Project LargestProject();
 /// A project of pulldown lists of 250 items each that has so many items in all.
 Project ProjectOfItems(int items);
 
+/// The same, but that each item is too wide for the handheld's screen.
+Project WideProjectOfItems(int items);
+
 } // namespace vellumo

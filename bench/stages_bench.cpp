@@ -2,6 +2,7 @@
 // stage is the number of questions, 0 the largest project; that of an item benchmark the number of
 // items, and its "items" the time that one item takes.
 #include "bench/sample_projects.h"
+#include "handheld/misfits.h"
 #include "model/project_reader.h"
 #include "model/project_writer.h"
 #include "palmgen/script_generator.h"
@@ -61,6 +62,14 @@ void Save(benchmark::State &state, MakeProject make)
     CountItems(state, project);
 }
 
+void Fit(benchmark::State &state, MakeProject make)
+{
+    const Project project = make(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(FindMisfits(project));
+    CountItems(state, project);
+}
+
 void Script(benchmark::State &state, MakeProject make)
 {
     const Project project = make(static_cast<int>(state.range(0)));
@@ -96,6 +105,8 @@ void Package(benchmark::State &state, MakeProject make)
 
 VELLUMO_STAGE(Load);
 VELLUMO_STAGE(Save);
+VELLUMO_STAGE(Fit);
+BENCHMARK_CAPTURE(Fit, wide, WideProjectOfItems)->Arg(1000)->Arg(32000);
 VELLUMO_STAGE(Script);
 VELLUMO_STAGE(Compile);
 VELLUMO_STAGE(Package);

@@ -17,6 +17,14 @@ constexpr Font fonts[] = {
 
 constexpr FontWidths noWidths = {};
 
+constexpr char euro = '\x80';
+
+/// By how much the euro sign is wider on the screen than in the figures.
+constexpr quint32 MoreForEuro(quint32 font)
+{
+    return font <= 1 ? 3 : 0;
+}
+
 } // namespace
 
 const FontWidths &WidthsOf(quint32 font)
@@ -36,9 +44,23 @@ quint32 TextWidth(QByteArrayView text, quint32 font)
 
 quint32 DrawnWidth(QByteArrayView text, quint32 font)
 {
-    constexpr char euro = '\x80';
-    const auto more = font <= 1 ? 3 * std::ranges::count(text, euro) : 0;
-    return TextWidth(text, font) + static_cast<quint32>(more);
+    const auto euros = std::ranges::count(text, euro);
+    return TextWidth(text, font) + MoreForEuro(font) * static_cast<quint32>(euros);
+}
+
+qsizetype FittingLength(QByteArrayView text, int width, quint32 font)
+{
+    const FontWidths &widths = WidthsOf(font);
+    qsizetype length = 0;
+    for (int left = width; length < text.size(); ++length) {
+        const char next = text[length];
+        left -= widths[static_cast<uchar>(next)];
+        if (next == euro)
+            left -= static_cast<int>(MoreForEuro(font));
+        if (left < 0)
+            break;
+    }
+    return length;
 }
 
 } // namespace vellumo

@@ -19,4 +19,7 @@ quint32 TextWidth(QByteArrayView text, quint32 font);
 /// as 3 pixels wider in the fonts 0 and 1, as some systems have it (docs/handheld-screen.md).
 quint32 DrawnWidth(QByteArrayView text, quint32 font);
 
+/// The most bytes from the start of a text that are drawn at most so many pixels wide.
+qsizetype FittingLength(QByteArrayView text, int width, quint32 font);
+
 } // namespace vellumo

@@ -6,18 +6,6 @@
 
 namespace vellumo {
 
-qsizetype FittingLength(QByteArrayView text, int width, quint32 font)
-{
-    qsizetype length = 0;
-    quint32 taken = 0;
-    for (; length < text.size(); ++length) {
-        taken += DrawnWidth(text.sliced(length, 1), font);
-        if (taken > static_cast<quint32>(width))
-            break;
-    }
-    return length;
-}
-
 QList<QByteArrayView> TypedLines(QByteArrayView text)
 {
     QList<QByteArrayView> lines;

@@ -5,10 +5,6 @@
 
 namespace vellumo {
 
-/// The most bytes from the start of a text in windows-1252 that are at most so many pixels wide in
-/// a font of the handheld.
-qsizetype FittingLength(QByteArrayView text, int width, quint32 font);
-
 /// The lines of a text in windows-1252, as it arrives: it ends one at every line feed.
 QList<QByteArrayView> TypedLines(QByteArrayView text);
 

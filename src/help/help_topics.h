@@ -19,6 +19,7 @@ inline constexpr quint32 csvFile = 12;
 inline constexpr quint32 finalReview = 13;
 inline constexpr quint32 errorList = 14;
 inline constexpr quint32 questionWizard = 15;
+inline constexpr quint32 fitting = 16;
 
 } // namespace HelpContext
 
@@ -39,6 +40,7 @@ inline constexpr HelpTopic helpTopics[] = {
     {HelpContext::finalReview, QLatin1StringView("review.html")},
     {HelpContext::errorList, QLatin1StringView("errors.html")},
     {HelpContext::questionWizard, QLatin1StringView("wizard.html")},
+    {HelpContext::fitting, QLatin1StringView("fitting.html")},
 };
 
 inline constexpr QLatin1StringView helpTitle{"Vellumo Designer Help"};

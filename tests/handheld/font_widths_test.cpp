@@ -41,3 +41,14 @@ TEST(FontWidths, DrawTheEuroSignWiderThanItIsStored)
         }
     }
 }
+
+TEST(FontWidths, CountWhatFits)
+{
+    EXPECT_EQ(FittingLength("", 10, 1), 0);
+    EXPECT_EQ(FittingLength("iii", 9, 1), 3);
+    EXPECT_EQ(FittingLength("iii", 8, 1), 2);
+    EXPECT_EQ(FittingLength("iii", 2, 1), 0);
+    EXPECT_EQ(FittingLength("iii", 5, 0), 2) << "2 pixels each";
+    EXPECT_EQ(FittingLength("i\x80", 11, 1), 1) << "the euro sign as the screen has it";
+    EXPECT_EQ(FittingLength("i\x80", 12, 1), 2);
+}

@@ -20,17 +20,6 @@ QList<QByteArray> Copied(const QList<QByteArrayView> &views)
 
 } // namespace
 
-TEST(LineBreaks, CountWhatFits)
-{
-    EXPECT_EQ(FittingLength("", 10, 1), 0);
-    EXPECT_EQ(FittingLength("iii", 9, 1), 3);
-    EXPECT_EQ(FittingLength("iii", 8, 1), 2);
-    EXPECT_EQ(FittingLength("iii", 2, 1), 0);
-    EXPECT_EQ(FittingLength("iii", 5, 0), 2) << "2 pixels each";
-    EXPECT_EQ(FittingLength("i\x80", 11, 1), 1) << "the euro sign as the screen has it";
-    EXPECT_EQ(FittingLength("i\x80", 12, 1), 2);
-}
-
 TEST(LineBreaks, StandAtLineFeeds)
 {
     EXPECT_EQ(Copied(TypedLines("")), QList<QByteArray>{""});

@@ -68,6 +68,7 @@ TEST(ProductHelp, LeadsFromEachNumberToItsPage)
         {13, u"The final review"_s},
         {14, u"The error list"_s},
         {15, u"The question wizard"_s},
+        {16, u"What fits the screen"_s},
     };
     for (const auto &row : rows)
         EXPECT_EQ(help->TitleOf(help->PageOf(row.context)), row.title) << row.context;

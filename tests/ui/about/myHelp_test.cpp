@@ -54,19 +54,13 @@ TEST(myHelp, OpensThePageOfEachNumber)
         quint32 context;
         QString title;
     } rows[] = {
-        {1, u"What identifies a Vellsheet"_s},
-        {2, u"Naming your Vellsheet"_s},
-        {3, u"The version number"_s},
-        {4, u"The description"_s},
-        {5, u"Designing your questions"_s},
-        {10, u"Question preview"_s},
-        {11, u"Uploading saved data"_s},
-        {12, u"The CSV file and its folder"_s},
-        {13, u"The final review"_s},
-        {14, u"The error list"_s},
-        {15, u"The question wizard"_s},
-        {6, u"Welcome to Vellumo Designer"_s},
-        {4000000000, u"Welcome to Vellumo Designer"_s},
+        {1, u"What identifies a Vellsheet"_s}, {2, u"Naming your Vellsheet"_s},
+        {3, u"The version number"_s},          {4, u"The description"_s},
+        {5, u"Designing your questions"_s},    {10, u"Question preview"_s},
+        {11, u"Uploading saved data"_s},       {12, u"The CSV file and its folder"_s},
+        {13, u"The final review"_s},           {14, u"The error list"_s},
+        {15, u"The question wizard"_s},        {16, u"What fits the screen"_s},
+        {6, u"Welcome to Vellumo Designer"_s}, {4000000000, u"Welcome to Vellumo Designer"_s},
     };
     Asker asker;
     for (const auto &row : rows) {
