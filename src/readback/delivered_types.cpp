@@ -85,4 +85,10 @@ const DeliveredType &TypeOfCode(std::span<const DeliveredType> types, quint8 cod
     return found == types.end() ? noType : *found;
 }
 
+QString NameOfTypeCode(quint8 code)
+{
+    const DeliveredType &type = TypeOfCode(deliveredTypes, code);
+    return type.name.isEmpty() ? u"0x%1"_s.arg(code, 2, 16, QChar(u'0')) : QString(type.name);
+}
+
 } // namespace vellumo

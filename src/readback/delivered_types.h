@@ -2,7 +2,7 @@
 
 #include "readback/form.h"
 
-#include <QLatin1StringView>
+#include <QString>
 
 #include <array>
 #include <span>
@@ -29,5 +29,8 @@ const DeliveredType &TypeOfName(std::span<const DeliveredType> types, QStringVie
 
 /// The row of the type with this code in the list of types, or a row that is no type.
 const DeliveredType &TypeOfCode(std::span<const DeliveredType> types, quint8 code);
+
+/// The name of the type with this code; the code, such as "0x10", where it is that of none.
+QString NameOfTypeCode(quint8 code);
 
 } // namespace vellumo

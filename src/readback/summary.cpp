@@ -11,13 +11,6 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-QString NameOfType(char byte)
-{
-    const auto code = static_cast<quint8>(byte);
-    const DeliveredType &type = TypeOfCode(deliveredTypes, code);
-    return type.name.isEmpty() ? u"0x%1"_s.arg(code, 2, 16, QChar(u'0')) : QString(type.name);
-}
-
 QString TitleOf(const Form &form)
 {
     const auto title = std::ranges::find(form.objects, ObjectKind::Title, &FormObject::kind);
@@ -38,7 +31,7 @@ DatabaseSummary Summarize(const PalmDatabase &database)
         summary.questions = int(**content.questionCount);
     if (content.typeCodes && *content.typeCodes)
         for (const char code : **content.typeCodes)
-            summary.types += NameOfType(code);
+            summary.types += NameOfTypeCode(static_cast<quint8>(code));
     if (content.columnNames && *content.columnNames)
         for (const QByteArray &name : (*content.columnNames)->entries)
             summary.columnNames += FromWindows1252(name);

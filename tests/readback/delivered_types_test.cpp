@@ -71,3 +71,10 @@ TEST(DeliveredTypes, AreNoneForOtherNamesAndCodes)
     EXPECT_TRUE(TypeOfCode(deliveredTypes, 10).name.isEmpty());
     EXPECT_TRUE(TypeOfCode(deliveredTypes, 0x10).name.isEmpty());
 }
+
+TEST(DeliveredTypes, ACodeOfNoneIsNamedByItself)
+{
+    EXPECT_EQ(NameOfTypeCode(0x04), u"Pulldown List"_s);
+    EXPECT_EQ(NameOfTypeCode(0x10), u"0x10"_s);
+    EXPECT_EQ(NameOfTypeCode(0x0A), u"0x0a"_s);
+}
