@@ -1,6 +1,7 @@
 #include "handheld/misfits.h"
 
 #include "handheld/font_widths.h"
+#include "handheld/line_places.h"
 #include "handheld/question_fit.h"
 #include "handheld/screen_geometry.h"
 #include "handheld/script_text.h"
@@ -14,36 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
-
-constexpr quint32 standard = 0, bold = 1;
-
-/// A place of the screen that has one line for a text.
-struct LinePlace {
-    QLatin1StringView code; ///< of a text that is too wide for it
-    int width;              ///< in pixels
-    quint32 font;
-    QLatin1StringView then; ///< what becomes of the rest of such a text
-};
-
-constexpr LinePlace titlePlace = {"title-too-wide"_L1, screen::titleWidth, bold,
-                                  "a button covers the rest"_L1};
-constexpr LinePlace listPlace = {"item-too-wide"_L1, screen::listItemWidth, standard,
-                                 "the opened list leaves the screen"_L1};
-constexpr LinePlace captionPlace = {"caption-too-wide"_L1, screen::captionWidth, standard,
-                                    "the rest is cut off"_L1};
-
-/// The two letters of windows-1252 that are not in the handheld's set.
-bool HasForeignLetters(QByteArrayView text)
-{
-    return text.contains('\x8E') || text.contains('\x9E');
-}
-
-/// What happens to an arriving text in its place; empty where nothing does.
-QString MisfitIn(const LinePlace &place, QByteArrayView text)
-{
-    const QString misfit = LineMisfit(text, place.width, place.font);
-    return misfit.isEmpty() ? misfit : u"it %1; %2"_s.arg(misfit, place.then);
-}
 
 /// Whether a text surely fits into its place, as nearly all items do: such a one
 /// arrives as typed, and what a comma makes of one is no wider than the whole.
@@ -123,9 +94,7 @@ private:
 
     void CheckLetters(QByteArrayView arriving, const TextPlace &place, const QString &text)
     {
-        if (HasForeignLetters(arriving))
-            Warn("not-on-handheld"_L1, place, text,
-                 u"the handheld has no Z or z with a caron and shows another sign or none"_s);
+        Warn("not-on-handheld"_L1, place, text, LetterMisfit(arriving));
     }
 
     /// Warns where there is a reason.
