@@ -2,7 +2,6 @@
 
 #include "cli/inputs.h"
 #include "model/form_fields.h"
-#include "model/project_format.h"
 #include "model/project_reader.h"
 #include "readback/summary.h"
 
@@ -88,16 +87,6 @@ void TellProgram(const Info &info, const QString &inputName, const Console &cons
     object.insert(u"columnNames"_s, QJsonArray::fromStringList(info.columnNames));
     object.insert(u"titles"_s, QJsonArray::fromStringList(info.titles));
     console.Write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
-}
-
-constexpr FileLimit eitherLimit = {std::max(projectLimit.bytes, databaseLimit.bytes),
-                                   "project or database"_L1};
-
-/// XML in one-byte characters has no zero byte; the header of a database is full of them.
-bool LooksLikeDatabase(const QByteArray &bytes)
-{
-    const bool isUtf16 = bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
-    return !isUtf16 && bytes.left(78).contains('\0');
 }
 
 Result<Info> ReadInfo(const QByteArray &bytes)

@@ -2,6 +2,7 @@
 
 #include "model/project_format.h"
 #include "model/project_reader.h"
+#include "readback/palm_database.h"
 
 #include <algorithm>
 
@@ -29,9 +30,19 @@ Result<QByteArray> ReadStream(const FileLimit &limit, const Console &console)
 
 } // namespace
 
+constinit const FileLimit eitherLimit = {std::max(projectLimit.bytes, databaseLimit.bytes),
+                                         "project or database"_L1};
+
 Result<QByteArray> ReadInput(const QString &name, const FileLimit &limit, const Console &console)
 {
     return IsStream(name) ? ReadStream(limit, console) : ReadWholeFile(name, limit);
+}
+
+// XML in one-byte characters has no zero byte; the header of a database is full of them.
+bool LooksLikeDatabase(const QByteArray &bytes)
+{
+    const bool isUtf16 = bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
+    return !isUtf16 && bytes.left(78).contains('\0');
 }
 
 Result<Project> ReadProjectInput(const QString &name, const Console &console)
@@ -48,14 +59,6 @@ Result<Project> ReadProjectInput(const QString &name, const Console &console)
 QString InputName(const QString &name)
 {
     return IsStream(name) ? u"standard input"_s : name;
-}
-
-Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console &console)
-{
-    if (!IsStream(name))
-        return ReplaceFile(name, bytes);
-    console.Write(bytes);
-    return done;
 }
 
 Exit ForEachInput(const CommandLine &line, const Console &console,

@@ -12,14 +12,17 @@ namespace vellumo {
 /// The bytes of an input, "-" being standard input; an error names it and why it cannot be read.
 Result<QByteArray> ReadInput(const QString &name, const FileLimit &limit, const Console &console);
 
+/// Of files that may be projects or databases.
+extern const FileLimit eitherLimit;
+
+/// Whether bytes that are a project or a database are rather the latter.
+bool LooksLikeDatabase(const QByteArray &bytes);
+
 /// The project in an input.
 Result<Project> ReadProjectInput(const QString &name, const Console &console);
 
 /// An input's name as messages have it.
 QString InputName(const QString &name);
-
-/// Puts bytes in the place of a file, or on standard output where the name is "-".
-Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console &console);
 
 /// Does the same with each input, telling how far it is where there are several. Each is tried; the
 /// worst exit is returned.

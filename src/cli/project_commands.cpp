@@ -1,6 +1,7 @@
 #include "cli/project_commands.h"
 
 #include "cli/inputs.h"
+#include "cli/outputs.h"
 #include "model/project_writer.h"
 #include "model/unreadable_texts.h"
 #include "palmgen/script_generator.h"
@@ -10,26 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
-namespace {
-
-/// Writes the output and, to a program, tells of it.
-Exit Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
-             const Console &console)
-{
-    if (const Outcome written = WriteOutput(name, bytes, console); !written)
-        return Refuse(console, Exit::NotWritten, written.error());
-    if (console.json)
-        console.Tell({.kind = "result"_L1, .code = code, .text = u"written"_s, .file = name});
-    return Exit::Fine;
-}
-
-Exit RefuseMixture(const Console &console)
-{
-    return Refuse(console, Exit::WrongUse,
-                  {u"With --json the output needs a file of its own: -o FILE."_s});
-}
-
-} // namespace
 
 Exit WriteScript(const CommandLine &line, const Console &console)
 {

@@ -36,6 +36,12 @@ Exit TellFindings(const QList<Finding> &findings, const QString &inputName, cons
 
 } // namespace
 
+void ComplainOf(const QList<Finding> &findings, const QString &inputName, const Console &console)
+{
+    for (const Finding &finding : findings)
+        console.Complain(NoticeOf(finding, inputName));
+}
+
 bool Agrees(const QByteArray &database, const Project &project, const QString &inputName,
             const Console &console)
 {
@@ -46,8 +52,7 @@ bool Agrees(const QByteArray &database, const Project &project, const QString &i
         return false;
     }
     const QList<Finding> findings = CheckDatabase(*read, project);
-    for (const Finding &finding : findings)
-        console.Complain(NoticeOf(finding, inputName));
+    ComplainOf(findings, inputName, console);
     return findings.isEmpty();
 }
 

@@ -1,0 +1,110 @@
+#include "cli/checked_database.h"
+
+#include "cli/review_command.h"
+#include "cli/verify_command.h"
+#include "palmgen/build_with_tools.h"
+#include "palmgen/create_messages.h"
+#include "palmgen/create_pass.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/identifier.h"
+#include "platform/work_folder.h"
+#include "readback/palm_database.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+/// A private folder in place of application and projects folder, so that a creation runs from a
+/// read-only installation and many times at once.
+CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
+{
+    const ToolLimits limits = {{ApplicationFolder()}, line.timeoutSeconds};
+    return {{.work = folder, .databases = folder + QDir::separator()},
+            BuildWithTools([limits](const ToolCall &call) { return RunAndWait(call, limits); })};
+}
+
+/// What became of one project, told with the project's name in front.
+class Creation
+{
+public:
+    Creation(Project &project, const QString &inputName, const CommandLine &line,
+             const Console &console)
+        : m_project(project), m_inputName(inputName), m_line(line), m_console(console)
+    {}
+
+    CheckedDatabase Run()
+    {
+        const std::vector<Notice> notices = ReviewNotices(m_project, m_inputName);
+        for (const Notice &notice : notices)
+            m_console.Complain(notice);
+        if (!Passes(notices))
+            return {Exit::NotPassed};
+
+        const WorkFolder work;
+        if (!work.state())
+            return {Refuse(m_console, Exit::NotWritten, work.state().error())};
+        const CreateReport report =
+            MakeDatabase(m_project, PrivatePlace(work.path(), m_line),
+                         m_line.identifier.isEmpty() ? MakeIdentifier() : m_line.identifier);
+        if (const Exit judged = Judge(report, work.path()); judged != Exit::Fine)
+            return {judged};
+        return ReadBack(report.database);
+    }
+
+private:
+    Exit Fail(Exit exit, const QString &reason) const
+    {
+        return Refuse(m_console, exit, {reason, m_inputName});
+    }
+
+    Exit Judge(const CreateReport &report, const QString &folder) const
+    {
+        switch (report.end) {
+        case CreateEnd::ProjectRefused:
+            return Fail(Exit::NotPassed, report.error.text);
+        case CreateEnd::FileRefused:
+            return Refuse(m_console, Exit::NotWritten, {report.error.text, folder});
+        case CreateEnd::BuildFailed:
+            return Fail(Exit::ToolFailed, report.error.text);
+        case CreateEnd::BuildEnded:
+            break;
+        }
+        // The first that failed is the cause: each is run whatever the one before it says.
+        for (const ToolRun &run : report.runs)
+            if (const QString fault = FaultOf(run, m_line.timeoutSeconds); !fault.isEmpty())
+                return Fail(Exit::ToolFailed, fault);
+        return Exit::Fine;
+    }
+
+    CheckedDatabase ReadBack(const QString &made) const
+    {
+        if (!QFileInfo::exists(made))
+            return {Fail(Exit::ToolFailed, u"the tools left no database"_s)};
+        const Result<QByteArray> bytes = ReadWholeFile(made, databaseLimit);
+        if (!bytes)
+            return {Fail(Exit::ToolFailed, bytes.error().text)};
+        if (!Agrees(*bytes, m_project, m_inputName, m_console))
+            return {Exit::ToolFailed};
+        return {Exit::Fine, *bytes, QFileInfo(made).fileName()};
+    }
+
+    Project &m_project;
+    const QString m_inputName;
+    const CommandLine &m_line;
+    const Console &m_console;
+};
+
+} // namespace
+
+CheckedDatabase MakeCheckedDatabase(Project &project, const QString &inputName,
+                                    const CommandLine &line, const Console &console)
+{
+    return Creation(project, inputName, line, console).Run();
+}
+
+} // namespace vellumo

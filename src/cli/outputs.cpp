@@ -1,0 +1,36 @@
+#include "cli/outputs.h"
+
+#include "platform/files.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console &console)
+{
+    if (name != "-"_L1)
+        return ReplaceFile(name, bytes);
+    console.Write(bytes);
+    return done;
+}
+
+} // namespace
+
+Exit Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
+             const Console &console)
+{
+    if (const Outcome written = WriteOutput(name, bytes, console); !written)
+        return Refuse(console, Exit::NotWritten, written.error());
+    if (console.json)
+        console.Tell({.kind = "result"_L1, .code = code, .text = u"written"_s, .file = name});
+    return Exit::Fine;
+}
+
+Exit RefuseMixture(const Console &console)
+{
+    return Refuse(console, Exit::WrongUse,
+                  {u"With --json the output needs a file of its own: -o FILE."_s});
+}
+
+} // namespace vellumo
