@@ -4,6 +4,7 @@
 #include "cli/info_command.h"
 #include "cli/project_commands.h"
 #include "cli/review_command.h"
+#include "cli/screens_command.h"
 #include "cli/verify_command.h"
 
 #include <algorithm>
@@ -46,6 +47,12 @@ constexpr Command commands[] = {
      .help = "Tells what is in it.\n"_L1,
      .shape = {.mostInputs = 1, .whichInput = whichFile},
      .run = TellInfo},
+    {.name = "screens"_L1,
+     .synopsis = "PROJECT|DATABASE... [-o FILE] [--timeout SECONDS]"_L1,
+     .help = "Draws every form as the handheld shows it, on a page of HTML to look at and\n"
+             "to print, to standard output unless FILE is given.\n"_L1,
+     .shape = {.mostInputs = anyNumber, .whichInput = whichFile, .output = true, .timeout = true},
+     .run = DrawScreens},
     {.name = "script"_L1,
      .synopsis = "PROJECT [-o FILE] [--guid HEX32]"_L1,
      .help = "Writes the resource script alone, to standard output unless FILE is given.\n"_L1,

@@ -23,8 +23,8 @@ protected:
 
     void ExpectRefused(const QString &path)
     {
-        for (const QString &command :
-             {u"script"_s, u"review"_s, u"create"_s, u"rewrite"_s, u"info"_s, u"verify"_s}) {
+        for (const QString &command : {u"script"_s, u"review"_s, u"create"_s, u"rewrite"_s,
+                                       u"info"_s, u"verify"_s, u"screens"_s}) {
             SCOPED_TRACE((command + u' ' + path).toStdString());
             QStringList words = {command, path};
             if (command == u"create"_s)

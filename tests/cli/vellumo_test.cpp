@@ -15,8 +15,8 @@ const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
 TEST_F(Vellumo, SaysHowToUseIt)
 {
     EXPECT_EQ(Run({u"--help"_s}), 0);
-    for (const QString &command :
-         {u"create"_s, u"info"_s, u"review"_s, u"rewrite"_s, u"script"_s, u"verify"_s}) {
+    for (const QString &command : {u"create"_s, u"info"_s, u"review"_s, u"rewrite"_s, u"screens"_s,
+                                   u"script"_s, u"verify"_s}) {
         EXPECT_TRUE(Out().contains(u"vellumo "_s + command)) << command.toStdString();
         EXPECT_EQ(Run({command, u"--help"_s}), 0);
     }

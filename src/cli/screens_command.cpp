@@ -1,0 +1,64 @@
+#include "cli/screens_command.h"
+
+#include "cli/checked_database.h"
+#include "cli/inputs.h"
+#include "cli/outputs.h"
+#include "cli/verify_command.h"
+#include "model/project_reader.h"
+#include "platform/work_folder.h"
+#include "screens/screens_page.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+/// The bytes of the database in an input, or of that which is made of the project in it.
+CheckedDatabase DatabaseIn(const QString &input, const CommandLine &line, const Console &console)
+{
+    const Result<QByteArray> bytes = ReadInput(input, eitherLimit, console);
+    if (!bytes)
+        return {Refuse(console, Exit::Unreadable, bytes.error())};
+    if (LooksLikeDatabase(*bytes))
+        return {Exit::Fine, *bytes};
+    Result<Project> project = ReadProject(*bytes);
+    if (!project)
+        return {Refuse(console, Exit::Unreadable,
+                       {project.error().text, InputName(input), project.error().line})};
+    return MakeCheckedDatabase(*project, InputName(input), line, console);
+}
+
+Exit AppendScreens(QList<DatabaseScreens> &all, const QString &input, const CommandLine &line,
+                   const Console &console)
+{
+    const CheckedDatabase made = DatabaseIn(input, line, console);
+    if (made.exit != Exit::Fine)
+        return made.exit;
+    const Result<PalmDatabase> database = ReadDatabase(made.bytes);
+    if (!database)
+        return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
+    all.append(ScreensOf(*database));
+    ComplainOf(all.last().findings, InputName(input), console);
+    return all.last().findings.isEmpty() ? Exit::Fine : Exit::NotPassed;
+}
+
+} // namespace
+
+Exit DrawScreens(const CommandLine &line, const Console &console)
+{
+    const QString target = line.output.isEmpty() ? u"-"_s : line.output;
+    if (console.json && target == "-"_L1)
+        return RefuseMixture(console);
+    WorkFolder::RemoveLeft();
+    QList<DatabaseScreens> all;
+    const Exit drawn = ForEachInput(line, console, [&](const QString &input) {
+        return AppendScreens(all, input, line, console);
+    });
+    if (all.isEmpty())
+        return drawn;
+    return std::max(drawn, Deliver(target, ScreensPage(all), "screens"_L1, console));
+}
+
+} // namespace vellumo
