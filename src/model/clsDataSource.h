@@ -18,12 +18,16 @@ struct QuestionRow {
     QString Type = {}; ///< one of questionTypes, as its name
     QString ColumnName = {};
     int Id = 0;
+
+    bool operator==(const QuestionRow &) const = default;
 };
 
 /// An item of the question whose Id it carries. The order of the rows is the order of the items.
 struct ItemRow {
     int Id = 0;
     QString Item = {};
+
+    bool operator==(const ItemRow &) const = default;
 };
 
 /// A table was used before it was created: a fault of the caller.

@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QList>
 
 #include <algorithm>
-#include <deque>
 #include <functional>
 #include <vector>
 
 namespace vellumo {
 
 /// Rows in the order in which they were added, with a cursor and a filter.
+///
+/// Copies share their rows until one of them changes, so that a copy costs nothing.
 ///
 /// While a filter is set the table behaves as if it held only the rows that pass. The cursor stands
 /// on a row, before the first or past the last; an empty table is at its start and at its end.
@@ -26,10 +27,19 @@ public:
 
     /// The row under the cursor, which must stand on one.
     Row &Current() { return m_rows[CurrentIndex()]; }
-    const Row &Current() const { return m_rows[CurrentIndex()]; }
+    const Row &Current() const { return m_rows.at(CurrentIndex()); }
 
     /// All rows, whatever the filter, in table order.
-    const std::deque<Row> &Rows() const { return m_rows; }
+    const QList<Row> &Rows() const { return m_rows; }
+
+    /// Puts other rows in the place of all and drops the filter. The cursor stays at its number, or
+    /// goes to the end.
+    void SetRows(QList<Row> rows)
+    {
+        m_filter = {};
+        m_rows = std::move(rows);
+        m_cursor = std::min(m_cursor, End());
+    }
 
     /// The rows that pass the filter, in table order; good until a row is added or deleted. The
     /// cursor stays where it is.
@@ -65,14 +75,14 @@ public:
     /// Deletes the current row; the one that followed becomes current, or the end is reached.
     void Delete()
     {
-        m_rows.erase(m_rows.begin() + static_cast<Position>(CurrentIndex()));
+        m_rows.removeAt(CurrentIndex());
         m_cursor = NextShown(m_cursor);
     }
 
     /// Deletes every row that passes the filter, in one pass over the table.
     void DeleteShown()
     {
-        std::erase_if(m_rows, [this](const Row &row) { return Passes(row); });
+        m_rows.removeIf([this](const Row &row) { return Passes(row); });
         m_cursor = End();
     }
 
@@ -94,14 +104,14 @@ public:
     void ClearFilter() { SetFilter({}); }
 
 private:
-    Position End() const { return static_cast<Position>(m_rows.size()); }
+    Position End() const { return m_rows.size(); }
     bool Passes(const Row &row) const { return !m_filter || m_filter(row); }
-    bool Passes(Position index) const { return Passes(m_rows[static_cast<size_t>(index)]); }
+    bool Passes(Position index) const { return Passes(m_rows.at(index)); }
 
-    size_t CurrentIndex() const
+    Position CurrentIndex() const
     {
         Q_ASSERT(m_cursor >= 0 && m_cursor < End());
-        return static_cast<size_t>(m_cursor);
+        return m_cursor;
     }
 
     Position NextShown(Position index) const
@@ -118,7 +128,7 @@ private:
         return index;
     }
 
-    std::deque<Row> m_rows; // deleting the first row again and again moves nothing
+    QList<Row> m_rows; // deleting the first row again and again moves nothing
     Filter m_filter;
     Position m_cursor = -1;
 };

@@ -4,6 +4,7 @@
 #include "ui/common/plain_text.h"
 #include "ui/common/project_document.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
@@ -33,12 +34,15 @@ FieldBox::FieldBox(ProjectDocument &document, FormField field, QWidget *box)
     : m_document(document), m_field(field), m_box(box)
 {
     RefuseKeys(box, refusedKeys[static_cast<size_t>(field)].refused);
+    box->installEventFilter(this);
 }
 
 FieldBox::FieldBox(ProjectDocument &document, FormField field, QLineEdit *box)
     : FieldBox(document, field, static_cast<QWidget *>(box))
 {
     m_setText = [box](const QString &text) { box->setText(text); };
+    m_canUndo = [box] { return box->isUndoAvailable(); };
+    m_canRedo = [box] { return box->isRedoAvailable(); };
     connect(box, &QLineEdit::textChanged, this, &FieldBox::Take);
 }
 
@@ -46,6 +50,8 @@ FieldBox::FieldBox(ProjectDocument &document, FormField field, QPlainTextEdit *b
     : FieldBox(document, field, static_cast<QWidget *>(box))
 {
     m_setText = [box](const QString &text) { box->setPlainText(text); };
+    m_canUndo = [box] { return box->document()->isUndoAvailable(); };
+    m_canRedo = [box] { return box->document()->isRedoAvailable(); };
     connect(box, &QPlainTextEdit::textChanged, this, [this, box] { Take(TextOf(*box)); });
 }
 
@@ -62,6 +68,21 @@ void FieldBox::Show()
 void FieldBox::Focus()
 {
     m_box->setFocus();
+}
+
+bool FieldBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusOut)
+        m_document.EndTyping();
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if ((key->matches(QKeySequence::Undo) && !m_canUndo()) ||
+            (key->matches(QKeySequence::Redo) && !m_canRedo())) {
+            event->ignore(); // the box would take it all the same
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void FieldBox::Take(const QString &text)

@@ -1,5 +1,7 @@
 #include "ui/common/step_page.h"
 
+#include <algorithm>
+
 namespace vellumo {
 
 StepPage::StepPage(ProjectDocument &document, QWidget *parent)
@@ -14,6 +16,11 @@ void StepPage::ShowTexts()
 {
     for (const auto &box : m_boxes)
         box->Show();
+}
+
+bool StepPage::Has(FormField field) const
+{
+    return std::ranges::any_of(m_boxes, [field](const auto &box) { return box->Field() == field; });
 }
 
 void StepPage::Focus(FormField field)

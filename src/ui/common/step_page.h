@@ -30,6 +30,9 @@ public:
     /// changed. The document's signal leads here.
     void ShowTexts();
 
+    /// Whether the step has the box of a field.
+    bool Has(FormField field) const;
+
     /// Puts the focus into the box of a field; a step that does not have it does nothing.
     void Focus(FormField field);
 

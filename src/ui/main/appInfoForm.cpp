@@ -14,6 +14,7 @@
 #include "validation/project_review.h"
 
 #include <QCloseEvent>
+#include <QShortcut>
 #include <QTabBar>
 
 #include <utility>
@@ -51,6 +52,7 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
     ConnectSteps();
     ConnectMenus();
     ConnectToolbar();
+    ConnectUndoKeys();
     connect(&m_document, &ProjectDocument::Replaced, this, &appInfoForm::ForgetReview);
     ForgetReview();
 }
@@ -106,6 +108,18 @@ void appInfoForm::ConnectToolbar()
     connect(ui->cmdToolbar_2, &QToolButton::clicked, this, &appInfoForm::Open);
 }
 
+/// In a text box they are the box's own, until it has nothing more to take back.
+void appInfoForm::ConnectUndoKeys()
+{
+    for (const QKeySequence &key : KeysOf(QKeySequence::Undo, Qt::CTRL | Qt::Key_Z))
+        connect(new QShortcut(key, this), &QShortcut::activated, &m_document,
+                &ProjectDocument::Undo);
+    for (const QKeySequence &key : KeysOf(QKeySequence::Redo, Qt::CTRL | Qt::SHIFT | Qt::Key_Z))
+        connect(new QShortcut(key, this), &QShortcut::activated, &m_document,
+                &ProjectDocument::Redo);
+    connect(&m_document, &ProjectDocument::WentTo, this, &appInfoForm::GoToChange);
+}
+
 void appInfoForm::FinishSetUp()
 {
     SelectStep(1);
@@ -156,7 +170,7 @@ void appInfoForm::ShowOpened(bool isUnsaved)
 {
     Review(false);
     SelectStep(1);
-    m_document.SetProjectChanged(isUnsaved);
+    isUnsaved ? m_document.MarkUnsaved() : m_document.SetProjectChanged(false);
 }
 
 void appInfoForm::OfferRescue()
@@ -271,6 +285,21 @@ void appInfoForm::Review(bool showResults)
     else if (showResults)
         ShowCritical(this, u"There are errors in your Vellsheet. "
                            "Please check the Error List for details."_s);
+}
+
+void appInfoForm::GoToChange(std::optional<FormField> field)
+{
+    if (!field) {
+        SelectStep(2);
+        return m_questions->Enter(); // also where step 2 was the selected one already
+    }
+    for (int step = 1; const StepPage *page : m_steps) {
+        if (page->Has(*field))
+            SelectStep(step);
+        ++step;
+    }
+    for (StepPage *page : m_steps)
+        page->Focus(*field);
 }
 
 void appInfoForm::GoToError(const ReviewEntry &entry)

@@ -63,6 +63,7 @@ private:
     void ConnectSteps();
     void ConnectMenus();
     void ConnectToolbar();
+    void ConnectUndoKeys();
 
     void New();
     void Open();
@@ -78,6 +79,7 @@ private:
     void LayOutIfLargeEnough();
 
     void Review(bool showResults);
+    void GoToChange(std::optional<FormField> field);
     void GoToError(const ReviewEntry &entry);
 
     Environment m_environment;

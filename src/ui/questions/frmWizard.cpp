@@ -199,18 +199,13 @@ void frmWizard::Finish()
 void frmWizard::Append(const Question &question)
 {
     m_document.SetProjectChanged(true);
-    m_document.ChangeQuestions([&](clsDataSource &source) { AppendQuestion(source, question); });
-    Remember(question.title);
-}
-
-void frmWizard::Remember(const QString &title)
-{
     QStringList offered;
     for (int i = 0; i < ui->cboWiz2_1->count(); ++i)
         offered += ui->cboWiz2_1->itemText(i);
-    QStringList remembered = m_document.project().TitleList;
-    RememberTitle(title, remembered, offered);
-    m_document.SetTitleList(remembered);
+    m_document.ChangeProject([&](Project &project) {
+        AppendQuestion(project.source, question);
+        RememberTitle(question.title, project.TitleList, offered);
+    });
     ui->cboWiz2_1->addItems(offered.sliced(ui->cboWiz2_1->count()));
 }
 

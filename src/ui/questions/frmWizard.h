@@ -51,7 +51,6 @@ private:
     void GoNext();
     void Finish();
     void Append(const Question &question);
-    void Remember(const QString &title);
     void StartAnother();
 
     Question Entered() const;

@@ -149,7 +149,8 @@ void StepQuestions::Duplicate()
         return;
 
     m_previewPending = false; // or the grid's reset would refresh the preview as well
-    const Outcome duplicated = document().ChangeQuestions(DuplicateQuestion);
+    const Outcome duplicated =
+        document().ChangeQuestions(DuplicateQuestion, ProjectDocument::Counts::No);
     if (!duplicated)
         return ShowExclamation(window(), duplicated.error().text);
     RefreshPreview(); // the project counts as unchanged, on purpose
