@@ -90,10 +90,10 @@ TEST(Snapshot, HoldsWhatNoProjectFileCan)
     EXPECT_EQ(read.project.source.MaxId(), odd.source.MaxId());
     const auto &questions = read.project.source.Questions().Rows();
     const auto &items = read.project.source.Items().Rows();
-    ASSERT_EQ(questions.size(), static_cast<size_t>(oddTexts.size()));
-    ASSERT_EQ(items.size(), static_cast<size_t>(oddTexts.size()));
-    for (size_t i = 0; i < questions.size(); ++i) {
-        const QString &text = oddTexts[static_cast<qsizetype>(i)];
+    ASSERT_EQ(questions.size(), oddTexts.size());
+    ASSERT_EQ(items.size(), oddTexts.size());
+    for (qsizetype i = 0; i < questions.size(); ++i) {
+        const QString &text = oddTexts[i];
         for (const QString &held : {questions[i].Title, questions[i].Question, questions[i].Type,
                                     questions[i].ColumnName, items[i].Item})
             EXPECT_EQ(held, text);
