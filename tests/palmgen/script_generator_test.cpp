@@ -1,54 +1,8 @@
-#include "palmgen/script_generator.h"
-
 #include "model/project_reader.h"
-#include "support/files.h"
-#include "support/print.h"
-
-#include <gtest/gtest.h>
+#include "scripts.h"
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
-
-namespace {
-
-const QString identifier = u"0123456789ABCDEF0123456789ABCDEF"_s;
-
-void AddQuestion(Project &project, const QuestionRow &row)
-{
-    project.source.AddQuestion();
-    project.source.Questions().Current() = row;
-}
-
-void AddItem(Project &project, int id, const QString &item)
-{
-    project.source.AddItem();
-    project.source.Items().Current() = {id, item};
-}
-
-Project ProjectOf(const QuestionRow &question)
-{
-    Project project;
-    project.FormName = u"Survey"_s;
-    AddQuestion(project, question);
-    return project;
-}
-
-QByteArray Lines(const Project &project, const QString &withIdentifier = identifier)
-{
-    const Script script = GenerateScript(project, withIdentifier);
-    EXPECT_TRUE(script.outcome) << (script.outcome ? ""
-                                                   : script.outcome.error().text.toStdString());
-    return script.bytes;
-}
-
-/// The line that begins with these words, without its CR LF.
-QByteArray LineOf(const QByteArray &script, const QByteArray &beginning)
-{
-    const qsizetype start = ("\n" + script).indexOf("\n" + beginning);
-    return start < 0 ? QByteArray() : script.sliced(start, script.indexOf("\r\n", start) - start);
-}
-
-} // namespace
 
 TEST(ScriptGenerator, WritesEveryKnownProjectByteForByte)
 {
@@ -101,28 +55,6 @@ TEST(ScriptGenerator, CountsInTwoHexadecimalDigits)
     }
 }
 
-TEST(ScriptGenerator, FailsOnMoreQuestionsThanItsCountHolds)
-{
-    Project project;
-    for (int i = 1; i <= 256; ++i)
-        AddQuestion(project, {.Order = i, .Type = u"Notes"_s, .Id = i});
-    const Script script = GenerateScript(project, identifier);
-    ASSERT_FALSE(script.outcome);
-    EXPECT_EQ(script.outcome.error().text,
-              u"The project has 256 questions, and a script holds no more than 255"_s);
-}
-
-TEST(ScriptGenerator, FailsOnAListQuestionWithoutItems)
-{
-    const auto project = ReadProject(BytesOf(DataFile(u"projects/edge-noitems.vmp"_s)));
-    ASSERT_TRUE(project);
-    const Script script = GenerateScript(*project, identifier);
-    ASSERT_FALSE(script.outcome);
-    EXPECT_TRUE(script.outcome.error().text.endsWith(u"is a list without items"));
-    EXPECT_TRUE(script.bytes.startsWith("hex\"flds\"")) << "what was written until then";
-    EXPECT_FALSE(script.bytes.contains("applicationiconname"));
-}
-
 TEST(ScriptGenerator, AnOnlyItemThatIsEmptyIsNoItemOnTheLine)
 {
     Project project = ProjectOf({.Type = u"Pulldown List"_s, .Id = 4});
@@ -160,95 +92,6 @@ TEST(ScriptGenerator, NumbersFormsByTheirPlace)
         EXPECT_TRUE(script.contains("\r\nNAVIGATION ID " + number + "\r\n"));
     }
     EXPECT_EQ(script.count("FORM ID"), 3);
-}
-
-TEST(ScriptGenerator, WritesTheDataFolderWithOneBackslashAtItsEnd)
-{
-    const struct {
-        const char *what;
-        QString folder;
-        QByteArray line;
-    } rows[] = {
-        {"one is added", uR"(D:\Forms)"_s, R"("D:\\Forms\\" 0x00)"},
-        {"one is there", uR"(D:\Forms\)"_s, R"("D:\\Forms\\" 0x00)"},
-        {"all are doubled", uR"(C:\a\\b)"_s, R"("C:\\a\\\\b\\" 0x00)"},
-        {"nothing but the added one", u""_s, R"("\\" 0x00)"},
-        {"blanks are not trimmed", uR"( C:\a )"_s, R"(" C:\\a \\" 0x00)"},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        Project project;
-        project.FormPath = row.folder;
-        EXPECT_TRUE(Lines(project).contains("HEX \"sdir\" id 1005\r\n" + row.line + "\r\n\r\n"));
-    }
-}
-
-TEST(ScriptGenerator, WritesAnEmptyIdentifierWhenNoneCouldBeMade)
-{
-    EXPECT_TRUE(Lines(Project(), u""_s).contains("HEX \"guid\" id 1006\r\n\"\" 0x00\r\n\r\n"));
-}
-
-TEST(ScriptGenerator, EscapesDescriptionAndQuestionAlone)
-{
-    Project project = ProjectOf({.Title = u"a\"b"_s,
-                                 .Question = u"say \"hi\""_s,
-                                 .Type = u"Text"_s,
-                                 .ColumnName = u"c\"d"_s,
-                                 .Id = 1});
-    project.FormName = u" n\"x "_s;
-    project.FormVersion = u"1\"0"_s;
-    const QByteArray script = Lines(project);
-    EXPECT_EQ(LineOf(script, "title"), "title \"a\"b\"");
-    EXPECT_EQ(LineOf(script, "label \"say"), "label \"say \\\"hi\\\"\" id 1 AT (10 34) FONT 1");
-    EXPECT_EQ(LineOf(script, "STRINGTABLE"), "STRINGTABLE ID 1004 \"\" \"c\"d\"");
-    EXPECT_EQ(LineOf(script, "applicationiconname"), "applicationiconname id 1000 \" n\"x \"")
-        << "the name as typed";
-    EXPECT_EQ(LineOf(script, "version"), "version id 1 \"1\"0\"");
-}
-
-TEST(ScriptGenerator, EscapesQuotes)
-{
-    const struct {
-        const char *what;
-        QString text, escaped;
-    } rows[] = {
-        {"nothing", u""_s, u""_s},
-        {"a quote", uR"(Say "hi")"_s, uR"(Say \"hi\")"_s},
-        {"one that is escaped already", uR"(Say \"hi\")"_s, uR"(Say \"hi\")"_s},
-        {"more backslashes in front are folded too", uR"(\\\"a)"_s, uR"(\"a)"_s},
-        {"quotes side by side", uR"("")"_s, uR"(\"\")"_s},
-        {"other backslashes stay", uR"(C:\a\\b\)"_s, uR"(C:\a\\b\)"_s},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        EXPECT_EQ(EscapeScriptString(row.text), row.escaped);
-    }
-    EXPECT_EQ(EscapeScriptString(QString(1000000, u'\\') + u'"'), uR"(\")"_s);
-}
-
-TEST(ScriptGenerator, AnUnknownTypeGivesItsLineAndCodes)
-{
-    const QByteArray script = Lines(ProjectOf({.Type = u"text"_s, .Id = 1}));
-    EXPECT_TRUE(script.contains("hex\"fldt\" ID 1001\r\n0x10 \r\n"));
-    EXPECT_TRUE(script.contains("hex\"ques\" ID 1002\r\n0x10 \r\n"));
-    EXPECT_TRUE(script.contains("FONT 1\r\nWrong Type\r\nBUTTON"));
-}
-
-TEST(ScriptGenerator, FailsOnACharacterThatTheCodePageLacks)
-{
-    Project project = ProjectOf({.Title = u"5 k\u03A9"_s, .Type = u"Text"_s, .Id = 1});
-    const Script script = GenerateScript(project, identifier);
-    ASSERT_FALSE(script.outcome);
-    EXPECT_EQ(script.outcome.error().text,
-              u"The title of question 1 has the character '\u03A9' (U+03A9), "
-              "which windows-1252 does not have."_s);
-    EXPECT_TRUE(script.bytes.endsWith("title \"5 k"));
-}
-
-TEST(ScriptGenerator, ReadsTheIdentifierFromItsRegistryForm)
-{
-    EXPECT_EQ(IdentifierDigits(u"{01234567-89AB-CDEF-0123-456789ABCDEF}"_s), identifier);
-    EXPECT_EQ(IdentifierDigits(u""_s), u""_s);
 }
 
 TEST(ScriptGenerator, AFilterHidesNothingFromTheScript)
