@@ -3,6 +3,7 @@
 #include "ui/questions/item_list_editor.h"
 
 #include "support/print.h"
+#include "ui/support/prompt_script.h"
 
 #include <QListView>
 #include <QPushButton>
@@ -86,5 +87,30 @@ public:
     ItemListEditor editor;
     ItemListControls names;
 };
+
+/// The items "Item 0", "Item 1", ...
+inline QStringList Numbered(int count)
+{
+    QStringList items;
+    for (int i = 0; i < count; ++i)
+        items += QStringLiteral("Item %1").arg(i);
+    return items;
+}
+
+/// The texts of the boxes, each of which must be the designer's and warn or ask.
+inline QStringList Texts(const PromptScript &prompts)
+{
+    QStringList texts;
+    for (const SeenBox &box : prompts.boxes()) {
+        texts += box.text;
+        EXPECT_EQ(box.title, QStringLiteral("Vellumo Designer"));
+        EXPECT_TRUE(box.icon == QMessageBox::Warning || box.icon == QMessageBox::Question);
+    }
+    return texts;
+}
+
+inline const QString tooManyItems = QStringLiteral("Please keep the list to 255 items or less.");
+inline const QString anItem = QStringLiteral("Please add an item to the List.");
+inline const QString theItem = QStringLiteral("Please add the item to the List.");
 
 } // namespace vellumo

@@ -131,6 +131,10 @@ private:
     std::unique_ptr<frmWizard> m_wizard;
 };
 
+/// What the wizard asks when a question is finished.
+inline const QString another = QStringLiteral("You have successfully created a question.\r\n"
+                                              "Would you like to create another one?");
+
 /// The texts of the boxes, each of which must be an exclamation with an OK button.
 inline QStringList Exclamations(const PromptScript &prompts)
 {

@@ -121,6 +121,19 @@ TEST(WizardRefusals, OfAQuestionDifferByTheButton)
         }
 }
 
+/// Gives the question so many items, the last of them by the button.
+void Fill(const WizardDesk &desk, int count)
+{
+    QStringList items;
+    for (int i = 1; i < count; ++i)
+        items += QString::number(i);
+    desk.Items()->SetItems(items);
+    const PromptScript adding({u"the last"_s});
+    QTest::mouseClick(desk.Find<QPushButton>(u"cmdWiz4_Add"_s), Qt::LeftButton);
+    EXPECT_EQ(adding.questions(), QStringList{u"Please add an item to the List."_s})
+        << "one more than allowed can be added";
+}
+
 TEST(WizardRefusals, OfItemsComeWhenTheQuestionIsFinished)
 {
     const struct {
@@ -140,16 +153,8 @@ TEST(WizardRefusals, OfItemsComeWhenTheQuestionIsFinished)
         WizardDesk desk;
         desk.Open();
         desk.GoToItems(row.type);
-        if (row.items > 0) {
-            QStringList items;
-            for (int i = 1; i < row.items; ++i)
-                items += QString::number(i);
-            desk.Items()->SetItems(items);
-            const PromptScript adding({u"the last"_s});
-            QTest::mouseClick(desk.Find<QPushButton>(u"cmdWiz4_Add"_s), Qt::LeftButton);
-            EXPECT_EQ(adding.questions(), QStringList{u"Please add an item to the List."_s})
-                << "one more than allowed can be added";
-        }
+        if (row.items > 0)
+            Fill(desk, row.items);
         ASSERT_EQ(desk.Items()->Items().size(), row.items);
         const PromptScript prompts({row.message.isEmpty() ? u"No"_s : u"OK"_s});
         desk.Press(finish);
