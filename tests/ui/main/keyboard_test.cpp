@@ -110,4 +110,20 @@ TEST(Keyboard, DesignsSavesAndCreatesAWholeInspection)
     EXPECT_FALSE(designer.ProjectChanged());
 }
 
+TEST(Keys, AreThoseOfThePlatform)
+{
+    const Designer designer;
+    const struct {
+        const char *action;
+        QKeySequence key;
+    } rows[] = {
+        {"mnuFileNew", QKeySequence::New},     {"mnuFileOpen", QKeySequence::Open},
+        {"mnuFileSave", QKeySequence::Save},   {"mnuFileSaveAS", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+        {"mnuFileExit", Qt::CTRL | Qt::Key_Q}, {"mnuContents", Qt::Key_F1},
+    };
+    for (const auto &row : rows)
+        EXPECT_TRUE(designer.Find<QAction>(row.action)->shortcuts().contains(row.key))
+            << row.action;
+}
+
 } // namespace

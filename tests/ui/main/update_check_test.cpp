@@ -1,19 +1,10 @@
-#include "ui/main/update_check.h"
-
-#include "support/print.h"
 #include "ui/main/site.h"
-#include "ui/main/web_server.h"
-#include "ui/support/prompt_script.h"
+#include "ui/main/update_check_run.h"
 
 #include <QNetworkProxyFactory>
-#include <QSslConfiguration>
-#include <QTcpSocket>
-#include <QTest>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -25,37 +16,6 @@ QString HeaderOf(const QString &request, const QString &name)
             return line.sliced(name.size() + 2);
     return {};
 }
-
-class UpdateCheck : public testing::Test
-{
-protected:
-    UpdateCheck()
-    {
-        // The proxies of whoever runs the tests do not lead to the loopback.
-        for (const char *name :
-             {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
-            qunsetenv(name);
-        m_environment.version = u"1.1.2"_s;
-        m_environment.open = [this](const QString &target) { m_opened += target; };
-    }
-
-    /// With the time-out of a day, one that must end by itself: no test outlasts it.
-    void Check(const QString &site, std::chrono::milliseconds timeOut = 24h)
-    {
-        m_environment.siteAddress = site;
-        QWidget parent;
-        CheckForUpdate(&parent, m_environment, timeOut);
-        EXPECT_TRUE(parent.children().isEmpty()) << "something of the check is left";
-    }
-
-    static void ExpectAllClosed(const WebServer &server)
-    {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return server.openConnections() == 0; }));
-    }
-
-    Environment m_environment;
-    QStringList m_opened;
-};
 
 TEST_F(UpdateCheck, OffersANewerVersion)
 {
@@ -101,86 +61,6 @@ TEST_F(UpdateCheck, AsksOnceAndTellsWhoAsks)
     ExpectAllClosed(server);
 }
 
-TEST_F(UpdateCheck, SaysNothingOfWhatIsNoNewerVersion)
-{
-    const struct {
-        const char *what;
-        QByteArray answer;
-    } rows[] = {
-        {"current", Page("1.1.2")},
-        {"no dot", Page("2")},
-        {"letters", Page("<!DOCTYPE html><title>vellumo.example</title>")},
-        {"a mark and two bytes a character", Page({"\xFF\xFE"
-                                                   "9\0.\0009\0.\0009\0",
-                                                   12})},
-        {"empty", Page("")},
-        {"newer, but too far behind", Page(QByteArray(1000000, ' ') + "9.9.9")},
-        {"a failure that looks like a version", "HTTP/1.1 404 Not Found\r\n\r\n9.9.9"},
-        {"a failure of the server", "HTTP/1.1 500 No\r\nContent-Length: 5\r\n\r\n9.9.9"},
-        {"no HTTP at all", "9.9.9\r\n\r\n"},
-        {"a password wanted",
-         "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"a\"\r\n\r\n9.9.9"},
-        {"a length that lies, and no body", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n"},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        const WebServer server([&](const QString &) { return row.answer; });
-        const PromptScript script;
-        Check(server.Address());
-        EXPECT_TRUE(script.boxes().empty());
-        EXPECT_GE(server.requests().size(), 1);
-        ExpectAllClosed(server);
-    }
-}
-
-TEST_F(UpdateCheck, ReadsTheStartOfALongAnswerAndHangsUp)
-{
-    const WebServer server(
-        [](const QString &) { return "HTTP/1.1 200 OK\r\n\r\n2.0.0" + QByteArray(100000, 'x'); },
-        WebServer::After::repeatsForever);
-    const PromptScript script({u"No"_s});
-    Check(server.Address());
-    EXPECT_EQ(script.boxes().size(), 1u);
-    ExpectAllClosed(server);
-    EXPECT_LT(server.bytesSent(), 64 * 1024 * 1024) << "what the system buffers, and no more";
-}
-
-TEST_F(UpdateCheck, WaitsNoLongerThanTheTimeOut)
-{
-    EXPECT_EQ(updateTimeOut, 4s) << "unless another is handed in";
-    const WebServer silent([](const QString &) { return QByteArray(); });
-    const PromptScript script;
-    Check(silent.Address(), 300ms);
-    EXPECT_EQ(silent.requests().size(), 1);
-    EXPECT_TRUE(script.boxes().empty());
-    ExpectAllClosed(silent);
-}
-
-TEST_F(UpdateCheck, TakesWhatCameOfAnAnswerWithoutEnd)
-{
-    const WebServer server(
-        [](const QString &) { return "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n2.0.0"_ba; },
-        WebServer::After::staysOpen);
-    const PromptScript script({u"No"_s});
-    Check(server.Address(), 300ms);
-    EXPECT_EQ(script.boxes().size(), 1u);
-    ExpectAllClosed(server);
-}
-
-TEST_F(UpdateCheck, SaysNothingWhereNobodyAnswers)
-{
-    QTcpSocket holder; // of a port at which nobody listens
-    ASSERT_TRUE(holder.bind(QHostAddress::LocalHost));
-    const QString closed = u"http://127.0.0.1:%1"_s.arg(holder.localPort());
-    for (const QString &site : {closed, u"http://vellumo.invalid"_s, u"http://"_s, u""_s,
-                                u"none:nothing"_s, u"file:///etc"_s}) {
-        SCOPED_TRACE(site.toStdString());
-        const PromptScript script;
-        Check(site, 1s);
-        EXPECT_TRUE(script.boxes().empty());
-    }
-}
-
 TEST_F(UpdateCheck, FollowsARedirection)
 {
     const WebServer server([](const QString &path) {
@@ -203,71 +83,6 @@ TEST_F(UpdateCheck, LeavesACircleOfRedirections)
     const PromptScript script;
     Check(server.Address());
     EXPECT_GT(server.requests().size(), 1);
-    EXPECT_TRUE(script.boxes().empty());
-    ExpectAllClosed(server);
-}
-
-TEST_F(UpdateCheck, TrustsNoCertificateThatNobodyVouchesFor)
-{
-    const auto server = WebServer::Encrypted([](const QString &) { return Page("9.9.9"); });
-    const PromptScript script;
-    Check(server->Address());
-    EXPECT_EQ(server->connectionCount(), 1) << "it was asked";
-    EXPECT_EQ(server->requests().size(), 0) << "but told nothing";
-    EXPECT_TRUE(script.boxes().empty());
-    ExpectAllClosed(*server);
-}
-
-/// While it lives, the certificate of the test's server is vouched for.
-class Trusting
-{
-public:
-    Trusting()
-    {
-        QSslConfiguration configuration = m_before;
-        configuration.setCaCertificates(WebServer::Certificate());
-        QSslConfiguration::setDefaultConfiguration(configuration);
-    }
-    ~Trusting() { QSslConfiguration::setDefaultConfiguration(m_before); }
-    Q_DISABLE_COPY_MOVE(Trusting)
-
-private:
-    QSslConfiguration m_before = QSslConfiguration::defaultConfiguration();
-};
-
-TEST_F(UpdateCheck, SpeaksWithATrustedSite)
-{
-    const Trusting trusting;
-    const auto server = WebServer::Encrypted([](const QString &) { return Page("1.1.3"); });
-    const PromptScript script({u"Yes"_s});
-    Check(server->Address());
-    EXPECT_EQ(script.boxes().size(), 1u);
-    EXPECT_EQ(m_opened, QStringList{server->Address() + u"/download"_s});
-    ExpectAllClosed(*server);
-}
-
-TEST_F(UpdateCheck, IsNotLedFromAnEncryptedSiteToAPlainOne)
-{
-    const Trusting trusting;
-    const WebServer plain([](const QString &) { return Page("9.9.9"); });
-    const auto server = WebServer::Encrypted([&](const QString &) {
-        return "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " +
-               plain.Address().toLatin1() + "/\r\n\r\n";
-    });
-    const PromptScript script;
-    Check(server->Address());
-    EXPECT_EQ(server->requests().size(), 1);
-    EXPECT_EQ(plain.connectionCount(), 0);
-    EXPECT_TRUE(script.boxes().empty());
-}
-
-TEST_F(UpdateCheck, SpeaksNoPlainTextWithAnEncryptedSite)
-{
-    const WebServer server([](const QString &) { return Page("9.9.9"); });
-    const PromptScript script;
-    QString address = server.Address();
-    Check(address.replace(u"http:"_s, u"https:"_s), 1s);
-    EXPECT_GE(server.connectionCount(), 1);
     EXPECT_TRUE(script.boxes().empty());
     ExpectAllClosed(server);
 }
