@@ -6,6 +6,7 @@
 #include <sys/user.h>
 
 #include <array>
+#include <bit>
 #include <cstring>
 #include <fstream>
 #include <string>
@@ -110,7 +111,7 @@ bool Tracee::IsWritable(int descriptorArgument) const
 bool Tracee::Read(std::uint64_t address, void *to, std::size_t size) const
 {
     const iovec here = {to, size};
-    const iovec there = {reinterpret_cast<void *>(address), size};
+    const iovec there = {std::bit_cast<void *>(address), size};
     return process_vm_readv(m_pid, &here, 1, &there, 1, 0) == static_cast<ssize_t>(size);
 }
 
