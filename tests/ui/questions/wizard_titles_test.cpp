@@ -30,10 +30,24 @@ TEST(WizardFinish, RemembersTheTenLatestTitles)
     EXPECT_EQ(desk.Title()->currentText(), u""_s) << "none is chosen";
 }
 
+TEST(WizardFinish, IsOneStepWithTheTitle)
+{
+    WizardDesk desk;
+    desk.Open();
+    const PromptScript prompts({u"No"_s});
+    desk.Make(u"Bird"_s);
+    EXPECT_EQ(prompts.texts(), QStringList{another});
+    EXPECT_EQ(desk.document.source().QuestionCount(), 1);
+    desk.document.Undo();
+    EXPECT_EQ(desk.document.source().QuestionCount(), 0);
+    EXPECT_EQ(desk.document.source().MaxId(), 1);
+    EXPECT_EQ(desk.document.project().TitleList, QStringList{u""_s});
+}
+
 TEST(WizardFinish, TakesATitleFromTheDropDown)
 {
     WizardDesk desk;
-    desk.document.SetTitleList({u""_s, u"Bird"_s});
+    desk.document.Replace({.TitleList = {u""_s, u"Bird"_s}}, {});
     desk.Open();
     desk.Choose(u"Text"_s);
     desk.Press(next);
@@ -53,7 +67,7 @@ TEST(WizardFinish, TakesATitleFromTheDropDown)
 TEST(WizardFinish, TakesATitleAsItWasTyped)
 {
     WizardDesk desk;
-    desk.document.SetTitleList({u"Bird"_s, u"birdhouse"_s});
+    desk.document.Replace({.TitleList = {u"Bird"_s, u"birdhouse"_s}}, {});
     desk.Open();
     desk.Choose(u"Text"_s);
     desk.Press(next);
