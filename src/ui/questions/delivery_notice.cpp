@@ -1,5 +1,6 @@
 #include "ui/questions/delivery_notice.h"
 
+#include "handheld/misfits.h"
 #include "validation/delivery_warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -21,9 +22,10 @@ DeliveryNotice NoticeOf(const Project &project, int position)
     if (position == 0)
         return {};
     QStringList lines;
-    for (const DeliveryWarning &warning : FindDeliveryWarnings(project))
-        if (warning.place.question == position)
-            lines += InWords(warning);
+    for (const auto &warnings : {FindDeliveryWarnings(project), FindMisfits(project)})
+        for (const DeliveryWarning &warning : warnings)
+            if (warning.place.question == position)
+                lines += InWords(warning);
     if (lines.isEmpty())
         return {};
     const QString others = lines.size() > 1 ? u" (and %1 more)"_s.arg(lines.size() - 1) : QString();

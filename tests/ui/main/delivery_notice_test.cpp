@@ -64,6 +64,14 @@ TEST(DeliveryNotice, TellsTheFirstInWordsTheNumberOfOthersAndAllBesides)
     EXPECT_EQ(questions.Notice().toolTip(), Qt::convertFromPlainText(quote + u'\n' + backslash));
 }
 
+TEST(DeliveryNotice, TellsWhatDoesNotFit)
+{
+    const Questions questions({{1, u"Age"_s, QString(40, u'W'), u"Notes"_s, u"AGE"_s, 1}});
+    EXPECT_TRUE(questions.Notice().text().contains(u"pixels too wide"_s))
+        << questions.Notice().text().toStdString();
+    EXPECT_TRUE(questions.Notice().text().startsWith(u"Question text: "_s));
+}
+
 TEST(DeliveryNotice, FollowsThePreview)
 {
     Questions questions({{1, u"A\"ge"_s, u"How old?"_s, u"Numeric"_s, u"AGE"_s, 1},
