@@ -28,9 +28,10 @@ constexpr Command commands[] = {
      .shape = {.mostInputs = anyNumber, .whichInput = whichProject},
      .run = ReviewProjects},
     {.name = "create"_L1,
-     .synopsis = "PROJECT... [-o DIR] [--guid HEX32] [--timeout SECONDS]"_L1,
+     .synopsis = "PROJECT... [-o DIR|FILE.prc] [--guid HEX32] [--timeout SECONDS]"_L1,
      .help = "Reviews each project, makes its database, reads that back and prints its\n"
-             "path. DIR is \"My Vellumo\" in the documents folder unless given.\n"_L1,
+             "path. DIR is \"My Vellumo\" in the documents folder unless given; it is made\n"
+             "where its name ends in a slash. FILE.prc is for a single project.\n"_L1,
      .shape = {.mostInputs = anyNumber,
                .whichInput = whichProject,
                .output = true,
@@ -72,7 +73,8 @@ constexpr QLatin1StringView head =
 constexpr QLatin1StringView tail = R"(  vellumo --help | --version
 
   --guid HEX32       the identifier to build in, 32 hexadecimal digits; a new one
-                     is made unless given
+                     is made unless given. With it, or with SOURCE_DATE_EPOCH in
+                     the environment, the same project gives the same database
   --timeout SECONDS  how long each tool may take, 60 unless given
   --json             one JSON object a line for each finding, result or error
   --                 what follows are names, whatever they begin with

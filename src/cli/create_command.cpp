@@ -2,6 +2,7 @@
 
 #include "cli/checked_database.h"
 #include "cli/inputs.h"
+#include "cli/reproducible.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/work_folder.h"
@@ -15,18 +16,36 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// Puts the database of an input into a folder and tells its path. Made has the databases of the
+bool NamesAFile(const QString &output)
+{
+    return output.endsWith(".prc"_L1, Qt::CaseInsensitive) && !QFileInfo(output).isDir();
+}
+
+/// The folder for databases that have the names of their forms: the user's own, or the named one,
+/// which is made where the name ends as only that of a folder does.
+Result<QString> DatabaseFolder(const QString &output)
+{
+    const QString folder = output.isEmpty() ? ProjectsFolder() : output;
+    const bool mayMake =
+        output.isEmpty() || output.endsWith(u'/') || output.endsWith(QDir::separator());
+    if (mayMake && !(output.isEmpty() ? MakeProjectsFolder() : QDir().mkpath(folder)))
+        return Error{u"The folder cannot be made"_s, folder};
+    if (!QFileInfo(folder).isDir())
+        return Error{u"There is no such folder"_s, folder};
+    return folder;
+}
+
+/// Puts the database of an input in its place and tells its path. Made has the databases of the
 /// same call and the inputs that they were made from.
-Exit PutInPlace(const CheckedDatabase &database, const QString &inputName, const QString &folder,
+Exit PutInPlace(const QByteArray &database, const QString &target, const QString &inputName,
                 const Console &console, QHash<QString, QString> &made)
 {
-    const QString target = QDir(folder).filePath(database.fileName);
     // An older database makes room, that of another project of this call does not.
     if (made.contains(target))
         return Refuse(console, Exit::NotWritten,
                       {u"its database would take the place of that of %1"_s.arg(made.value(target)),
                        inputName});
-    if (const Outcome replaced = ReplaceFile(target, database.bytes); !replaced)
+    if (const Outcome replaced = ReplaceFile(target, database); !replaced)
         return Refuse(console, Exit::NotWritten, replaced.error());
     made.insert(target, inputName);
     const QString path = QDir::toNativeSeparators(QFileInfo(target).absoluteFilePath());
@@ -34,28 +53,47 @@ Exit PutInPlace(const CheckedDatabase &database, const QString &inputName, const
     return Exit::Fine;
 }
 
+CheckedDatabase MakeOne(const QString &input, const CommandLine &line, const Console &console)
+{
+    Fingerprint fingerprint;
+    Result<Project> project = ReadProjectInput(input, console, &fingerprint);
+    if (!project)
+        return {Refuse(console, Exit::Unreadable, project.error())};
+    const auto reproduction = ReproductionOf(fingerprint, line);
+    if (!reproduction)
+        return {Refuse(console, Exit::WrongUse, {reproduction.error().text, u"vellumo"_s})};
+    if (!*reproduction)
+        return MakeCheckedDatabase(*project, InputName(input), line, console);
+
+    CommandLine reproducible = line;
+    reproducible.identifier = (*reproduction)->identifier;
+    CheckedDatabase database =
+        MakeCheckedDatabase(*project, InputName(input), reproducible, console);
+    if (database.exit == Exit::Fine)
+        SetTimes(database.bytes, (*reproduction)->secondsSince1970);
+    return database;
+}
+
 } // namespace
 
 Exit CreateDatabases(const CommandLine &line, const Console &console)
 {
-    const QString folder = line.output.isEmpty() ? ProjectsFolder() : line.output;
-    // Only our own folder is made; one that is named has to be there.
-    if (line.output.isEmpty() && !MakeProjectsFolder())
-        return Refuse(console, Exit::NotWritten, {u"The folder cannot be made"_s, folder});
-    if (!QFileInfo(folder).isDir())
-        return Refuse(console, Exit::NotWritten, {u"There is no such folder"_s, folder});
+    const bool toFile = NamesAFile(line.output);
+    if (toFile && line.inputs.size() > 1)
+        return Refuse(console, Exit::WrongUse,
+                      {u"-o names one file for several projects; name a folder."_s, u"vellumo"_s});
+    Result<QString> folder = QString();
+    if (!toFile && !(folder = DatabaseFolder(line.output)))
+        return Refuse(console, Exit::NotWritten, folder.error());
 
     WorkFolder::RemoveLeft();
     QHash<QString, QString> made;
     return ForEachInput(line, console, [&](const QString &input) {
-        Result<Project> project = ReadProjectInput(input, console);
-        if (!project)
-            return Refuse(console, Exit::Unreadable, project.error());
-        const CheckedDatabase database =
-            MakeCheckedDatabase(*project, InputName(input), line, console);
-        return database.exit == Exit::Fine
-                   ? PutInPlace(database, InputName(input), folder, console, made)
-                   : database.exit;
+        const CheckedDatabase database = MakeOne(input, line, console);
+        if (database.exit != Exit::Fine)
+            return database.exit;
+        const QString target = toFile ? line.output : QDir(*folder).filePath(database.fileName);
+        return PutInPlace(database.bytes, target, InputName(input), console, made);
     });
 }
 

@@ -45,11 +45,14 @@ bool LooksLikeDatabase(const QByteArray &bytes)
     return !isUtf16 && bytes.left(78).contains('\0');
 }
 
-Result<Project> ReadProjectInput(const QString &name, const Console &console)
+Result<Project> ReadProjectInput(const QString &name, const Console &console,
+                                 Fingerprint *fingerprint)
 {
     const Result<QByteArray> bytes = ReadInput(name, projectLimit, console);
     if (!bytes)
         return bytes.error();
+    if (fingerprint)
+        *fingerprint = FingerprintOf(*bytes);
     Result<Project> project = ReadProject(*bytes);
     if (!project)
         return Error{project.error().text, InputName(name), project.error().line};

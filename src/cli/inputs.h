@@ -2,7 +2,7 @@
 
 #include "cli/command_line.h"
 #include "cli/console.h"
-#include "model/project.h"
+#include "model/project_file.h"
 #include "platform/files.h"
 
 #include <functional>
@@ -18,8 +18,9 @@ extern const FileLimit eitherLimit;
 /// Whether bytes that are a project or a database are rather the latter.
 bool LooksLikeDatabase(const QByteArray &bytes);
 
-/// The project in an input.
-Result<Project> ReadProjectInput(const QString &name, const Console &console);
+/// The project in an input, and the fingerprint of its bytes where it is asked for.
+Result<Project> ReadProjectInput(const QString &name, const Console &console,
+                                 Fingerprint *fingerprint = nullptr);
 
 /// An input's name as messages have it.
 QString InputName(const QString &name);

@@ -8,14 +8,11 @@
 #include <QFileInfo>
 
 namespace vellumo {
-namespace {
 
 Fingerprint FingerprintOf(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
-
-} // namespace
 
 Result<Project> LoadProject(const QString &path, Fingerprint *fingerprint)
 {

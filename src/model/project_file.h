@@ -10,6 +10,8 @@ inline constexpr QLatin1StringView invalidProjectFile{"This file is not a valid 
 
 /// What tells the bytes of a file from others; empty = unknown.
 using Fingerprint = QByteArray;
+/// Their SHA-256.
+Fingerprint FingerprintOf(const QByteArray &bytes);
 
 /// The project that a file holds; the cursor stands on its first question. The error has file, line
 /// and reason, for those who want more than invalidProjectFile. Where a fingerprint is asked for,
