@@ -12,7 +12,8 @@ for program in vellumo-designer pilrc build-prc Vellumo_Help.chm; do
 done
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_STATE_HOME=$work/state
 export XDG_RUNTIME_DIR=$work
-export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='*.debug=false'
+# The toolkit's words are heard here, which speaks of a locale without UTF-8.
+export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='*.debug=false' LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY
 # Whatever site the program was built for: nobody answers.
 export http_proxy=http://127.0.0.1:9 https_proxy=http://127.0.0.1:9 no_proxy=
