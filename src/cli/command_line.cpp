@@ -1,6 +1,9 @@
 #include "cli/command_line.h"
 
+#include "cli/near_miss.h"
+
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +18,44 @@ const QCommandLineOption timeout = {u"timeout"_s, {}, u"SECONDS"_s};
 const QCommandLineOption json(u"json"_s);
 
 constexpr int longestTimeout = 24 * 60 * 60; // in milliseconds still an int
+
+bool IsOption(const QString &word)
+{
+    return word.startsWith(u'-') && word.size() > 1;
+}
+
+/// Whether the next word belongs to this one.
+bool TakesNext(const QString &word)
+{
+    for (const QCommandLineOption &option : {output, identifier, timeout})
+        for (const QString &name : option.names())
+            if (word == (name.size() == 1 ? u'-' + name : u"--"_s + name))
+                return true;
+    return false;
+}
+
+bool LooksLikeAName(const QString &word)
+{
+    return word.endsWith(".vmp"_L1, Qt::CaseInsensitive) ||
+           word.endsWith(".prc"_L1, Qt::CaseInsensitive) || QFileInfo::exists(word);
+}
+
+/// What helps somebody whose words are not understood, to stand behind what is wrong with them.
+QString HintFor(const QStringList &words, const QCommandLineParser &parser)
+{
+    for (const QString &word : words) {
+        if (word == "--"_L1)
+            break;
+        if (IsOption(word) && LooksLikeAName(word))
+            return u" If '%1' is a name, put '--' before it."_s.arg(word);
+    }
+    for (const QString &unknown : parser.unknownOptionNames())
+        if (const QString meant = NearMiss(unknown, {u"json"_s, u"guid"_s, u"timeout"_s,
+                                                     u"output"_s, u"help"_s, u"version"_s});
+            !meant.isEmpty())
+            return u" Did you mean '--%1'?"_s.arg(meant);
+    return {};
+}
 
 Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape)
 {
@@ -31,6 +72,17 @@ Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape)
 
 } // namespace
 
+qsizetype CommandAt(const QStringList &words)
+{
+    for (qsizetype i = 0; i < words.size() && words[i] != "--"_L1; ++i) {
+        if (!IsOption(words[i]))
+            return i;
+        if (TakesNext(words[i]))
+            ++i;
+    }
+    return -1;
+}
+
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape)
 {
     QCommandLineParser parser;
@@ -43,7 +95,7 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
         parser.addOption(timeout);
     // The parser takes the first word for the program's name.
     if (!parser.parse(QStringList{u"vellumo"_s} + words))
-        return Error{parser.errorText()};
+        return Error{parser.errorText() + HintFor(words, parser)};
 
     CommandLine line = {.inputs = parser.positionalArguments(), .json = parser.isSet(json)};
     if (shape.output && parser.isSet(output)) {

@@ -15,7 +15,7 @@ struct CommandShape {
     bool timeout = false;              ///< --timeout SECONDS
 };
 
-/// What was asked for after the command's name.
+/// What was asked for beside the command's name.
 struct CommandLine {
     QStringList inputs;      ///< at least one; "-" is standard input
     QString output = {};     ///< of -o; empty = not given
@@ -24,7 +24,11 @@ struct CommandLine {
     bool json = false;
 };
 
-/// Reads the words after the command's name. Everything after "--" is an input.
+/// Where in the words of the whole line the command's name stands: the first that is no option and
+/// no option's value. None stands after "--"; then, and where there is none at all, it is -1.
+qsizetype CommandAt(const QStringList &words);
+
+/// Reads the words but the command's name. Everything after "--" is an input.
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape);
 
 } // namespace vellumo

@@ -70,9 +70,12 @@ constexpr Command commands[] = {
 constexpr QLatin1StringView head =
     "vellumo turns projects of Vellumo Designer into Palm databases, without a window.\n\n"_L1;
 
-constexpr QLatin1StringView tail = R"(  vellumo --help | --version
+constexpr QLatin1StringView tail = R"(  vellumo help [COMMAND] | --help | --version
 
-  --guid HEX32       the identifier to build in, 32 hexadecimal digits; a new one
+)"_L1;
+
+constexpr QLatin1StringView options =
+    R"(  --guid HEX32       the identifier to build in, 32 hexadecimal digits; a new one
                      is made unless given. With it, or with SOURCE_DATE_EPOCH in
                      the environment, the same project gives the same database
   --timeout SECONDS  how long each tool may take, 60 unless given
@@ -80,7 +83,10 @@ constexpr QLatin1StringView tail = R"(  vellumo --help | --version
   --                 what follows are names, whatever they begin with
   -                  in place of a file: standard input or output
 
-Exit status: 0 fine; 1 findings, or the project does not pass; 2 wrong use; 3 an
+)"_L1;
+
+constexpr QLatin1StringView exits =
+    R"(Exit status: 0 fine; 1 findings, or the project does not pass; 2 wrong use; 3 an
 input is unreadable or no project or database; 4 a tool is missing or failed; 5 an
 output could not be written. Of several projects each is tried, and the highest
 status is returned.
@@ -93,6 +99,11 @@ QString Indented(QLatin1StringView text)
     for (const QLatin1StringView line : text.tokenize(u'\n', Qt::SkipEmptyParts))
         indented.append("      "_L1).append(line).append(u'\n');
     return indented;
+}
+
+QString HelpOf(const Command &command)
+{
+    return "  vellumo %1 %2\n"_L1.arg(command.name, command.synopsis) + Indented(command.help);
 }
 
 } // namespace
@@ -108,12 +119,25 @@ const Command *CommandNamed(const QString &name)
     return found == std::end(commands) ? nullptr : found;
 }
 
+QStringList CommandNames()
+{
+    QStringList names;
+    for (const Command &command : commands)
+        names += command.name;
+    return names;
+}
+
 QString HelpText()
 {
     QString text = head;
     for (const Command &command : commands)
-        text += "  vellumo %1 %2\n"_L1.arg(command.name, command.synopsis) + Indented(command.help);
-    return text + tail;
+        text += HelpOf(command);
+    return text + tail + options + exits;
+}
+
+QString HelpText(const Command &command)
+{
+    return HelpOf(command) + u'\n' + options + exits;
 }
 
 } // namespace vellumo

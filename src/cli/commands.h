@@ -22,7 +22,11 @@ std::span<const Command> Commands();
 /// The command of exactly this name; null where there is none.
 const Command *CommandNamed(const QString &name);
 
-/// What --help prints.
+/// Their names, likewise.
+QStringList CommandNames();
+
+/// What --help prints, and what it prints of one command alone.
 QString HelpText();
+QString HelpText(const Command &command);
 
 } // namespace vellumo

@@ -1,6 +1,7 @@
 #include "cli/vellumo.h"
 
 #include "cli/commands.h"
+#include "cli/near_miss.h"
 
 #include <algorithm>
 
@@ -24,24 +25,48 @@ bool HasOption(const QStringList &words, const QString &option)
     return std::find(words.begin(), end, option) != end;
 }
 
-Exit Run(const QStringList &words, const Console &console, const Outcome &typed)
+Exit RefuseCommand(const Console &console, const QString &name)
 {
-    if (!typed)
-        return RefuseUse(console, typed.error().text);
-    if (HasOption(words, u"--help"_s) || HasOption(words, u"-h"_s)) {
+    const QString meant = NearMiss(name, CommandNames());
+    const QString hint = meant.isEmpty() ? QString() : u" Did you mean '%1'?"_s.arg(meant);
+    return RefuseUse(console, u"There is no command '%1'."_s.arg(name) + hint);
+}
+
+/// Of one command where its name is among the words, of all where none is.
+Exit Help(const QStringList &words, const Console &console)
+{
+    const qsizetype at = CommandAt(words);
+    if (at < 0) {
         console.Write(HelpText().toLatin1());
         return Exit::Fine;
     }
-    if (HasOption(words, u"--version"_s)) {
+    const Command *command = CommandNamed(words[at]);
+    if (!command)
+        return RefuseCommand(console, words[at]);
+    console.Write(HelpText(*command).toLatin1());
+    return Exit::Fine;
+}
+
+Exit Run(QStringList words, const Console &console, const Outcome &typed)
+{
+    if (!typed)
+        return RefuseUse(console, typed.error().text);
+    if (HasOption(words, u"--version"_s) && !HasOption(words, u"--help"_s)) {
         console.Write("vellumo " VELLUMO_VERSION "\n");
         return Exit::Fine;
     }
-    if (words.isEmpty())
+    const qsizetype at = CommandAt(words);
+    const QString name = at < 0 ? QString() : words.takeAt(at);
+    if (name == "help"_L1)
+        return Help(words, console);
+    if (HasOption(words, u"--help"_s) || HasOption(words, u"-h"_s))
+        return Help(at < 0 ? QStringList() : QStringList{name}, console);
+    if (at < 0)
         return RefuseUse(console, u"Which command?"_s);
-    const Command *command = CommandNamed(words.first());
+    const Command *command = CommandNamed(name);
     if (!command)
-        return RefuseUse(console, u"There is no command '%1'."_s.arg(words.first()));
-    const Result<CommandLine> line = ParseCommandLine(words.sliced(1), command->shape);
+        return RefuseCommand(console, name);
+    const Result<CommandLine> line = ParseCommandLine(words, command->shape);
     if (!line)
         return RefuseUse(console, line.error().text);
     return command->run(*line, console);

@@ -15,14 +15,62 @@ const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
 TEST_F(Vellumo, SaysHowToUseIt)
 {
     EXPECT_EQ(Run({u"--help"_s}), 0);
+    const QString help = Out();
     for (const QString &command : {u"create"_s, u"info"_s, u"review"_s, u"rewrite"_s, u"screens"_s,
                                    u"script"_s, u"verify"_s}) {
-        EXPECT_TRUE(Out().contains(u"vellumo "_s + command)) << command.toStdString();
+        EXPECT_TRUE(help.contains(u"vellumo "_s + command)) << command.toStdString();
         EXPECT_EQ(Run({command, u"--help"_s}), 0);
     }
     EXPECT_EQ(Err(), u""_s);
     EXPECT_EQ(Run({u"--version"_s}), 0);
     EXPECT_TRUE(Out().startsWith(u"vellumo 1."));
+}
+
+TEST_F(Vellumo, SaysHowToUseOneCommand)
+{
+    for (const QStringList &words :
+         {QStringList{u"help"_s, u"create"_s}, QStringList{u"create"_s, u"--help"_s},
+          QStringList{u"--help"_s, u"create"_s}, QStringList{u"create"_s, u"-h"_s}}) {
+        EXPECT_EQ(Run(words), 0);
+        EXPECT_TRUE(Out().startsWith(u"  vellumo create PROJECT..."_s));
+        EXPECT_FALSE(Out().contains(u"vellumo review"_s));
+        EXPECT_TRUE(Out().contains(u"--guid HEX32"_s));
+    }
+    EXPECT_EQ(Run({u"help"_s}), 0);
+    const QString all = Out();
+    EXPECT_EQ(Run({u"--help"_s}), 0);
+    EXPECT_EQ(Out(), all);
+}
+
+TEST_F(Vellumo, SuggestsWhatMayBeMeant)
+{
+    const struct {
+        QStringList words;
+        QString told;
+    } rows[] = {
+        {{u"reveiw"_s}, u"There is no command 'reveiw'. Did you mean 'review'?"_s},
+        {{u"help"_s, u"creat"_s}, u"There is no command 'creat'. Did you mean 'create'?"_s},
+        {{u"make"_s}, u"There is no command 'make'."_s},
+        {{u"create"_s, u"--giud"_s, u"x"_s}, u"Unknown option 'giud'. Did you mean '--guid'?"_s},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(Run(row.words), 2);
+        EXPECT_EQ(Err(), u"vellumo: "_s + row.told + u"\nTry 'vellumo --help'.\n"_s);
+    }
+    EXPECT_EQ(Run({u"review"_s, u"-dash.vmp"_s}), 2);
+    EXPECT_TRUE(Err().contains(u" If '-dash.vmp' is a name, put '--' before it.\n"_s))
+        << Err().toStdString();
+}
+
+TEST_F(Vellumo, TakesOptionsBeforeTheCommand)
+{
+    const QByteArray expected = BytesOf(DataFile(u"projects/SiteVisit.rcp"_s));
+    const QString file = InFolder(u"a.rcp"_s);
+    EXPECT_EQ(Run({u"--guid"_s, identifier, u"-o"_s, file, u"script"_s, siteVisit}), 0)
+        << Err().toStdString();
+    EXPECT_EQ(BytesOf(file), expected);
+    EXPECT_EQ(Run({u"--"_s, u"review"_s, siteVisit}), 2);
+    EXPECT_TRUE(Err().startsWith(u"vellumo: Which command?\n"_s));
 }
 
 TEST_F(Vellumo, RefusesWrongUseOnStandardError)
