@@ -4,6 +4,8 @@
 #include "platform/files.h"
 #include "readback/database_check.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -52,11 +54,12 @@ std::optional<CreatedFault> FaultOfCreated(const CreateReport &report, const Pro
         return {};
     if (const QString words = ReasonOf(report); !words.isEmpty())
         reasons += words;
-    reasons += Advice(report);
-    return CreatedFault{
-        u"The database is not what your Vellsheet asks for. Do not install it onto your Palm "
-        "handheld."_s,
-        reasons.join(u'\n')};
+    const QString text = QFileInfo::exists(report.database)
+                             ? u"The database is not what your Vellsheet asks for. "
+                               "Do not install it onto your Palm handheld."_s
+                             : u"There is no database that you could install, "
+                               "whatever was told before."_s;
+    return CreatedFault{text, reasons.join(u'\n') + "\n\n"_L1 + Advice(report)};
 }
 
 } // namespace vellumo

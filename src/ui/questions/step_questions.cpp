@@ -191,6 +191,9 @@ void StepQuestions::RefreshPreview()
 void StepQuestions::ShowNotice(const DeliveryNotice &notice)
 {
     ui->lblDelivery->setText(notice.line);
+    ui->lblDelivery->setAccessibleName(notice.line.isEmpty()
+                                           ? u"Everything fits and will arrive as typed"_s
+                                           : u"What does not fit or will not arrive as typed"_s);
     ui->lblDelivery->setAccessibleDescription(notice.all);
     // Tool tips take for markup what looks like it.
     ui->lblDelivery->setToolTip(notice.all.isEmpty() ? QString()

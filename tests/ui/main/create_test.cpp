@@ -63,12 +63,12 @@ TEST(Create, TellsOfSuccessWhateverTheToolsSaidAndThenThatThereIsNoDatabase)
     const SeenBox &fault = prompts.boxes()[2];
     EXPECT_EQ(fault.icon, QMessageBox::Critical);
     EXPECT_EQ(fault.title, u"Vellumo Designer"_s);
-    EXPECT_EQ(fault.text, u"The database is not what your Vellsheet asks for. Do not install it "
-                          "onto your Palm handheld."_s);
+    EXPECT_EQ(fault.text,
+              u"There is no database that you could install, whatever was told before."_s);
     EXPECT_EQ(fault.informative,
               designer.projects +
                   u"/SiteVisit.prc: No such file or directory\n"
-                  "failed (crashed): tool\nfailed (crashed): tool\n"
+                  "failed (crashed): tool\nfailed (crashed): tool\n\n"
                   "Mend what these lines name, then review and create the Vellsheet again."_s);
 }
 
@@ -120,6 +120,8 @@ TEST(Create, TellsInWhatTheDatabaseDiffers)
     ASSERT_EQ(prompts.boxes().size(), 3u);
     const SeenBox &fault = prompts.boxes()[2];
     EXPECT_EQ(fault.icon, QMessageBox::Critical);
+    EXPECT_EQ(fault.text, u"The database is not what your Vellsheet asks for. "
+                          "Do not install it onto your Palm handheld."_s);
     EXPECT_TRUE(fault.informative.contains(u"Overhead LINES"_s)) << fault.informative.toStdString();
 }
 

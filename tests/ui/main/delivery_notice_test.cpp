@@ -72,6 +72,25 @@ TEST(DeliveryNotice, TellsWhatDoesNotFit)
     EXPECT_TRUE(questions.Notice().text().startsWith(u"Question text: "_s));
 }
 
+TEST(DeliveryNotice, TellsWhichItemItIs)
+{
+    const QTemporaryDir folder;
+    Project project{.FormName = u"Survey"_s, .FormPath = u"C:\\Data"_s};
+    for (int id : {1, 2})
+        project.source.Questions().Append(
+            {id, u"List"_s, u"Which?"_s, u"Pulldown List"_s, u"Q%1"_s.arg(id), id});
+    project.source.AppendItems(1, {u"one"_s, u"two, and more than fits into a few words"_s});
+    project.source.AppendItems(2, {u"a,b"_s});
+    const QString path = folder.filePath(u"survey.vmp"_s);
+    ASSERT_TRUE(SaveProject(project, path));
+    const Designer designer(path);
+    designer.ClickTab(2);
+    EXPECT_TRUE(designer.Find<QLabel>("lblDelivery")
+                    ->text()
+                    .startsWith(u"Item \"two, and more than fi...\": a comma ends an item"_s))
+        << designer.Find<QLabel>("lblDelivery")->text().toStdString();
+}
+
 TEST(DeliveryNotice, FollowsThePreview)
 {
     Questions questions({{1, u"A\"ge"_s, u"How old?"_s, u"Numeric"_s, u"AGE"_s, 1},
