@@ -118,6 +118,27 @@ TEST(Files, ReadsNoMoreThanTheLimitAndNamesWhatIsTooLarge)
     EXPECT_EQ(ReadWholeFile(path + u'x', limit).error().text, u"No such file or directory"_s);
 }
 
+#ifdef Q_OS_LINUX
+TEST(Files, SaysWhatFailsWhileItReads)
+{
+    const QString unmapped = u"/proc/self/mem"_s; // opens, and has nothing at its beginning
+    const Result<QByteArray> read = ReadWholeFile(unmapped, {4, "spoon"_L1});
+    ASSERT_FALSE(read);
+    EXPECT_EQ(read.error().text, u"Input/output error"_s);
+    EXPECT_EQ(read.error().file, unmapped);
+}
+#endif
+
+TEST(Files, NoNewFileTakesTheNameOfAFolder)
+{
+    const QTemporaryDir folder;
+    const Outcome outcome = WriteNewFile(folder.path(), "x");
+    ASSERT_FALSE(outcome);
+    EXPECT_EQ(outcome.error().text, u"Is a folder"_s);
+    EXPECT_EQ(outcome.error().file, folder.path());
+    EXPECT_TRUE(QFileInfo(folder.path()).isDir());
+}
+
 TEST(Files, AFullDiskIsNoticedWhateverTheSize)
 {
     const QTemporaryDir folder;

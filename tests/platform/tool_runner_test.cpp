@@ -1,9 +1,13 @@
 #include "platform/tool_runner.h"
 
+#include "platform/undoable.h"
+
 #include "support/files.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
+
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
@@ -93,6 +97,20 @@ TEST_F(ToolRunner, EndsAToolWhoseTimeIsOver)
 
     const ToolRun quick = Run({u"print"_s, u"done"_s}, 60);
     EXPECT_EQ(quick.end, ToolEnd::Succeeded);
+}
+
+TEST_F(ToolRunner, ASignalEndsTheTool)
+{
+    std::thread signal([this] {
+        while (!QFile::exists(m_folder.filePath(u"arguments.txt"_s)))
+            std::this_thread::yield();
+        UndoAll([] {});
+    });
+    const ToolRun run = Run({u"hang"_s});
+    signal.join();
+    ForgetUndoing();
+    EXPECT_EQ(run.end, ToolEnd::Failed);
+    EXPECT_EQ(run.reason, u"crashed"_s);
 }
 
 TEST_F(ToolRunner, KeepsTheFirstOfEndlessMessages)

@@ -80,6 +80,17 @@ TEST_F(AWorkFolder, SaysWhereNoneCanBeMade)
     WorkFolder::RemoveLeft();
 }
 
+#ifdef Q_OS_LINUX
+TEST_F(AWorkFolder, SaysWhyTheSystemMakesNone)
+{
+    qputenv("TMPDIR", "/proc"); // where not even root makes folders
+    const WorkFolder work;
+    ASSERT_FALSE(work.state());
+    EXPECT_EQ(work.state().error().text, u"No such file or directory"_s);
+    EXPECT_EQ(work.state().error().file, u"/proc"_s);
+}
+#endif
+
 TEST_F(AWorkFolder, IsTheSystemsWhereTheVariableIsEmpty)
 {
     qputenv("TMPDIR", "");
