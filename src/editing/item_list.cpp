@@ -108,18 +108,16 @@ ItemList::Change ItemList::Remove(const Rows &selection)
     return {};
 }
 
-ItemList::Change ItemList::Move(const Rows &selection, qsizetype step)
+ItemList::Change ItemList::Move(const Rows &selection, qsizetype distance)
 {
     if (selection.isEmpty())
         return {.refusal = u"Please select a question."_s, .selection = selection};
     if (selection.size() > 1)
         return {.refusal = u"Please select only one item."_s, .selection = selection};
     const qsizetype row = selection.first();
-    const qsizetype neighbour = row + step;
-    if (neighbour < 0 || neighbour >= m_items.size())
-        return {.selection = selection};
-    m_items.swapItemsAt(row, neighbour);
-    return {.selection = {neighbour}};
+    const qsizetype place = std::clamp<qsizetype>(row + distance, 0, m_items.size() - 1);
+    m_items.move(row, place);
+    return {.selection = {place}};
 }
 
 void ItemList::Sort()

@@ -51,6 +51,9 @@ public:
     QString AddNames(const QStringList &names);
 
     Change Remove(const Rows &selection);
+    /// Moves the one selected entry by so many places, downwards where the number is positive; it
+    /// stops at an end.
+    Change Move(const Rows &selection, qsizetype distance);
     Change MoveUp(const Rows &selection) { return Move(selection, -1); }
     Change MoveDown(const Rows &selection) { return Move(selection, +1); }
     void Clear() { m_items.clear(); }
@@ -59,8 +62,6 @@ public:
     void Sort();
 
 private:
-    Change Move(const Rows &selection, qsizetype step);
-
     QStringList m_items;
     bool m_sortDescending = false;
 };

@@ -3,6 +3,7 @@
 #include "model/question_types.h"
 #include "model/texts.h"
 
+#include <cstdlib>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -19,19 +20,6 @@ void MoveContent(Table<QuestionRow> &questions, int distance)
     QuestionRow &to = questions.Current();
     std::swap(from, to);
     std::swap(from.Order, to.Order);
-}
-
-/// Empty when every free name is too long.
-QString FreeColumnName(const clsDataSource &source, const QString &name)
-{
-    const QString trimmed = TrimBlanks(name).toString();
-    for (int n = 1;; ++n) {
-        QString candidate = trimmed + u'(' + QString::number(n) + u')';
-        if (candidate.size() > columnNameLimit.most)
-            return {};
-        if (!source.ColumnNameExists(candidate))
-            return candidate;
-    }
 }
 
 } // namespace
@@ -82,6 +70,27 @@ bool MoveQuestionDown(clsDataSource &source)
     return true;
 }
 
+bool MoveQuestion(clsDataSource &source, qsizetype distance)
+{
+    const auto move = distance < 0 ? MoveQuestionUp : MoveQuestionDown;
+    bool moved = false;
+    for (qsizetype step = std::abs(distance); step > 0 && move(source); --step)
+        moved = true;
+    return moved;
+}
+
+QString FreeColumnName(const clsDataSource &source, const QString &name)
+{
+    const QString trimmed = TrimBlanks(name).toString();
+    for (int n = 1;; ++n) {
+        QString candidate = trimmed + u'(' + QString::number(n) + u')';
+        if (candidate.size() > columnNameLimit.most)
+            return {};
+        if (!source.ColumnNameExists(candidate))
+            return candidate;
+    }
+}
+
 Outcome DuplicateQuestion(clsDataSource &source)
 {
     Table<QuestionRow> &questions = source.Questions();
@@ -91,7 +100,7 @@ Outcome DuplicateQuestion(clsDataSource &source)
 
     copy.ColumnName = FreeColumnName(source, copy.ColumnName);
     if (copy.ColumnName.isEmpty())
-        return Error{u"Column Name is too long to copy"_s};
+        return Error{nameTooLongToCopy};
     copy.Title = TrimBlanks(copy.Title).toString();
     copy.Order = source.QuestionCount() + 1;
     copy.Id = source.IssueId();

@@ -22,6 +22,13 @@ void RemoveQuestion(clsDataSource &source);
 // stays current. False when it could not move any further.
 bool MoveQuestionUp(clsDataSource &source);
 bool MoveQuestionDown(clsDataSource &source);
+/// So many of these, downwards where the number is positive; it stops at an end.
+bool MoveQuestion(clsDataSource &source, qsizetype distance);
+
+/// The first of NAME(1), NAME(2), ... that is free, of the name without the blanks at its ends;
+/// empty when every free one is too long.
+QString FreeColumnName(const clsDataSource &source, const QString &name);
+inline constexpr QLatin1StringView nameTooLongToCopy{"Column Name is too long to copy"};
 
 /// Appends a copy of the current question and of its items. The copy's column name is the first of
 /// NAME(1), NAME(2), ... that is free; a name that grows too long is the error. The current

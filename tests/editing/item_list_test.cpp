@@ -234,4 +234,23 @@ TEST(ItemList, SortsWhateverOrderItFinds)
     }
 }
 
+TEST(ItemList, MovesAnEntryByManyPlaces)
+{
+    const struct {
+        qsizetype from, distance, to;
+        QStringList items;
+    } rows[] = {{0, 2, 2, {u"b"_s, u"c"_s, u"a"_s, u"d"_s}},
+                {3, -2, 1, {u"a"_s, u"d"_s, u"b"_s, u"c"_s}},
+                {1, 9, 3, {u"a"_s, u"c"_s, u"d"_s, u"b"_s}},
+                {2, -9, 0, {u"c"_s, u"a"_s, u"b"_s, u"d"_s}}};
+    for (const auto &row : rows) {
+        ItemList list;
+        list.SetItems({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+        const ItemList::Change change = list.Move({row.from}, row.distance);
+        EXPECT_EQ(change.refusal, QString());
+        EXPECT_EQ(change.selection, ItemList::Rows{row.to});
+        EXPECT_EQ(list.Items(), row.items);
+    }
+}
+
 } // namespace

@@ -102,3 +102,26 @@ TEST(MoveQuestion, GoesByTheNumberOfAQuestionButNeverLeavesTheTable)
     Current(source).Order = 7;
     EXPECT_FALSE(MoveQuestionDown(source)) << "nothing below, whatever the number";
 }
+
+TEST(MoveQuestion, GoesSoFarAsItCan)
+{
+    const struct {
+        qsizetype from, distance;
+        bool moved;
+        QStringList names;
+    } rows[] = {{1, 2, true, {u"q1"_s, u"q3"_s, u"q4"_s, u"q2"_s}},
+                {3, -2, true, {u"q1"_s, u"q4"_s, u"q2"_s, u"q3"_s}},
+                {1, 10, true, {u"q1"_s, u"q3"_s, u"q4"_s, u"q2"_s}},
+                {3, -10, true, {u"q4"_s, u"q1"_s, u"q2"_s, u"q3"_s}},
+                {0, -1, false, {u"q1"_s, u"q2"_s, u"q3"_s, u"q4"_s}},
+                {3, 4, false, {u"q1"_s, u"q2"_s, u"q3"_s, u"q4"_s}}};
+    for (const auto &row : rows) {
+        clsDataSource source = SourceWith(4);
+        source.SetPosition(row.from);
+        const QString moving = Current(source).ColumnName;
+        EXPECT_EQ(MoveQuestion(source, row.distance), row.moved);
+        EXPECT_EQ(ColumnNames(source), row.names);
+        EXPECT_EQ(Current(source).ColumnName, moving);
+        ExpectOrderWithoutGaps(source);
+    }
+}
