@@ -1,0 +1,72 @@
+#include "editing/pasted_items.h"
+
+#include "editing/built_in_names.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+/// Names of countries are longer than an item may be that somebody types.
+QString ObjectionToPasted(const QString &text)
+{
+    return CountryNames().contains(text) ? QString() : ObjectionToItem(text);
+}
+
+/// Appends one item; gives why it is refused.
+QString Put(ItemList &items, const QString &line)
+{
+    const QString objection = ObjectionToPasted(line);
+    return objection.isEmpty() ? items.Add(line) : objection;
+}
+
+QString Shortened(const QString &text)
+{
+    constexpr qsizetype most = 40;
+    return text.size() <= most ? text : text.first(most) + QChar(0x2026);
+}
+
+} // namespace
+
+void Refusals::Add(const QString &what, const QString &reason)
+{
+    constexpr qsizetype most = 10;
+    if (++m_count <= most)
+        m_told += what + u": "_s + reason;
+}
+
+QString Refusals::Text() const
+{
+    if (m_count == 0)
+        return {};
+    const qsizetype others = m_count - m_told.size();
+    return u"Not added:\n"_s + m_told.join(u'\n') +
+           (others > 0 ? u"\nand %1 more."_s.arg(others) : QString());
+}
+
+QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
+                   const QStringList &lines)
+{
+    Refusals refusals;
+    for (const QString &line : lines) {
+        QString refusal = items.RefusalToAdd(host, type);
+        if (refusal.isEmpty())
+            refusal = Put(items, line);
+        if (!refusal.isEmpty())
+            refusals.Add(u'"' + Shortened(line) + u'"', refusal);
+    }
+    return refusals.Text();
+}
+
+QString PutItems(QStringList &items, const QStringList &lines)
+{
+    ItemList list;
+    list.SetItems(items);
+    QString refusal;
+    for (auto line = lines.begin(); line != lines.end() && refusal.isEmpty(); ++line)
+        refusal = Put(list, *line);
+    items = list.Items();
+    return refusal;
+}
+
+} // namespace vellumo
