@@ -1,76 +1,63 @@
 #include "ui/questions/item_list_editor.h"
 
 #include "editing/built_in_names.h"
+#include "editing/clipboard_texts.h"
+#include "editing/pasted_items.h"
 #include "model/question_types.h"
-#include "model/texts.h"
 #include "ui/common/prompts.h"
+#include "ui/questions/ask_item.h"
+#include "ui/questions/one_line_delegate.h"
+#include "ui/questions/row_dragging.h"
+#include "ui/questions/row_keys.h"
 #include "ui_item_list_editor.h"
 
-#include <QShortcut>
-#include <QStyledItemDelegate>
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
-namespace {
-
-/// Shows each item on one line as wide as the list, however long or broken its text from a file is.
-class OneLine : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant &value, const QLocale &) const override
-    {
-        constexpr qsizetype more = 1000; // than any list is wide
-        const QString text = value.toString();
-        QString shown = text.left(more);
-        shown.replace(u'\n', u' ');
-        return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
-    }
-};
-
-/// The keys press the button while the list has the focus.
-void PressByKeys(QListView *list, QPushButton *button, const QKeySequence &keys)
-{
-    auto *shortcut = new QShortcut(keys, list);
-    shortcut->setContext(Qt::WidgetShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
-}
-
-} // namespace
-
 ItemListEditor::ItemListEditor(QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::ItemListEditor>())
 {
     ui->setupUi(this);
     ui->list->setModel(&m_shown);
-    ui->list->setItemDelegate(new OneLine(this));
+    ui->list->setItemDelegate(new OneLineDelegate(this));
     setFocusProxy(ui->list);
 
     connect(ui->add, &QPushButton::clicked, this, &ItemListEditor::AddItem);
     connect(ui->remove, &QPushButton::clicked, this, &ItemListEditor::RemoveItems);
-    connect(ui->up, &QPushButton::clicked, this, [this] { MoveItem(&ItemList::MoveUp); });
-    connect(ui->down, &QPushButton::clicked, this, [this] { MoveItem(&ItemList::MoveDown); });
+    connect(ui->up, &QPushButton::clicked, this, [this] { MoveItem(Selection(), -1); });
+    connect(ui->down, &QPushButton::clicked, this, [this] { MoveItem(Selection(), +1); });
     connect(ui->cmd_sort, &QPushButton::clicked, this, &ItemListEditor::SortItems);
     connect(ui->cmd_Clear, &QPushButton::clicked, this, &ItemListEditor::ClearItems);
     connect(ui->cmd_AddState, &QPushButton::clicked, this, [this] { AddNames(StateNames()); });
     connect(ui->cmd_AddCountry, &QPushButton::clicked, this, [this] { AddNames(CountryNames()); });
 
-    PressByKeys(ui->list, ui->add, Qt::Key_Insert);
-    PressByKeys(ui->list, ui->remove, Qt::Key_Delete);
-    PressByKeys(ui->list, ui->up, Qt::ALT | Qt::Key_Up);
-    PressByKeys(ui->list, ui->down, Qt::ALT | Qt::Key_Down);
+    ConnectKeys();
+    new RowDragging(ui->list, [this](int from, int to) { MoveItem({from}, to - from); });
 }
 
 ItemListEditor::~ItemListEditor() = default;
+
+/// While the list has the focus.
+void ItemListEditor::ConnectKeys()
+{
+    const auto call = [this](const QList<QKeySequence> &keys, auto action) {
+        CallByKeys(ui->list, keys, Qt::WidgetShortcut, action);
+    };
+    call({Qt::Key_Insert}, [this] { ui->add->click(); });
+    call({Qt::Key_Delete}, [this] { ui->remove->click(); });
+    call({Qt::ALT | Qt::Key_Up}, [this] { ui->up->click(); });
+    call({Qt::ALT | Qt::Key_Down}, [this] { ui->down->click(); });
+    for (const MoveKey &move : moveKeys)
+        call({move.key}, [this, move] { MoveItem(Selection(), move.distance); });
+    call(QKeySequence::keyBindings(QKeySequence::Copy), [this] { CopyItems(); });
+    call(QKeySequence::keyBindings(QKeySequence::Cut), [this] { CutItems(); });
+    call(QKeySequence::keyBindings(QKeySequence::Paste), [this] { PasteLines(); });
+}
 
 void ItemListEditor::Configure(const ItemListHost &host, const ItemListControls &controls)
 {
@@ -106,23 +93,9 @@ void ItemListEditor::AddItem()
 {
     QString refusal = m_items.RefusalToAdd(*m_host, m_type);
     if (refusal.isEmpty())
-        refusal = m_items.Add(AskItem());
+        refusal = m_items.Add(AskItem(this, *m_host));
     ShowRefusal(refusal);
     ShowAppended();
-}
-
-/// A text that can be an item, or empty when the user gave up. Only a first answer is trimmed.
-QString ItemListEditor::AskItem()
-{
-    const QString title = u"New Item"_s;
-    QString text = TrimBlanks(AskText(this, title, m_host->firstPrompt)).toString();
-    for (;;) {
-        const QString objection = ObjectionToItem(text);
-        if (objection.isEmpty())
-            return text;
-        ShowExclamation(this, objection);
-        text = AskText(this, title, againPrompt);
-    }
 }
 
 void ItemListEditor::AddNames(const QStringList &names)
@@ -141,12 +114,39 @@ void ItemListEditor::RemoveItems()
     ShowAll(change.selection, std::min(std::ranges::min(selection), last));
 }
 
-void ItemListEditor::MoveItem(ItemList::Change (ItemList::*moved)(const ItemList::Rows &))
+void ItemListEditor::MoveItem(const ItemList::Rows &rows, qsizetype distance)
 {
-    const ItemList::Change change = (m_items.*moved)(Selection());
+    const ItemList::Change change = m_items.Move(rows, distance);
     if (!change.refusal.isEmpty())
         return ShowRefusal(change.refusal);
     ShowAll(change.selection, change.selection.first());
+}
+
+/// The selected items in the order of the list, a line each; whether there are any.
+bool ItemListEditor::CopyItems()
+{
+    ItemList::Rows rows = Selection();
+    std::ranges::sort(rows);
+    QStringList lines;
+    for (const qsizetype row : rows)
+        lines += m_items.Items()[row];
+    if (!lines.isEmpty())
+        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
+    return !lines.isEmpty();
+}
+
+void ItemListEditor::CutItems()
+{
+    if (CopyItems())
+        RemoveItems();
+}
+
+void ItemListEditor::PasteLines()
+{
+    const QStringList lines = LinesOf(QGuiApplication::clipboard()->text());
+    const QString refused = PasteItems(m_items, *m_host, m_type, lines);
+    ShowAppended();
+    ShowRefusal(refused);
 }
 
 void ItemListEditor::ClearItems()

@@ -19,7 +19,8 @@ struct ItemListControls {
     QString list, add, remove, up, down;
 };
 
-/// The items of a question with the buttons that change them. What is refused is told in a box.
+/// The items of a question with the buttons and keys that change them, and the mouse. What is
+/// refused is told in a box.
 class ItemListEditor : public QWidget
 {
     Q_OBJECT
@@ -41,11 +42,14 @@ public:
     QListView *List() const;
 
 private:
+    void ConnectKeys();
     void AddItem();
-    QString AskItem();
     void AddNames(const QStringList &names);
     void RemoveItems();
-    void MoveItem(ItemList::Change (ItemList::*moved)(const ItemList::Rows &));
+    void MoveItem(const ItemList::Rows &rows, qsizetype distance);
+    bool CopyItems();
+    void CutItems();
+    void PasteLines();
     void ClearItems();
     void SortItems();
 

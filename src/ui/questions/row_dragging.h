@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+
+#include <functional>
+
+class QAbstractItemView;
+class QWidget;
+
+namespace vellumo {
+
+/// Lets the rows of a list be dragged with the left mouse button, one at a time. A line shows where
+/// the row would go, Esc gives up, and beyond an edge the list scrolls.
+class RowDragging : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The row was let go where it becomes another one; moving it is the receiver's.
+    using Dropped = std::function<void(int from, int to)>;
+
+    /// Belongs to the view.
+    RowDragging(QAbstractItemView *view, Dropped dropped);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool FollowMouse(QEvent *event);
+    void Press(QPoint place);
+    void DragTo(QPoint place);
+    bool Release();
+    void Stop();
+    void Scroll();
+    /// Between which rows the place is: that of this number and the one before.
+    int GapAt(QPoint place) const;
+    void ShowLine(int gap);
+
+    QAbstractItemView *m_view;
+    Dropped m_dropped;
+    QWidget *m_line; ///< visible while a row is dragged
+    QTimer m_scrolling;
+    int m_from = -1; ///< the row that is held; -1 = none is
+    QPoint m_pressed, m_place;
+};
+
+} // namespace vellumo
