@@ -25,6 +25,12 @@ StepComplete::StepComplete(ProjectDocument &document, QWidget *parent)
 
 StepComplete::~StepComplete() = default;
 
+void StepComplete::Enter()
+{
+    AllowCreation(false);
+    ui->cmdReviewForm->setFocus();
+}
+
 void StepComplete::ShowErrors(const std::vector<ReviewEntry> &entries)
 {
     m_entries = entries;

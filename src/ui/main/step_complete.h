@@ -21,8 +21,8 @@ public:
     explicit StepComplete(ProjectDocument &document, QWidget *parent = nullptr);
     ~StepComplete() override;
 
-    /// Until a review that is made here, nothing is created.
-    void Enter() override { AllowCreation(false); }
+    /// Until a review that is made here, nothing is created; the focus goes to its button.
+    void Enter() override;
 
     /// Lists the errors of a review, or none.
     void ShowErrors(const std::vector<ReviewEntry> &entries);

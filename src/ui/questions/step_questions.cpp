@@ -8,11 +8,14 @@
 #include "ui/questions/delivery_notice.h"
 #include "ui/questions/frmWizard.h"
 #include "ui/questions/propertyForm.h"
+#include "ui/questions/question_clipboard.h"
+#include "ui/questions/question_grid.h"
 #include "ui/questions/question_model.h"
+#include "ui/questions/row_dragging.h"
+#include "ui/questions/row_keys.h"
 #include "ui_step_questions.h"
 
 #include <QKeyEvent>
-#include <QShortcut>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -39,7 +42,8 @@ StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
                  {ui->Label10, HelpContext::questionPreview}});
     ConnectButtons();
     ConnectGrid();
-    LayOutColumns();
+    ConnectKeys();
+    LayOutColumns(*ui->DataGrid1);
 }
 
 StepQuestions::~StepQuestions() = default;
@@ -51,19 +55,9 @@ void StepQuestions::ConnectButtons()
     connect(ui->cmdAdd, &QToolButton::clicked, this, &StepQuestions::Add);
     connect(ui->cmdView, &QToolButton::clicked, this, &StepQuestions::Edit);
     connect(ui->cmdDel, &QToolButton::clicked, this, &StepQuestions::Remove);
-    connect(ui->cmdUp, &QToolButton::clicked, this, [this] { Move(MoveQuestionUp); });
-    connect(ui->cmdDown, &QToolButton::clicked, this, [this] { Move(MoveQuestionDown); });
+    connect(ui->cmdUp, &QToolButton::clicked, this, [this] { Move(-1); });
+    connect(ui->cmdDown, &QToolButton::clicked, this, [this] { Move(+1); });
     connect(ui->cmdDuplic, &QToolButton::clicked, this, &StepQuestions::Duplicate);
-
-    const std::pair<QKeySequence, QToolButton *> keys[] = {
-        {Qt::Key_Insert, ui->cmdAdd},      {Qt::Key_Delete, ui->cmdDel},
-        {Qt::Key_Return, ui->cmdView},     {Qt::Key_Enter, ui->cmdView},
-        {Qt::ALT | Qt::Key_Up, ui->cmdUp}, {Qt::ALT | Qt::Key_Down, ui->cmdDown},
-    };
-    // In the grid alone: in a text box they have a meaning of their own.
-    for (const auto &[key, button] : keys)
-        connect(new QShortcut(key, ui->DataGrid1, nullptr, nullptr, Qt::WidgetShortcut),
-                &QShortcut::activated, button, &QToolButton::click);
 }
 
 void StepQuestions::ConnectGrid()
@@ -74,12 +68,39 @@ void StepQuestions::ConnectGrid()
             &StepQuestions::FollowGrid);
     connect(ui->DataGrid1, &QTableView::clicked, this, &StepQuestions::RefreshAfterClick);
     connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::Edit);
+    KeepCurrentRowSelected(*ui->DataGrid1);
+    new RowDragging(ui->DataGrid1, [this](int from, int to) {
+        document().source().SetPosition(from);
+        Move(to - from);
+    });
     connect(&document(), &ProjectDocument::QuestionsChanged, this,
             &StepQuestions::SelectCurrentRow);
     connect(&document(), &ProjectDocument::Replaced, this, [this] {
         ui->previewBox->Show({});
         ShowNotice({});
     });
+}
+
+/// Wherever the focus is, as this step has nothing to type into; Enter is the button's that has it.
+void StepQuestions::ConnectKeys()
+{
+    const auto press = [this](const QList<QKeySequence> &keys, Qt::ShortcutContext context,
+                              QToolButton *button) {
+        CallByKeys(ui->DataGrid1, keys, context, [button] { button->click(); });
+    };
+    press({Qt::Key_Return, Qt::Key_Enter}, Qt::WidgetShortcut, ui->cmdView);
+    press({Qt::Key_Insert}, Qt::WindowShortcut, ui->cmdAdd);
+    press({Qt::Key_Delete}, Qt::WindowShortcut, ui->cmdDel);
+    press({Qt::CTRL | Qt::Key_D}, Qt::WindowShortcut, ui->cmdDuplic);
+    press({Qt::ALT | Qt::Key_Up}, Qt::WindowShortcut, ui->cmdUp);
+    press({Qt::ALT | Qt::Key_Down}, Qt::WindowShortcut, ui->cmdDown);
+    for (const MoveKey &move : moveKeys)
+        CallByKeys(ui->DataGrid1, {move.key}, Qt::WindowShortcut,
+                   [this, move] { Move(move.distance); });
+    CallByKeys(ui->DataGrid1, QKeySequence::keyBindings(QKeySequence::Copy), Qt::WindowShortcut,
+               [this] { Copy(); });
+    CallByKeys(ui->DataGrid1, QKeySequence::keyBindings(QKeySequence::Paste), Qt::WindowShortcut,
+               [this] { Paste(); });
 }
 
 bool StepQuestions::eventFilter(QObject *watched, QEvent *event)
@@ -123,16 +144,17 @@ void StepQuestions::Remove()
         return;
     document().ChangeQuestions(RemoveQuestion);
     if (document().source().QuestionCount() == 0)
-        LayOutColumns();
+        LayOutColumns(*ui->DataGrid1);
     RefreshPreview();
     document().SetProjectChanged(true);
 }
 
-void StepQuestions::Move(bool (*moveRow)(clsDataSource &source))
+void StepQuestions::Move(int distance)
 {
     if (RefusesWithoutSelection())
         return;
-    if (!document().ChangeQuestions(moveRow))
+    if (!document().ChangeQuestions(
+            [distance](clsDataSource &source) { return MoveQuestion(source, distance); }))
         return;
     document().SetProjectChanged(true);
     RefreshPreview();
@@ -156,6 +178,21 @@ void StepQuestions::Duplicate()
     RefreshPreview(); // the project counts as unchanged, on purpose
 }
 
+void StepQuestions::Copy()
+{
+    if (!RefusesWithoutSelection())
+        CopyQuestion(document().source());
+}
+
+void StepQuestions::Paste()
+{
+    m_previewPending = false; // or the grid's reset would refresh the preview as well
+    const QString refused = PasteFromClipboard(document());
+    RefreshPreview();
+    if (!refused.isEmpty())
+        ShowExclamation(window(), refused);
+}
+
 bool StepQuestions::RefusesWithoutSelection()
 {
     const QString refusal = RefusalWithoutSelection(document().source());
@@ -168,6 +205,7 @@ void StepQuestions::Enter()
 {
     SelectCurrentRow();
     RefreshPreview();
+    ui->DataGrid1->setFocus();
 }
 
 void StepQuestions::SelectCurrentRow()
@@ -222,22 +260,7 @@ void StepQuestions::LayOut()
     ui->previewBox->SetSide(screen::width + std::min(more.width() / 3, more.height()));
     ui->content->resize(
         ui->scrollArea->maximumViewportSize().expandedTo(ui->content->minimumSizeHint()));
-    LayOutColumns();
-}
-
-void StepQuestions::LayOutColumns()
-{
-    // In the order of the columns; the question's text takes what is left.
-    const int digits = fontMetrics().horizontalAdvance(u'0');
-    const int widths[] = {6, 14, 0, 15, 13};
-    QHeaderView *header = ui->DataGrid1->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->setSectionResizeMode(2, QHeaderView::Stretch);
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        if (widths[column] > 0)
-            header->resizeSection(column, widths[column] * digits);
-    ui->DataGrid1->verticalHeader()->hide();
+    LayOutColumns(*ui->DataGrid1);
 }
 
 } // namespace vellumo

@@ -22,7 +22,7 @@ public:
     explicit StepQuestions(ProjectDocument &document, QWidget *parent = nullptr);
     ~StepQuestions() override;
 
-    /// Shows the current question in grid and preview.
+    /// Shows the current question in grid and preview, and puts the focus into the grid.
     void Enter() override;
 
     /// Fits the controls to the step's size; without it they keep their places.
@@ -33,16 +33,18 @@ public:
 private:
     void ConnectButtons();
     void ConnectGrid();
+    void ConnectKeys();
 
     void Add();
     void Edit();
     void Remove();
-    void Move(bool (*moveRow)(clsDataSource &source));
+    void Move(int distance);
     void Duplicate();
+    void Copy();
+    void Paste();
 
     bool RefusesWithoutSelection();
     void SelectCurrentRow();
-    void LayOutColumns();
     void RefreshPreview();
     void ShowNotice(const DeliveryNotice &notice);
     void RefreshAfterClick();
