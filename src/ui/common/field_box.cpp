@@ -1,6 +1,7 @@
 #include "ui/common/field_box.h"
 
 #include "ui/common/key_filter.h"
+#include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
 #include "ui/common/project_document.h"
 
@@ -40,6 +41,7 @@ FieldBox::FieldBox(ProjectDocument &document, FormField field, QWidget *box)
 FieldBox::FieldBox(ProjectDocument &document, FormField field, QLineEdit *box)
     : FieldBox(document, field, static_cast<QWidget *>(box))
 {
+    KeepToOneLine(box);
     m_setText = [box](const QString &text) { box->setText(text); };
     m_canUndo = [box] { return box->isUndoAvailable(); };
     m_canRedo = [box] { return box->isRedoAvailable(); };

@@ -1,7 +1,10 @@
 #include "ui/common/prompts.h"
 
+#include "ui/common/one_line_box.h"
+
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 
 #include <algorithm>
 
@@ -92,6 +95,8 @@ QString AskText(QWidget *parent, const QString &title, const QString &prompt)
     QInputDialog input(parent);
     input.setWindowTitle(title);
     input.setLabelText(prompt);
+    input.setTextEchoMode(QLineEdit::Normal); // makes the box
+    KeepToOneLine(input.findChild<QLineEdit *>());
     if (input.exec() != QDialog::Accepted)
         return {};
     return input.textValue();

@@ -6,6 +6,7 @@
 #include "model/question_types.h"
 #include "model/texts.h"
 #include "ui/common/key_filter.h"
+#include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
@@ -44,6 +45,8 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     RefuseKeys(ui->cboWiz2_1->lineEdit(), doubleQuotes);
     RefuseKeys(ui->txtWiz5_1, doubleQuotes);
     RefuseKeys(ui->txtWiz3_1, lineBreaks);
+    KeepToOneLine(ui->cboWiz2_1->lineEdit());
+    KeepToOneLine(ui->txtWiz5_1);
 
     ConnectControls();
     PlaceTypeLink();

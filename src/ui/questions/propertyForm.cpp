@@ -3,6 +3,7 @@
 #include "editing/property_rules.h"
 #include "model/question_types.h"
 #include "ui/common/key_filter.h"
+#include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
@@ -55,6 +56,8 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     RefuseKeys(ui->txtTitle, doubleQuotes);
     RefuseKeys(ui->txtColumnName, doubleQuotes);
     RefuseKeys(ui->txtQuestion, lineBreaks);
+    KeepToOneLine(ui->txtTitle);
+    KeepToOneLine(ui->txtColumnName);
 
     // Whenever a type is picked, also the same one: that brings back the stored items.
     connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);

@@ -149,6 +149,18 @@ TEST(FormTexts, DoNotCountAsChangedByALookAtThem)
     EXPECT_FALSE(designer.ProjectChanged());
 }
 
+TEST(FormTexts, OfOneLineTakePastedLinesAsOne)
+{
+    const Designer designer;
+    Paste(designer, "txtAppName", u"a\nb\n"_s);
+    Paste(designer, "txtAppVersion", u"1\r\n2"_s);
+    designer.ClickTab(3);
+    Paste(designer, "txt3_appDir", u"C:\\Data\n"_s);
+    EXPECT_EQ(designer.project().FormName, u"a b"_s);
+    EXPECT_EQ(designer.project().FormVersion, u"1 2"_s);
+    EXPECT_EQ(designer.project().FormPath, u"C:\\Data"_s);
+}
+
 TEST(FormTexts, ShowThePastedLineBreakThatTheRuleRefuses)
 {
     const Designer designer;

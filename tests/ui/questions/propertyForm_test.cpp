@@ -2,6 +2,7 @@
 
 #include "model/question_types.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QScreen>
 #include <QSignalSpy>
@@ -153,6 +154,17 @@ TEST_F(PropertyForm, TellsAllThatIsWrongInOneBox)
     EXPECT_EQ(Question()->toPlainText(), u""_s);
     EXPECT_EQ(Row().Title, u"Kind"_s);
     EXPECT_EQ(StoredItems().size(), 3);
+}
+
+TEST_F(PropertyForm, TakesLinesPastedIntoOneLineAsOne)
+{
+    Open();
+    QGuiApplication::clipboard()->setText(u"two\nlines\n"_s);
+    for (const char *name : {"txtTitle", "txtColumnName"}) {
+        The<QLineEdit>(name)->selectAll();
+        QTest::keyClick(The<QLineEdit>(name), Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Text(name), u"two lines"_s);
+    }
 }
 
 TEST_F(PropertyForm, RefusesPastedLineBreaks)

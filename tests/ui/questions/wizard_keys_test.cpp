@@ -63,6 +63,20 @@ TEST(WizardFinish, IsReachedByKeysAlone)
     EXPECT_EQ(desk.document.source().Items().Count(), 2);
 }
 
+TEST(WizardTexts, OfOneLineTakePastedLinesAsOne)
+{
+    WizardDesk desk;
+    desk.Open();
+    desk.Choose(u"Text"_s);
+    desk.Press(next);
+    QGuiApplication::clipboard()->setText(u"two\nlines\n"_s);
+    Type(desk, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(desk.Title()->currentText(), u"two lines"_s);
+    desk.Press(next);
+    Type(desk, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(desk.Column()->text(), u"two lines"_s);
+}
+
 TEST(WizardFinish, IsReachedByEnterWhereNextIsNot)
 {
     WizardDesk desk;
