@@ -20,6 +20,9 @@ inline constexpr quint32 finalReview = 13;
 inline constexpr quint32 errorList = 14;
 inline constexpr quint32 questionWizard = 15;
 inline constexpr quint32 fitting = 16;
+inline constexpr quint32 questionTypes = 17;
+inline constexpr quint32 items = 18;
+inline constexpr quint32 questionProperties = 19;
 
 } // namespace HelpContext
 
@@ -41,6 +44,9 @@ inline constexpr HelpTopic helpTopics[] = {
     {HelpContext::errorList, QLatin1StringView("errors.html")},
     {HelpContext::questionWizard, QLatin1StringView("wizard.html")},
     {HelpContext::fitting, QLatin1StringView("fitting.html")},
+    {HelpContext::questionTypes, QLatin1StringView("types.html")},
+    {HelpContext::items, QLatin1StringView("items.html")},
+    {HelpContext::questionProperties, QLatin1StringView("properties.html")},
 };
 
 inline constexpr QLatin1StringView helpTitle{"Vellumo Designer Help"};

@@ -46,7 +46,7 @@ quit
 start "$work/inspection.vmp"
 window 'Vellumo Designer'
 keys F1
-window 'Welcome to Vellumo Designer - Vellumo Designer Help'
+window 'What identifies a Vellsheet - Vellumo Designer Help'
 keys Escape
 window 'Vellumo Designer'
 keys alt+h a
@@ -54,7 +54,7 @@ window 'About Vellumo Designer'
 keys Return
 window 'Vellumo Designer'
 keys ctrl+Tab ctrl+Tab ctrl+Tab
-keys Tab space
+keys Return
 windows 2
 keys Return
 windows 1

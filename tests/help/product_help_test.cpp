@@ -69,6 +69,9 @@ TEST(ProductHelp, LeadsFromEachNumberToItsPage)
         {14, u"The error list"_s},
         {15, u"The question wizard"_s},
         {16, u"What fits the screen"_s},
+        {17, u"The ten types of questions"_s},
+        {18, u"Items of a list"_s},
+        {19, u"Properties of a question"_s},
     };
     for (const auto &row : rows)
         EXPECT_EQ(help->TitleOf(help->PageOf(row.context)), row.title) << row.context;

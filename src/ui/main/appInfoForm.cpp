@@ -1,21 +1,23 @@
 #include "ui/main/appInfoForm.h"
 
+#include "help/help_topics.h"
 #include "model/project_file.h"
-#include "ui/common/pictures.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
+#include "ui/common/stray_input.h"
 #include "ui/main/create_database.h"
 #include "ui/main/rescue_offer.h"
 #include "ui/main/step_complete.h"
 #include "ui/main/step_data.h"
 #include "ui/main/step_info.h"
+#include "ui/main/step_mark.h"
+#include "ui/main/window_keys.h"
 #include "ui/questions/step_questions.h"
 #include "ui_appInfoForm.h"
 #include "validation/project_review.h"
 
 #include <QCloseEvent>
 #include <QShortcut>
-#include <QTabBar>
 
 #include <utility>
 
@@ -24,13 +26,8 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// The keys that the platform has for a command, or else the given one: some platforms have none
-/// for saving under another name and for leaving.
-QList<QKeySequence> KeysOf(QKeySequence::StandardKey standard, const QKeySequence &other)
-{
-    const QList<QKeySequence> keys = QKeySequence::keyBindings(standard);
-    return keys.isEmpty() ? QList{other} : keys;
-}
+constexpr quint32 helpOfSteps[] = {HelpContext::formInformation, HelpContext::questions,
+                                   HelpContext::uploadingData, HelpContext::finalReview};
 
 } // namespace
 
@@ -52,7 +49,7 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
     ConnectSteps();
     ConnectMenus();
     ConnectToolbar();
-    ConnectUndoKeys();
+    ConnectKeys();
     connect(&m_document, &ProjectDocument::Replaced, this, &appInfoForm::ForgetReview);
     ForgetReview();
 }
@@ -98,7 +95,6 @@ void appInfoForm::ConnectMenus()
     ui->mnuFileSave->setShortcuts(QKeySequence::Save);
     ui->mnuFileSaveAS->setShortcuts(KeysOf(QKeySequence::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     ui->mnuFileExit->setShortcuts(KeysOf(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q));
-    ui->mnuContents->setShortcut(Qt::Key_F1);
 }
 
 void appInfoForm::ConnectToolbar()
@@ -108,9 +104,16 @@ void appInfoForm::ConnectToolbar()
     connect(ui->cmdToolbar_2, &QToolButton::clicked, this, &appInfoForm::Open);
 }
 
-/// In a text box they are the box's own, until it has nothing more to take back.
-void appInfoForm::ConnectUndoKeys()
+/// The keys that no menu has. In a text box, those of undoing are the box's own until it has
+/// nothing more to take back.
+void appInfoForm::ConnectKeys()
 {
+    WalkTabsByKeys(*ui->SSTab1);
+    PressButtonsByEnter(*this);
+    new StrayLetters(this);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
+
     for (const QKeySequence &key : KeysOf(QKeySequence::Undo, Qt::CTRL | Qt::Key_Z))
         connect(new QShortcut(key, this), &QShortcut::activated, &m_document,
                 &ProjectDocument::Undo);
@@ -141,9 +144,15 @@ void appInfoForm::New()
 
 void appInfoForm::Open()
 {
+    OpenInPlace([this] { return m_files->ChooseProject(); });
+}
+
+/// The path is asked for when the open project may go; empty = none.
+void appInfoForm::OpenInPlace(const std::function<QString()> &choose)
+{
     if (!m_files->MayDiscard(ProjectFiles::Reason::Open))
         return;
-    const QString path = m_files->ChooseProject();
+    const QString path = choose();
     if (path.isEmpty())
         return;
     if (m_files->SaveMissed())
@@ -194,7 +203,7 @@ void appInfoForm::ForgetReview()
 {
     m_complete->ShowErrors({});
     for (int step = 1; step <= 4; ++step)
-        MarkStep(step, false);
+        MarkTab(*ui->SSTab1, step, false);
 }
 
 /// Only the program closes the window without asking.
@@ -244,7 +253,7 @@ void appInfoForm::ChangeStep(int tabIndex)
     m_step = tabIndex + 1;
     m_steps[static_cast<size_t>(tabIndex)]->Enter();
     if (m_step == 4) // each visit needs a review of its own
-        MarkStep(4, false);
+        MarkTab(*ui->SSTab1, 4, false);
     LayOutIfLargeEnough();
 }
 
@@ -254,19 +263,7 @@ void appInfoForm::MarkLeftStep()
         return;
     const StepVerdict verdict =
         m_document.ChangeTexts([this](Project &project) { return CheckStep(m_step, project); });
-    MarkStep(m_step, !verdict.failed);
-}
-
-void appInfoForm::MarkStep(int step, bool valid)
-{
-    const int tab = step - 1;
-    const int picture = valid ? StepMarkValid : StepMarkInvalid;
-    ui->SSTab1->setTabIcon(tab, Picture(picture));
-    QTabBar *bar = ui->SSTab1->tabBar();
-    bar->setTabData(tab, picture);
-    // The mark is a picture, which a screen reader does not read.
-    bar->setAccessibleTabName(tab, ui->SSTab1->tabText(tab) +
-                                       (valid ? u", valid"_s : u", not valid yet"_s));
+    MarkTab(*ui->SSTab1, m_step, !verdict.failed);
 }
 
 void appInfoForm::Review(bool showResults)
@@ -274,8 +271,8 @@ void appInfoForm::Review(bool showResults)
     const ReviewResult result =
         m_document.ChangeTexts([](Project &project) { return ReviewProject(project); });
     for (int step = 1; step <= 3; ++step)
-        MarkStep(step, !result.stepFailed[static_cast<size_t>(step - 1)]);
-    MarkStep(4, result.Passed());
+        MarkTab(*ui->SSTab1, step, !result.stepFailed[static_cast<size_t>(step - 1)]);
+    MarkTab(*ui->SSTab1, 4, result.Passed());
     m_complete->AllowCreation(result.Passed());
 
     m_complete->ShowErrors(showResults ? result.entries : std::vector<ReviewEntry>());

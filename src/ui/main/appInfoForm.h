@@ -63,10 +63,11 @@ private:
     void ConnectSteps();
     void ConnectMenus();
     void ConnectToolbar();
-    void ConnectUndoKeys();
+    void ConnectKeys();
 
     void New();
     void Open();
+    void OpenInPlace(const std::function<QString()> &choose);
     void ShowOpened(bool isUnsaved);
     void Exit();
     void ForgetReview();
@@ -75,7 +76,6 @@ private:
     void SelectStep(int step);
     void ChangeStep(int tabIndex);
     void MarkLeftStep();
-    void MarkStep(int step, bool valid);
     void LayOutIfLargeEnough();
 
     void Review(bool showResults);

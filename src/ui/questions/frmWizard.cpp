@@ -11,9 +11,11 @@
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
+#include "ui/common/stray_input.h"
 #include "ui_frmWizard.h"
 
 #include <QEvent>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +24,10 @@ namespace {
 
 /// The rules tell of what is too long; a box that cut it off would hide that.
 constexpr int longestText = 16777216;
+
+constexpr quint32 helpOfSteps[] = {HelpContext::questionTypes, HelpContext::questionWizard,
+                                   HelpContext::questionWizard, HelpContext::questionWizard,
+                                   HelpContext::items};
 
 } // namespace
 
@@ -47,6 +53,7 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     RefuseKeys(ui->txtWiz3_1, lineBreaks);
     KeepToOneLine(ui->cboWiz2_1->lineEdit());
     KeepToOneLine(ui->txtWiz5_1);
+    KeepWheelForFocus(ui->cboWiz2_1);
 
     ConnectControls();
     PlaceTypeLink();
@@ -76,6 +83,8 @@ void frmWizard::ConnectControls()
     connect(ui->cmdNav_3, &QPushButton::clicked, this, &frmWizard::GoNext);
     connect(ui->cmdNav_4, &QPushButton::clicked, this, &frmWizard::Finish);
     connect(ui->lstWiz1_1, &QListWidget::itemDoubleClicked, this, &frmWizard::GoNext);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
     for (const LinkLabel *link :
          {ui->lblLkWzType, ui->lblLkWzTitle, ui->lblLkWzColumn, ui->lblLkWzText})
         connect(link, &LinkLabel::Followed, this,

@@ -29,7 +29,7 @@ public:
     ~frmWizard() override;
 
 signals:
-    /// A help link was followed; contextId is the number of a help topic.
+    /// Help was asked for, by a link or F1; contextId is the number of a help topic.
     void HelpAsked(quint32 contextId);
 
 protected:

@@ -1,6 +1,7 @@
 #include "ui/questions/propertyForm.h"
 
 #include "editing/property_rules.h"
+#include "help/help_topics.h"
 #include "model/question_types.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
@@ -8,10 +9,12 @@
 #include "ui/common/project_document.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
+#include "ui/common/stray_input.h"
 #include "ui_propertyForm.h"
 
 #include <QFontMetricsF>
 #include <QListView>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QtMath>
 
@@ -58,6 +61,9 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     RefuseKeys(ui->txtQuestion, lineBreaks);
     KeepToOneLine(ui->txtTitle);
     KeepToOneLine(ui->txtColumnName);
+    KeepWheelForFocus(ui->cboType);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { emit HelpAsked(HelpContext::questionProperties); });
 
     // Whenever a type is picked, also the same one: that brings back the stored items.
     connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);

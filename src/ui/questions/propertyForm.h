@@ -25,6 +25,10 @@ public:
     explicit propertyForm(ProjectDocument &document, QWidget *parent = nullptr);
     ~propertyForm() override;
 
+signals:
+    /// F1 asked for help; contextId is the number of a help topic.
+    void HelpAsked(quint32 contextId);
+
 protected:
     void showEvent(QShowEvent *event) override;
 

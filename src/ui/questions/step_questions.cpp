@@ -132,7 +132,9 @@ void StepQuestions::Edit()
 {
     if (RefusesWithoutSelection())
         return;
-    propertyForm(document(), window()).exec();
+    propertyForm form(document(), window());
+    connect(&form, &propertyForm::HelpAsked, this, &StepQuestions::HelpAsked);
+    form.exec();
     RefreshPreview();
 }
 

@@ -119,7 +119,7 @@ TEST(Keys, AreThoseOfThePlatform)
     } rows[] = {
         {"mnuFileNew", QKeySequence::New},     {"mnuFileOpen", QKeySequence::Open},
         {"mnuFileSave", QKeySequence::Save},   {"mnuFileSaveAS", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
-        {"mnuFileExit", Qt::CTRL | Qt::Key_Q}, {"mnuContents", Qt::Key_F1},
+        {"mnuFileExit", Qt::CTRL | Qt::Key_Q},
     };
     for (const auto &row : rows)
         EXPECT_TRUE(designer.Find<QAction>(row.action)->shortcuts().contains(row.key))
