@@ -6,6 +6,7 @@
 #include "ui/common/screen_centre.h"
 #include "ui/common/stray_input.h"
 #include "ui/main/create_database.h"
+#include "ui/main/dropped_project.h"
 #include "ui/main/rescue_offer.h"
 #include "ui/main/step_complete.h"
 #include "ui/main/step_data.h"
@@ -50,6 +51,7 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
     ConnectMenus();
     ConnectToolbar();
     ConnectKeys();
+    new DroppedProject(this, [this](const QString &path) { OpenInPlace([path] { return path; }); });
     connect(&m_document, &ProjectDocument::Replaced, this, &appInfoForm::ForgetReview);
     ForgetReview();
 }
