@@ -1,6 +1,7 @@
 #include "cli/info_command.h"
 
 #include "cli/inputs.h"
+#include "cli/verify_command.h"
 #include "model/form_fields.h"
 #include "model/project_reader.h"
 #include "readback/summary.h"
@@ -25,6 +26,7 @@ struct Info {
     QList<Fact> facts;
     // Of each question.
     QStringList types = {}, columnNames = {}, titles = {};
+    std::vector<Notice> remarks = {};
 };
 
 Info InfoOf(const Project &project, qsizetype size)
@@ -89,13 +91,15 @@ void TellProgram(const Info &info, const QString &inputName, const Console &cons
     console.Write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
 }
 
-Result<Info> ReadInfo(const QByteArray &bytes)
+Result<Info> ReadInfo(const QByteArray &bytes, const QString &inputName)
 {
     if (LooksLikeDatabase(bytes)) {
         const Result<PalmDatabase> database = ReadDatabase(bytes);
         if (!database)
             return database.error();
-        return InfoOf(Summarize(*database));
+        Info info = InfoOf(Summarize(*database));
+        info.remarks = RemarkNotices(*database, inputName);
+        return info;
     }
     const Result<Project> project = ReadProject(bytes);
     if (!project)
@@ -111,7 +115,7 @@ Exit TellInfo(const CommandLine &line, const Console &console)
     const Result<QByteArray> bytes = ReadInput(input, eitherLimit, console);
     if (!bytes)
         return Refuse(console, Exit::Unreadable, bytes.error());
-    const Result<Info> info = ReadInfo(*bytes);
+    const Result<Info> info = ReadInfo(*bytes, InputName(input));
     if (!info)
         return Refuse(console, Exit::Unreadable,
                       {info.error().text, InputName(input), info.error().line});
@@ -119,6 +123,8 @@ Exit TellInfo(const CommandLine &line, const Console &console)
         TellProgram(*info, InputName(input), console);
     else
         TellPerson(*info, console);
+    for (const Notice &remark : info->remarks)
+        console.Tell(remark);
     return Exit::Fine;
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/inputs.h"
 #include "readback/database_check.h"
+#include "readback/header_check.h"
 #include "readback/soundness_check.h"
 #include "validation/project_review.h"
 
@@ -21,10 +22,13 @@ Notice NoticeOf(const Finding &finding, const QString &inputName)
             .field = finding.place.field};
 }
 
-Exit TellFindings(const QList<Finding> &findings, const QString &inputName, const Console &console)
+Exit TellFindings(const QList<Finding> &findings, const std::vector<Notice> &remarks,
+                  const QString &inputName, const Console &console)
 {
     for (const Finding &finding : findings)
         console.Tell(NoticeOf(finding, inputName));
+    for (const Notice &remark : remarks)
+        console.Tell(remark);
     if (console.json)
         console.Tell({.kind = "result"_L1,
                       .code = findings.isEmpty() ? "verified"_L1 : "not-verified"_L1,
@@ -40,6 +44,19 @@ void ComplainOf(const QList<Finding> &findings, const QString &inputName, const 
 {
     for (const Finding &finding : findings)
         console.Complain(NoticeOf(finding, inputName));
+}
+
+std::vector<Notice> RemarkNotices(const PalmDatabase &database, const QString &inputName)
+{
+    std::vector<Notice> notices;
+    for (const Finding &remark : RemarksOn(database)) {
+        Notice notice = NoticeOf(remark, inputName);
+        notice.kind = "remark"_L1;
+        notice.shown.prepend("remark: "_L1);
+        notice.advice = true;
+        notices.push_back(notice);
+    }
+    return notices;
 }
 
 bool Agrees(const QByteArray &database, const Project &project, const QString &inputName,
@@ -65,14 +82,15 @@ Exit VerifyDatabase(const CommandLine &line, const Console &console)
     const Result<PalmDatabase> database = ReadDatabase(*bytes);
     if (!database)
         return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
+    const std::vector<Notice> remarks = RemarkNotices(*database, InputName(input));
     if (line.inputs.size() == 1)
-        return TellFindings(CheckSoundness(*database), InputName(input), console);
+        return TellFindings(CheckSoundness(*database), remarks, InputName(input), console);
 
     Result<Project> project = ReadProjectInput(line.inputs[1], console);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
     ReviewProject(*project); // takes the blanks from the form information, as before a creation
-    return TellFindings(CheckDatabase(*database, *project), InputName(input), console);
+    return TellFindings(CheckDatabase(*database, *project), remarks, InputName(input), console);
 }
 
 } // namespace vellumo

@@ -1,5 +1,7 @@
 #include "readback/header_check.h"
 
+#include <QDateTime>
+
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
@@ -14,6 +16,14 @@ void CheckText(QLatin1StringView code, QLatin1StringView field, QByteArrayView f
 {
     if (found != expected)
         findings.append(OtherText(code, {field}, found, expected));
+}
+
+/// A time of a database for a message.
+QString ShownTime(quint32 seconds)
+{
+    // The clock of a place that nobody knows: counted without any zone.
+    const QDateTime start(QDate(1904, 1, 1), QTime(0, 0), Qt::UTC);
+    return start.addSecs(seconds).toString(u"yyyy-MM-dd HH:mm:ss"_s);
 }
 
 void CheckNumber(QLatin1StringView code, QLatin1StringView field, quint32 found, quint32 expected,
@@ -40,10 +50,24 @@ void CheckHeader(const PalmDatabase &database, const QByteArray &expectedName,
 {
     CheckText("database-name"_L1, "database name"_L1, database.name, expectedName, findings);
     CheckKind(database, findings);
-    CheckNumber("database-attributes"_L1, "database attributes"_L1, database.attributes,
-                expectedAttributes, findings);
+    CheckNumber("database-attributes"_L1, "database attributes"_L1,
+                database.attributes & ~DatabaseAttribute::backup, expectedAttributes, findings);
     CheckNumber("database-version"_L1, "database version"_L1, database.version, expectedVersion,
                 findings);
+}
+
+QList<Finding> RemarksOn(const PalmDatabase &database)
+{
+    QList<Finding> remarks;
+    if (database.backedUp != 0)
+        remarks.append({"backup-time"_L1,
+                        {"time of the last backup"_L1},
+                        u"The database was backed up at %1."_s.arg(ShownTime(database.backedUp))});
+    if (database.attributes & DatabaseAttribute::backup)
+        remarks.append({"backup-bit"_L1,
+                        {"database attributes"_L1},
+                        u"The database is marked to be backed up."_s});
+    return remarks;
 }
 
 } // namespace vellumo

@@ -12,8 +12,12 @@ namespace vellumo {
 void CheckKind(const PalmDatabase &database, QList<Finding> &findings);
 
 /// Appends what is wrong with the header of a database that must have this name. The times are not
-/// looked at: they are those of its making.
+/// looked at, and neither is what RemarksOn tells.
 void CheckHeader(const PalmDatabase &database, const QByteArray &expectedName,
                  QList<Finding> &findings);
+
+/// What the header of a database says of its life since it was made, and is no fault: the time of
+/// its last backup, and that it is to be backed up.
+QList<Finding> RemarksOn(const PalmDatabase &database);
 
 } // namespace vellumo

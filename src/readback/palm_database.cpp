@@ -13,9 +13,9 @@ namespace {
 
 // docs/palm-formats.md, "One layout for both files".
 constexpr qsizetype nameSize = 32;
-constexpr qsizetype typeSize = 4;     // of database, creator and resources
-constexpr qsizetype noTimesSize = 16; // backup time, changes, application's and sorting information
-constexpr qsizetype noListSize = 8;   // seed of numbers, next list of entries
+constexpr qsizetype typeSize = 4;           // of database, creator and resources
+constexpr qsizetype noInformationSize = 12; // changes, application's and sorting information
+constexpr qsizetype noListSize = 8;         // seed of numbers, next list of entries
 constexpr qsizetype gapSize = 2;
 constexpr qsizetype largestResource = 65535;
 
@@ -39,7 +39,8 @@ void TakeHeader(ByteReader &reader, PalmDatabase &database)
     database.version = reader.TakeNumber(2);
     database.created = reader.TakeNumber(4);
     database.modified = reader.TakeNumber(4);
-    reader.PassZeros(noTimesSize);
+    database.backedUp = reader.TakeNumber(4);
+    reader.PassZeros(noInformationSize);
     database.type = reader.Take(typeSize).toByteArray();
     database.creator = reader.Take(typeSize).toByteArray();
     reader.PassZeros(noListSize);

@@ -26,6 +26,7 @@ struct PalmResource {
 
 namespace DatabaseAttribute {
 inline constexpr quint32 resources = 0x0001;
+inline constexpr quint32 backup = 0x0008; ///< to be backed up; a handheld's user may ask for it
 inline constexpr quint32 hidden = 0x0100;
 } // namespace DatabaseAttribute
 
@@ -36,8 +37,9 @@ struct PalmDatabase {
     QByteArray creator = {};
     quint32 attributes = 0; ///< DatabaseAttribute
     quint32 version = 0;
-    quint32 created = 0; ///< seconds since 1904 on the clock of the place, as the next one
+    quint32 created = 0; ///< seconds since 1904 on the clock of the place, as the next ones
     quint32 modified = 0;
+    quint32 backedUp = 0;               ///< 0 = never
     QList<PalmResource> resources = {}; ///< by type, then number; no two the same
     qsizetype size = 0;                 ///< bytes of the whole file
 };

@@ -83,3 +83,29 @@ TEST_F(VerifyCommand, TellsProgramsInJson)
     EXPECT_NE(Objects()[0][u"code"_s].toString(), u""_s);
     EXPECT_EQ(Objects()[1][u"code"_s], u"not-verified"_s);
 }
+
+TEST_F(VerifyCommand, RemarksOnABackupWithoutAFinding)
+{
+    bytes.replace(44, 4, QByteArray("\xB4\0\0\1", 4));
+    bytes[33] = static_cast<char>(bytes[33] | 0x08);
+    const QString remarks = u"remark: The database was backed up at 1999-09-11 12:48:01.\n"
+                            "remark: The database is marked to be backed up.\n"_s;
+    EXPECT_EQ(Verify(bytes), 0);
+    EXPECT_EQ(Out(), remarks);
+    EXPECT_EQ(Run({u"verify"_s, database}), 0);
+    EXPECT_EQ(Out(), remarks);
+    EXPECT_EQ(Run({u"info"_s, database}), 0);
+    EXPECT_TRUE(Out().endsWith(remarks)) << Out().toStdString();
+
+    EXPECT_EQ(Run({u"verify"_s, u"--json"_s, database}), 0);
+    ASSERT_EQ(Objects().size(), 3);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"remark"_s);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"backup-time"_s);
+    EXPECT_EQ(Objects()[0][u"message"_s], u"The database was backed up at 1999-09-11 12:48:01."_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"backup-bit"_s);
+    EXPECT_EQ(Objects()[2][u"code"_s], u"verified"_s);
+    EXPECT_EQ(Run({u"info"_s, u"--json"_s, database}), 0);
+    ASSERT_EQ(Objects().size(), 3);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"info"_s);
+    EXPECT_EQ(Objects()[1][u"kind"_s], u"remark"_s);
+}

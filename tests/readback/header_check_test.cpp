@@ -31,3 +31,36 @@ TEST(HeaderCheck, FindsAnotherHeader)
     for (const Damage &row : rows)
         ExpectFound(row, TenTypesProject());
 }
+
+TEST(HeaderCheck, RemarksOnBackupsAndFindsNothing)
+{
+    const QString time = u"backup-time [time of the last backup] "_s;
+    const QString marked =
+        u"backup-bit [database attributes] The database is marked to be backed up."_s;
+    const QByteArray backedUp = WithNumber(TenTypes(), 44, 4, 0xB4000001);
+    const struct {
+        const char *what;
+        QByteArray bytes;
+        QStringList remarks;
+    } rows[] = {
+        {"as it was made", TenTypes(), {}},
+        {"backed up", backedUp, {time + u"The database was backed up at 1999-09-11 12:48:01."_s}},
+        {"long ago",
+         WithNumber(TenTypes(), 44, 4, 1),
+         {time + u"The database was backed up at 1904-01-01 00:00:01."_s}},
+        {"to be backed up", WithNumber(TenTypes(), 32, 2, 0x0109), {marked}},
+        {"both",
+         WithNumber(backedUp, 32, 2, 0x0109),
+         {time + u"The database was backed up at 1999-09-11 12:48:01."_s, marked}},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(Lines(RemarksOn(Read(row.bytes))), row.remarks);
+        EXPECT_EQ(LinesOf(row.bytes, TenTypesProject()), QStringList());
+    }
+    ExpectFound({"marked, and shown to the user",
+                 WithNumber(TenTypes(), 32, 2, 0x0009),
+                 {u"database-attributes [database attributes] "
+                  "The database attributes: 0x0001 instead of 0x0101."_s}},
+                TenTypesProject());
+}

@@ -64,6 +64,8 @@ TEST(PalmDatabase, ReadsTheTimesAsWritten)
     const QByteArray bytes = WithNumber(WithNumber(Golden(u"text"_s), 36, 4, 0xE2000001), 40, 4, 7);
     EXPECT_EQ(Read(bytes).created, 0xE2000001u);
     EXPECT_EQ(Read(bytes).modified, 7u);
+    EXPECT_EQ(Read(bytes).backedUp, 0u);
+    EXPECT_EQ(Read(WithNumber(bytes, 44, 4, 0xB0000009)).backedUp, 0xB0000009u);
 }
 
 TEST(PalmDatabase, RefusesWhatTheLayoutDoesNotAllow)
@@ -82,6 +84,7 @@ TEST(PalmDatabase, RefusesWhatTheLayoutDoesNotAllow)
          u"there is something after the end of its name"_s},
         {"a database of records", WithNumber(text, 32, 2, 0x0100),
          u"it is not marked as one of resources"_s},
+        {"a number of changes", WithNumber(text, 48, 4, 1), u"byte 51 is not zero"_s},
         {"application information", WithNumber(text, 52, 4, 0x80), u"byte 55 is not zero"_s},
         {"a next list of entries", WithNumber(text, 72, 4, 0x8000), u"byte 74 is not zero"_s},
         {"a count too large", WithNumber(text, 76, 2, 0xFFFF), u"it ends too early, at byte 703"_s},
