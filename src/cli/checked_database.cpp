@@ -32,19 +32,13 @@ CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
 class Creation
 {
 public:
-    Creation(Project &project, const QString &inputName, const CommandLine &line,
+    Creation(const Project &project, const QString &inputName, const CommandLine &line,
              const Console &console)
         : m_project(project), m_inputName(inputName), m_line(line), m_console(console)
     {}
 
     CheckedDatabase Run()
     {
-        const std::vector<Notice> notices = ReviewNotices(m_project, m_inputName);
-        for (const Notice &notice : notices)
-            m_console.Complain(notice);
-        if (!Passes(notices))
-            return {Exit::NotPassed};
-
         const WorkFolder work;
         if (!work.state())
             return {Refuse(m_console, Exit::NotWritten, work.state().error())};
@@ -93,7 +87,7 @@ private:
         return {Exit::Fine, *bytes, QFileInfo(made).fileName()};
     }
 
-    Project &m_project;
+    const Project &m_project;
     const QString m_inputName;
     const CommandLine &m_line;
     const Console &m_console;
@@ -103,6 +97,17 @@ private:
 
 CheckedDatabase MakeCheckedDatabase(Project &project, const QString &inputName,
                                     const CommandLine &line, const Console &console)
+{
+    const std::vector<Notice> notices = ReviewNotices(project, inputName);
+    for (const Notice &notice : notices)
+        console.Complain(notice);
+    if (!Passes(notices))
+        return {Exit::NotPassed};
+    return MakeReviewedDatabase(project, inputName, line, console);
+}
+
+CheckedDatabase MakeReviewedDatabase(const Project &project, const QString &inputName,
+                                     const CommandLine &line, const Console &console)
 {
     return Creation(project, inputName, line, console).Run();
 }

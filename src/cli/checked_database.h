@@ -19,4 +19,8 @@ struct CheckedDatabase {
 CheckedDatabase MakeCheckedDatabase(Project &project, const QString &inputName,
                                     const CommandLine &line, const Console &console);
 
+/// The same of a project that has passed the review, of which nothing is told then.
+CheckedDatabase MakeReviewedDatabase(const Project &project, const QString &inputName,
+                                     const CommandLine &line, const Console &console);
+
 } // namespace vellumo

@@ -3,6 +3,7 @@
 #include "cli/create_command.h"
 #include "cli/info_command.h"
 #include "cli/project_commands.h"
+#include "cli/recover_command.h"
 #include "cli/review_command.h"
 #include "cli/screens_command.h"
 #include "cli/verify_command.h"
@@ -65,6 +66,12 @@ constexpr Command commands[] = {
              "is given.\n"_L1,
      .shape = {.mostInputs = 1, .whichInput = whichProject, .output = true},
      .run = RewriteProject},
+    {.name = "recover"_L1,
+     .synopsis = "DATABASE [-o PROJECT] [--timeout SECONDS]"_L1,
+     .help = "Writes the project that a database holds, to standard output unless PROJECT\n"
+             "is given, and tells in what its database would be another one.\n"_L1,
+     .shape = {.mostInputs = 1, .whichInput = whichDatabase, .output = true, .timeout = true},
+     .run = RecoverDatabase},
 };
 
 constexpr QLatin1StringView head =

@@ -18,12 +18,13 @@ refused() {
     [ "$status" -eq 2 ] && [ ! -s printed ]
     grep -qxF "vellumo: The name 'a\\xff.vmp' is not in the encoding of this system." told
 }
-for command in review info verify script rewrite; do
+for command in review info verify script rewrite recover; do
     refused "$command" "$odd"
 done
 refused create -o . "$odd"
 refused rewrite "$project" -o "$odd"
 refused script "$project" --output "$odd"
+refused recover "$project" -o "$odd"
 [ "$(cat "$other")" = kept ]
 cmp "$odd" "$project"
 rm printed told
