@@ -12,6 +12,9 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+// How many of them have room beside a screen on paper; the others are counted there.
+constexpr qsizetype printedItems = 8, printedMisfits = 3;
+
 void WriteDrawings(QXmlStreamWriter &page, const Screen &screen, const DrawingContext &context,
                    const QString &identifier)
 {
@@ -46,15 +49,24 @@ void WriteQuestion(QXmlStreamWriter &page, const QString &question)
     page.writeEndElement();
 }
 
+/// Writes, for paper alone, how many of so many are not printed.
+void WriteUnprinted(QXmlStreamWriter &page, qsizetype count, qsizetype printed,
+                    QLatin1StringView look)
+{
+    if (count > printed)
+        WriteText(page, "p"_L1, u"... and %1 more"_s.arg(count - printed), look);
+}
+
 void WriteItems(QXmlStreamWriter &page, const QStringList &items)
 {
     WriteText(page, "dt"_L1, u"Items (%1)"_s.arg(items.size()));
     page.writeStartElement("dd"_L1);
     page.writeStartElement("ol"_L1);
     page.writeAttribute("tabindex"_L1, "0"_L1); // a long list scrolls by the keyboard, too
-    for (const QString &item : items)
-        WriteText(page, "li"_L1, item);
+    for (qsizetype i = 0; i < items.size(); ++i)
+        WriteText(page, "li"_L1, items[i], i < printedItems ? ""_L1 : "unprinted"_L1);
     page.writeEndElement();
+    WriteUnprinted(page, items.size(), printedItems, "printed"_L1);
     page.writeEndElement();
 }
 
@@ -67,6 +79,14 @@ void WriteFacts(QXmlStreamWriter &page, const Screen &screen)
     if (!screen.items.isEmpty())
         WriteItems(page, screen.items);
     page.writeEndElement();
+}
+
+void WriteMisfits(QXmlStreamWriter &page, const QStringList &misfits)
+{
+    for (qsizetype i = 0; i < misfits.size(); ++i)
+        WriteText(page, "p"_L1, misfits[i],
+                  i < printedMisfits ? "misfit"_L1 : "misfit unprinted"_L1);
+    WriteUnprinted(page, misfits.size(), printedMisfits, "misfit printed"_L1);
 }
 
 } // namespace
@@ -82,8 +102,7 @@ void WriteArticle(QXmlStreamWriter &page, const Screen &screen, int count,
     if (!screen.form)
         WriteText(page, "p"_L1, u"This form is damaged: "_s + screen.form.error().text, "fault"_L1);
     WriteFacts(page, screen);
-    for (const QString &misfit : screen.misfits)
-        WriteText(page, "p"_L1, misfit, "misfit"_L1);
+    WriteMisfits(page, screen.misfits);
     page.writeEndElement();
     page.writeEndElement();
 }

@@ -136,6 +136,26 @@ TEST(ScreensPage, WhatDoesNotFitIsToldBesideItsScreen)
     EXPECT_EQ(page.count(u"<title>meets button 97</title>"), 0) << "it wraps before that";
 }
 
+TEST(ScreensPage, OnPaperTheFirstOfManyAreToldAndTheOthersCounted)
+{
+    const auto pageOf = [](int items, int misfits) {
+        Screen screen = {.number = 1, .form = Form()};
+        for (int i = 1; i <= items; ++i)
+            screen.items += u"item %1"_s.arg(i);
+        for (int i = 1; i <= misfits; ++i)
+            screen.misfits += u"misfit %1"_s.arg(i);
+        return PageOf({{.name = u"a"_s, .screens = {screen}}});
+    };
+    EXPECT_EQ(pageOf(8, 3).count(u"printed\">"), 0);
+    const QString more = pageOf(240, 100);
+    EXPECT_TRUE(more.contains(u"<li>item 8</li><li class=\"unprinted\">item 9</li>"));
+    EXPECT_TRUE(more.contains(u"<p class=\"printed\">... and 232 more</p>"));
+    EXPECT_TRUE(more.contains(u"<p class=\"misfit\">misfit 3</p>"
+                              "<p class=\"misfit unprinted\">misfit 4</p>"));
+    EXPECT_TRUE(more.contains(u"<p class=\"misfit printed\">... and 97 more</p>"));
+    EXPECT_EQ(TextsOf(more, "li"_L1).size(), 240) << "a window shows all of them";
+}
+
 TEST(ScreensPage, ADatabaseOfAnotherKindIsToldAsWhatItIs)
 {
     const QList<PalmResource> resources = Read(Golden(u"text"_s)).resources;
