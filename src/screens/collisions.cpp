@@ -6,13 +6,16 @@
 #include "screens/object_place.h"
 #include "screens/table_rows.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
 constexpr QRect wholeScreen(0, 0, screen::width, screen::height);
-constexpr int edge = 3; // pixels that mark what is beyond them
+constexpr int edge = 3;             // pixels that mark what is beyond them
+constexpr qsizetype mostMarks = 50; // of a form; only one that was made up has more
 
 /// What an object takes of the screen; nothing where it is no obstacle to a text.
 QRect ObstacleOf(const FormObject &object)
@@ -43,6 +46,16 @@ QList<Collision> BeyondTheScreen(const QRect &place)
     return found;
 }
 
+/// As many as a drawing has, which tells where there are more.
+QList<Collision> Bounded(QList<Collision> found)
+{
+    if (found.size() > mostMarks) {
+        found = found.first(mostMarks);
+        found.last().reason += u", and there are more"_s;
+    }
+    return found;
+}
+
 /// Gathers what is wrong on one form.
 class Search
 {
@@ -67,7 +80,7 @@ public:
             if (object.kind == ObjectKind::Table)
                 for (const TableRow &row : RowsOf(object, m_form))
                     CheckCaption(row);
-        return m_found;
+        return Bounded(std::move(m_found));
     }
 
 private:

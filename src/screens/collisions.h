@@ -14,7 +14,7 @@ struct Collision {
 };
 
 /// What of the title, the question and the captions of check boxes meets an object, or leaves its
-/// place or the screen.
+/// place or the screen. At most 50, of which the last then tells that there are more.
 QList<Collision> FindCollisions(const Form &form);
 
 /// What of an opened list leaves the screen.

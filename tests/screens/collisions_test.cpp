@@ -99,3 +99,23 @@ TEST(Collisions, AListThatIsTooWideLeavesTheScreen)
     list.width = 147;
     EXPECT_EQ(Told(FindCollisionsOfList(list)), QStringList{u"157 29 3 90: leaves the screen"_s});
 }
+
+TEST(Collisions, AreBoundedWhereAFormIsMadeUp)
+{
+    Form form = FormOf({0, u"T"_s, u"a\\nb"_s, u"Text"_s, u"T"_s});
+    const FormObject gadget = {.kind = ObjectKind::Gadget,
+                               .number = 7,
+                               .y = 35,
+                               .width = 160,
+                               .height = 5,
+                               .flags = 0xFFFF};
+    for (int i = 0; i < 50; ++i)
+        form.objects += gadget;
+    EXPECT_EQ(Told(FindCollisions(form)), QStringList(50, u"10 35 6 5: meets gadget 7"_s));
+    for (int i = 0; i < 2'450; ++i)
+        form.objects += gadget;
+    const QStringList many = Told(FindCollisions(form));
+    ASSERT_EQ(many.size(), 50);
+    EXPECT_EQ(many[48], u"10 35 6 5: meets gadget 7"_s);
+    EXPECT_EQ(many[49], u"10 35 6 5: meets gadget 7, and there are more"_s);
+}
