@@ -58,8 +58,13 @@ private:
             return;
         m_measured.insert(question.Id);
         const LinePlace &line = type->id == TypeId::Checkboxes ? captionPlace : listPlace;
-        for (const QString &item : m_items.value(question.Id))
+        QSet<QString> seen; // of equal items the first is told
+        for (const QString &item : m_items.value(question.Id)) {
+            if (FitsAtAGlance(item, line) || seen.contains(item))
+                continue;
+            seen.insert(item);
             CheckItem(item, {"item"_L1, position}, line);
+        }
     }
 
     void CheckTitle(const QString &title, const TextPlace &place)
@@ -82,7 +87,7 @@ private:
 
     void CheckItem(const QString &item, const TextPlace &place, const LinePlace &line)
     {
-        if (FitsAtAGlance(item, line) || !Encode(item))
+        if (!Encode(item))
             return;
         const QList<QByteArray> arriving = InterpretItems(m_bytes);
         QString misfit;

@@ -85,7 +85,8 @@ sub misfits {
 
         next unless $type eq 'Pulldown List' || $type eq 'Checkboxes';
         my ($code, $most) = $type eq 'Checkboxes' ? ('caption', 120) : ('item', 140);
-        for my $item (@{$items{$value->('Id', $record)}}) {
+        my %told; # of equal items the first
+        for my $item (grep { !$told{$_}++ } @{$items{$value->('Id', $record)}}) {
             my @parts = map { arrives($_) } split /,/, $item, -1;
             my ($first) = grep { $_ > 0 } map { wide($standard, $_) - $most } @parts;
             push @found, "$code-too-wide $number item $first" if defined $first;

@@ -189,6 +189,17 @@ TEST(Misfits, CutAnItemAtItsCommas)
     EXPECT_EQ(OfQuestion(text, u","_s + Wide(138)), question) << "elsewhere a comma is a comma";
 }
 
+TEST(Misfits, TellOfEqualItemsOfAQuestionOnce)
+{
+    const QString wide = Wide(141, 0), other = Wide(142, 0);
+    EXPECT_EQ(Codes(ProjectOf({{.Type = pulldown, .Id = 7}},
+                              {{7, wide}, {7, u"ž"_s}, {7, wide}, {7, other}, {7, u"ž"_s}})),
+              item + QStringList{u"not-on-handheld 1 item"_s} + item);
+    EXPECT_EQ(Codes(ProjectOf({{.Type = pulldown, .Id = 7}, {.Type = pulldown, .Id = 8}},
+                              {{7, wide}, {8, wide}})),
+              item + QStringList{u"item-too-wide 2 item"_s});
+}
+
 TEST(Misfits, OfLettersThatTheHandheldLacks)
 {
     const QString there = u"not-on-handheld 1 "_s;
@@ -250,7 +261,8 @@ TEST(Misfits, OfTheLargestProject)
     for (int id = 1; id <= questions; ++id) {
         project.source.Questions().Append({.Type = pulldown, .Id = id});
         for (int i = 0; i < items; ++i)
-            project.source.Items().Append({id, Wide(i % 2 == 0 ? 140 : 141, 0)});
+            project.source.Items().Append(
+                {id, i % 2 == 0 ? Wide(140, 0) : QString::number(i) + Wide(141, 0)});
     }
     EXPECT_EQ(FindMisfits(project).size(), size_t{questions} * (items / 2));
 }
