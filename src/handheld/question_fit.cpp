@@ -14,10 +14,13 @@ namespace {
 
 constexpr quint32 bold = 1;
 
-/// The end of a text, in quotation marks, as much as is needed to find it again.
+/// The end of a text, in quotation marks, as much as is needed to find it again. It ends with a
+/// letter, so that the same place is quoted alike before and behind a blank.
 QString QuotedEnd(QByteArrayView text)
 {
     constexpr qsizetype enough = 16;
+    while (text.endsWith(' '))
+        text.chop(1);
     return u"\"%1%2\""_s.arg(text.size() > enough ? u"..."_s : QString(),
                              FromWindows1252(text.last(std::min(enough, text.size()))));
 }
@@ -31,6 +34,33 @@ QString WideLine(QByteArrayView line, const QString &name)
     return u"%1 %2; %3"_s.arg(name, misfit,
                               leaves ? u"the rest leaves the screen or wraps"_s
                                      : u"a button covers the rest"_s);
+}
+
+/// The words of a text with one blank between them.
+QByteArray Joined(QByteArrayView text)
+{
+    QByteArrayList words = text.toByteArray().replace('\n', ' ').split(' ');
+    words.removeAll(QByteArray());
+    return words.join(' ');
+}
+
+/// The places for line breaks where those that are typed do not help.
+QString OtherBreaks(QByteArrayView text, int freeLines)
+{
+    const QByteArray words = Joined(text);
+    const auto lines = WrappedLines(words, screen::questionWidth, bold);
+    qsizetype size = lines.size() - 1; // of the lines and the blanks between them
+    for (const QByteArrayView line : lines)
+        size += line.size();
+    const bool withinAWord = size != words.size();
+    if (withinAWord || lines.size() > freeLines)
+        return u"it has to be shorter"_s;
+    QStringList places;
+    for (const QByteArrayView line : lines.first(lines.size() - 1))
+        places << QuotedEnd(line);
+    if (places.isEmpty())
+        return u"it fits without \\n"_s;
+    return u"it fits with \\n after %1 only"_s.arg(places.join(" and "_L1));
 }
 
 /// The way out: a place for a line break where there is room for all the lines that it takes.
@@ -48,7 +78,7 @@ QString WayOut(QByteArrayView text, int freeLines)
         before = parts.front();
     }
     if (before.isEmpty() || lines > freeLines)
-        return u"it has to be shorter"_s;
+        return OtherBreaks(text, freeLines);
     return u"\\n in place of the blank after %1 breaks the line there"_s.arg(QuotedEnd(before));
 }
 

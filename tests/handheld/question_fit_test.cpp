@@ -75,11 +75,14 @@ TEST(QuestionFit, CountsTypedLines)
 {
     EXPECT_EQ(QuestionMisfit("a\nb", 1),
               u"in 2 lines it runs into the answer, as there is room for 1; "
+              "it fits without \\n"_s);
+    EXPECT_EQ(QuestionMisfit(full + "\nb", 1),
+              u"in 2 lines it runs into the answer, as there is room for 1; "
               "it has to be shorter"_s);
     EXPECT_EQ(QuestionMisfit("a\nb", 2), u""_s);
     EXPECT_EQ(QuestionMisfit("a\n\nb\n", 3),
               u"in 4 lines it runs into the answer, as there is room for 3; "
-              "it has to be shorter"_s);
+              "it fits without \\n"_s);
 }
 
 TEST(QuestionFit, NamesTheWayOut)
@@ -94,8 +97,32 @@ TEST(QuestionFit, NamesTheWayOut)
     EXPECT_EQ(wayOut(asked, 3), there);
     EXPECT_EQ(wayOut(asked, 1), u"it has to be shorter"_s) << "no line is free";
     EXPECT_EQ(wayOut("Hello\n" + asked, 3), there) << "the first line that is too wide";
-    EXPECT_EQ(wayOut("Hello\n" + asked, 2), u"it has to be shorter"_s);
+    EXPECT_EQ(wayOut("Hello\n" + full + " and " + full, 3), u"it has to be shorter"_s);
     EXPECT_EQ(wayOut(OfWidth(200, 1), 3), u"it has to be shorter"_s) << "no blank";
     EXPECT_EQ(wayOut(OfWidth(60, 1) + ' ' + OfWidth(200, 1), 2), u"it has to be shorter"_s)
         << "broken there it would still take three lines";
+}
+
+TEST(QuestionFit, NamesOtherBreaksWhereTheTypedOnesDoNotHelp)
+{
+    EXPECT_EQ(QuestionMisfit("When did you arrive \n at the water point today ok?", 2),
+              u"line 2 is 9 pixels too wide and stops after \"...er point today o\"; "
+              "a button covers the rest; it fits with \\n after \"...ou arrive at the\" only"_s);
+    const auto wayOut = [](const QByteArray &text, int freeLines) {
+        return QuestionMisfit(text, freeLines).section(u"; "_s, -1);
+    };
+    const QByteArray word = OfWidth(75, 1);
+    EXPECT_EQ(wayOut("Hello\n" + word + "A " + word + "B " + word, 3),
+              u"it fits with \\n after \"...iiiiiiiiiiiiiiiA\" and \"...iiiiiiiiiiiiiiiB\" only"_s);
+    EXPECT_EQ(wayOut(OfWidth(141, 1) + "\nb", 3), u"it has to be shorter"_s) << "a word too wide";
+}
+
+TEST(QuestionFit, QuotesAPlaceAlikeBeforeAndBehindABlank)
+{
+    const QByteArray word = OfWidth(138, 1); // and a blank of 2
+    EXPECT_EQ(QuestionMisfit(word + " iiii", 2),
+              u"it is 12 pixels too wide and stops after \"...iiiiiiiiiiiiiiii\"; "
+              "the rest leaves the screen or wraps; \\n in place of the blank after "
+              "\"...iiiiiiiiiiiiiiii\" breaks the line there"_s);
+    EXPECT_EQ(LineMisfit("ii  W", 10, 1), u"is 11 pixels too wide and stops after \"ii\""_s);
 }
