@@ -19,9 +19,14 @@ QByteArray TextOf(const FormObject *object)
 }
 
 /// A text of a database; empty where it has none that can be read.
+QByteArray BytesOf(const Decoded<QByteArray> &text)
+{
+    return text && *text ? **text : QByteArray();
+}
+
 QString TextOf(const Decoded<QByteArray> &text)
 {
-    return text && *text ? FromWindows1252(**text) : QString();
+    return FromWindows1252(BytesOf(text));
 }
 
 QDateTime TimeOf(quint32 secondsSince1904)
@@ -62,7 +67,8 @@ DatabaseScreens ScreensOf(const PalmDatabase &database)
                                .version = TextOf(content.version),
                                .description = TextOf(content.description),
                                .created = TimeOf(database.created),
-                               .findings = CheckSoundness(database)};
+                               .findings = CheckSoundness(database),
+                               .misfit = MisfitOfDescription(BytesOf(content.description))};
     if (screens.name.isEmpty())
         screens.name = FromWindows1252(database.name);
     for (const auto &[number, form] : content.forms)

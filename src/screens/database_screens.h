@@ -29,6 +29,7 @@ struct DatabaseScreens {
     QDateTime created = {};       ///< on the clock of the place; invalid where it is not told
     QList<Screen> screens = {};   ///< by their numbers
     QList<Finding> findings = {}; ///< what is wrong with the database
+    QString misfit = {};          ///< what of the description the handheld does not show
 };
 
 /// The screens of a database, from its bytes alone.

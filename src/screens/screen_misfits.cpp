@@ -7,13 +7,21 @@
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
+namespace {
+
+/// A misfit as a sentence about what it is of; empty where there is none.
+QString Sentence(const QString &what, const QString &misfit)
+{
+    return misfit.isEmpty() ? QString() : u"%1: %2."_s.arg(what, misfit);
+}
+
+} // namespace
 
 QStringList MisfitsOf(const FormTexts &texts, const QString &type)
 {
     QStringList misfits;
     const auto add = [&misfits](const QString &what, const QString &misfit) {
-        if (!misfit.isEmpty())
-            misfits += u"%1: %2."_s.arg(what, misfit);
+        misfits += Sentence(what, misfit);
     };
     const QuestionType *row = TypeNamed(type);
     add(u"Title"_s, MisfitIn(titlePlace, texts.title));
@@ -26,7 +34,13 @@ QStringList MisfitsOf(const FormTexts &texts, const QString &type)
         add(item, MisfitIn(place, texts.items[i]));
         add(item, LetterMisfit(texts.items[i]));
     }
+    misfits.removeAll(QString());
     return misfits;
+}
+
+QString MisfitOfDescription(QByteArrayView description)
+{
+    return Sentence(u"Description"_s, LetterMisfit(description));
 }
 
 } // namespace vellumo

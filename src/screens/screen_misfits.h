@@ -15,4 +15,7 @@ struct FormTexts {
 /// What of these texts the screen of a type's form does not show, a sentence each.
 QStringList MisfitsOf(const FormTexts &texts, const QString &type);
 
+/// What of the description of a database the handheld does not show, a sentence; else empty.
+QString MisfitOfDescription(QByteArrayView description);
+
 } // namespace vellumo

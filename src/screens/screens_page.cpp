@@ -62,6 +62,8 @@ void WriteHeading(QXmlStreamWriter &page, const DatabaseScreens &database)
     WriteText(page, "p"_L1, Summary(database));
     if (!database.description.isEmpty())
         WriteText(page, "p"_L1, database.description);
+    if (!database.misfit.isEmpty())
+        WriteText(page, "p"_L1, database.misfit, "misfit"_L1);
     for (const Finding &finding : database.findings)
         WriteText(page, "p"_L1, finding.text, "fault"_L1);
     page.writeEndElement();

@@ -136,6 +136,18 @@ TEST(ScreensPage, WhatDoesNotFitIsToldBesideItsScreen)
     EXPECT_EQ(page.count(u"<title>meets button 97</title>"), 0) << "it wraps before that";
 }
 
+TEST(ScreensPage, WhatTheHandheldLacksOfTheDescriptionIsToldInTheHeading)
+{
+    Project project = OneQuestionProject(u"a"_s, {0, u"T"_s, u"?"_s, u"Text"_s, u"T"_s});
+    project.Description = u"Caf\u00e9"_s;
+    EXPECT_EQ(PageOf({ScreensOfBytes(DatabaseOf(project))}).count(u"class=\"misfit\""), 0);
+    project.Description = u"Brno, \u017eenich"_s;
+    EXPECT_EQ(TextsOf(PageOf({ScreensOfBytes(DatabaseOf(project))}), "p"_L1).last(2),
+              (QStringList{u"Brno, \u017eenich"_s,
+                           u"Description: the handheld has no Z or z with a caron and shows "
+                           "another sign or none."_s}));
+}
+
 TEST(ScreensPage, OnPaperTheFirstOfManyAreToldAndTheOthersCounted)
 {
     const auto pageOf = [](int items, int misfits) {
