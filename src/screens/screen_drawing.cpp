@@ -2,9 +2,12 @@
 
 #include "handheld/screen_geometry.h"
 #include "screens/collisions.h"
+#include "screens/form_parts.h"
 #include "screens/object_place.h"
 #include "screens/screen_text.h"
 #include "screens/svg_shapes.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +61,21 @@ QString Words(const FormObject &object)
     return u"%1 \"%2\""_s.arg(Describe(object), ShownText(object.text));
 }
 
+/// The captions of a form's check boxes in words, all that its table scrolls through; empty where
+/// there is no table.
+QString CaptionWords(const Form &form)
+{
+    const FormObject *captions = CaptionsOf(form);
+    const bool hasTable = std::ranges::any_of(
+        form.objects, [](const FormObject &object) { return object.kind == ObjectKind::Table; });
+    if (!hasTable || !captions || captions->items.isEmpty())
+        return {};
+    QStringList words;
+    for (const QByteArray &caption : captions->items)
+        words += u"\"%1\""_s.arg(ShownText(caption));
+    return u"captions "_s + words.join(u", "_s);
+}
+
 } // namespace
 
 void DrawScreen(QXmlStreamWriter &page, const DrawingContext &context, const ScreenWords &words)
@@ -83,6 +101,7 @@ QString DescribeForm(const Form &form)
     QStringList words;
     for (const FormObject &object : form.objects)
         words += Words(object);
+    words += CaptionWords(form);
     words.removeAll(QString());
     return words.join(u", "_s) + u'.';
 }

@@ -209,3 +209,13 @@ TEST(ScreenDrawing, IsTold)
         "button 97, field 98, button 99 \"Prev\", button 100 \"Next\", button 101 \"Clear\", "
         "button 102."_s);
 }
+
+TEST(ScreenDrawing, IsToldWithTheCaptionsOfItsCheckBoxes)
+{
+    const QStringList items = {u"Open <trench>"_s, u"Traffic"_s};
+    EXPECT_TRUE(DescribeForm(FormOf({0, u"T"_s, u"?"_s, u"Checkboxes"_s, u"T"_s}, items))
+                    .endsWith(u", captions \"Open <trench>\", \"Traffic\"."));
+    EXPECT_FALSE(DescribeForm(FormOf({0, u"T"_s, u"?"_s, u"Pulldown List"_s, u"T"_s}, items))
+                     .contains(u"Traffic"))
+        << "its opened list has a drawing of its own";
+}
