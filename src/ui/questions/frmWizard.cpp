@@ -12,6 +12,7 @@
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
 #include "ui/common/stray_input.h"
+#include "ui/questions/focus_frame_delegate.h"
 #include "ui_frmWizard.h"
 
 #include <QEvent>
@@ -37,6 +38,7 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     ui->setupUi(this);
     for (const QuestionType &type : questionTypes)
         ui->lstWiz1_1->addItem(type.name);
+    ui->lstWiz1_1->setItemDelegate(new FocusFrameDelegate(this));
     ConfigureTitleBox();
     OfferTitles();
     ui->items->Configure(wizardItemList, {.list = u"lstWiz4_1"_s,
