@@ -1,6 +1,7 @@
 #include "designer/help_links.h"
 #include "designer/orderly_end.h"
 #include "designer/real_environment.h"
+#include "designer/told_words.h"
 #include "platform/arguments.h"
 #include "platform/toolkit_words.h"
 #include "ui/about/myHelp.h"
@@ -10,10 +11,16 @@
 
 #include <QApplication>
 
+#include <cstdio>
+
 using namespace vellumo;
 
 int main(int argc, char *argv[])
 {
+    if (const auto words = WordsFor(argc, argv)) {
+        const bool told = std::fputs(qPrintable(*words), stdout) >= 0 && std::fflush(stdout) == 0;
+        return told ? 0 : 1;
+    }
     KeepToolkitQuiet("vellumo-designer", "No window can be opened here: is there a display?", 32);
     QApplication application(argc, argv);
     QApplication::setWindowIcon(ProgramIcon());
@@ -32,7 +39,7 @@ int main(int argc, char *argv[])
     appInfoForm window(environment);
     ConnectHelp(window, help, environment);
     if (start.choice == existingProject)
-        window.OpenProject(start.path);
+        window.OpenProject(start.path, start.hint);
     window.FinishSetUp();
     window.show();
     shown = &window;

@@ -162,7 +162,7 @@ void appInfoForm::OpenInPlace(const std::function<QString()> &choose)
     OpenProject(path);
 }
 
-void appInfoForm::OpenProject(const QString &path)
+void appInfoForm::OpenProject(const QString &path, const QString &hint)
 {
     Fingerprint fingerprint;
     Result<Project> loaded = LoadProject(path, &fingerprint);
@@ -171,7 +171,8 @@ void appInfoForm::OpenProject(const QString &path)
     } else {
         m_document.Replace({}, {});
         m_document.SetProjectChanged(false); // nothing to rescue while the box is up
-        ShowCritical(this, invalidProjectFile, loaded.error());
+        const QString reason = Describe(loaded.error());
+        ShowCritical(this, invalidProjectFile, hint.isEmpty() ? reason : reason + u'\n' + hint);
     }
     ShowOpened(false);
 }

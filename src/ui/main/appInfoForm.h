@@ -32,8 +32,8 @@ public:
     ~appInfoForm() override;
 
     /// Opens a project file in place of the open project and reviews it in silence. A file that is
-    /// no project gets a box, and the project is a new one.
-    void OpenProject(const QString &path);
+    /// no project gets a box, with the hint below the reason, and the project is a new one.
+    void OpenProject(const QString &path, const QString &hint = {});
 
     /// Lays the window out and shows step 1; the project counts as unchanged from here on.
     void FinishSetUp();

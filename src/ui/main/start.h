@@ -11,6 +11,7 @@ inline constexpr QLatin1StringView existingProject{"Existing"};
 struct Start {
     QString choice = newProject; ///< newProject or existingProject
     QString path = {};           ///< of the project file; empty for a new project
+    QString hint = {};           ///< goes with the reason where that file cannot be opened
 };
 
 } // namespace vellumo

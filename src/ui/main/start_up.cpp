@@ -8,6 +8,9 @@
 #include "ui/main/update_check.h"
 
 #include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
@@ -24,6 +27,15 @@ Start AskForProject(const Environment &environment)
     chooser.exec();
     const Start chosen = chooser.Chosen();
     return chosen.choice == newProject || chosen.path.isEmpty() ? Start() : chosen;
+}
+
+/// For who takes the current folder for the one where a bare name is looked for.
+QString HintAbout(const QString &name, const QString &path)
+{
+    if (name == path || QFileInfo(path).isFile() || !QFileInfo(name).isFile())
+        return {};
+    return u"There is one in the current folder: to open it, write .%1%2."_s.arg(QDir::separator(),
+                                                                                 name);
 }
 
 } // namespace
@@ -45,7 +57,7 @@ Start StartUp(const Environment &environment, const QStringList &arguments, cons
     }
     const QString named = ProjectOfCommandLine(arguments, environment.applicationFolder);
     if (!named.isEmpty())
-        return {existingProject, named};
+        return {existingProject, named, HintAbout(arguments.join(u' '), named)};
 
     ShowSplash(environment);
     const ShowOpenForm setting = ReadShowOpenForm(environment.applicationFolder);

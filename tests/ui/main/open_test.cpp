@@ -53,6 +53,16 @@ TEST(Open, StopsAtCancelAlone)
     EXPECT_EQ(designer.project().FormName, u"Survey"_s);
 }
 
+TEST(Open, TellsTheHintWhereTheFileIsMissing)
+{
+    Designer designer;
+    const PromptScript prompts({u"OK"_s});
+    designer.window.OpenProject(u"/none/a.vmp"_s, u"Look elsewhere."_s);
+    ASSERT_EQ(prompts.boxes().size(), 1u);
+    EXPECT_TRUE(prompts.boxes()[0].informative.startsWith(u"/none/a.vmp: "_s));
+    EXPECT_TRUE(prompts.boxes()[0].informative.endsWith(u"\nLook elsewhere."_s));
+}
+
 TEST(Open, RefusesAFileThatIsNoProject)
 {
     const Designer designer(siteVisit);

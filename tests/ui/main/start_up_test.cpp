@@ -99,6 +99,29 @@ TEST_F(AStart, WithAProjectNamedShowsNothing)
     EXPECT_FALSE(QFile::exists(m_folder.filePath(u"settings.ini"_s)));
 }
 
+TEST_F(AStart, KnowsAFileInTheCurrentFolderThatIsNotWhereItIsLookedFor)
+{
+    const QString before = QDir::currentPath();
+    QTemporaryDir current;
+    ASSERT_TRUE(QDir::setCurrent(current.path()));
+    for (const QString &name : {u"a.vmp"_s, u"my b.vmp"_s})
+        EXPECT_TRUE(WriteBytes(current.filePath(name), "x"));
+    const struct {
+        QStringList arguments;
+        QString hint;
+    } rows[] = {
+        {{u"my"_s, u"b.vmp"_s},
+         u"There is one in the current folder: to open it, write .%1my b.vmp."_s.arg(
+             QDir::separator())},
+        {{u"a.vmp"_s}, {}}, // there is one where it is looked for, too
+        {{u"c.vmp"_s}, {}},
+        {{u".%1my b.vmp"_s.arg(QDir::separator())}, {}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(StartUp(m_environment, row.arguments).hint, row.hint);
+    EXPECT_TRUE(QDir::setCurrent(before));
+}
+
 TEST_F(AStart, OpensNothingWhereTheNameIsNotWhatWasTyped)
 {
     const PromptScript script({u"OK"_s});
