@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <deque>
 #include <functional>
 
@@ -18,10 +19,12 @@ class Typist
 public:
     void Text(const QString &text)
     {
+        m_letters += text.size();
         m_steps.push_back({[text] { QTest::keyClicks(Focus(), text); }});
     }
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {})
     {
+        m_keys += 1 + std::popcount(static_cast<quint32>(held.toInt()));
         m_steps.push_back({[=] { QTest::keyClick(Focus(), key, held); }});
     }
     /// Presses Tab until the control of this objectName has the focus.
@@ -32,6 +35,7 @@ public:
                 if (Focus()->objectName() == QLatin1StringView(name))
                     return;
                 QTest::keyClick(Focus(), Qt::Key_Tab);
+                ++m_keys;
             }
             GiveUp(std::string("Tab never reaches ") + name);
         }});
@@ -49,6 +53,10 @@ public:
         return QTest::qWaitFor([&] { return m_typed && !QApplication::activeModalWidget(); },
                                60'000);
     }
+
+    /// What was pressed beside the letters of texts, with Tab, Shift, Ctrl and Alt; after a run.
+    qsizetype keys() const { return m_keys; }
+    qsizetype letters() const { return m_letters; }
 
 private:
     /// Either an act, or something to wait for.
@@ -118,6 +126,7 @@ private:
     std::deque<Step> m_steps;
     QElapsedTimer m_waited;
     bool m_typed = false;
+    qsizetype m_keys = 0, m_letters = 0;
 };
 
 } // namespace vellumo
