@@ -1,6 +1,9 @@
 #include "editing/pasted_items.h"
 
 #include "editing/built_in_names.h"
+#include "model/limits.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -63,8 +66,10 @@ QString PutItems(QStringList &items, const QStringList &lines)
     ItemList list;
     list.SetItems(items);
     QString refusal;
-    for (auto line = lines.begin(); line != lines.end() && refusal.isEmpty(); ++line)
-        refusal = Put(list, *line);
+    // One more than a list can have is enough for its rule.
+    for (const QString &line : lines.first(std::min(lines.size(), pulldownLimit.most + 1)))
+        if (refusal = Put(list, line); !refusal.isEmpty())
+            break;
     items = list.Items();
     return refusal;
 }

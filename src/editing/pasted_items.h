@@ -22,7 +22,7 @@ private:
 QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
                    const QStringList &lines);
 
-/// The same for a list that may have any number; the first refusal ends it and is given.
+/// The same for a list that may grow beyond every limit; the first refusal ends it and is given.
 QString PutItems(QStringList &items, const QStringList &lines);
 
 } // namespace vellumo

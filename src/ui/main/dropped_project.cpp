@@ -1,5 +1,6 @@
 #include "ui/main/dropped_project.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QMimeData>
@@ -42,7 +43,7 @@ bool DroppedProject::eventFilter(QObject *, QEvent *event)
         return false;
     auto *drop = static_cast<QDropEvent *>(event);
     const QString path = ProjectIn(*drop->mimeData());
-    if (path.isEmpty())
+    if (path.isEmpty() || QApplication::activeModalWidget())
         return false;
     drop->setDropAction(Qt::CopyAction); // the file stays where it is
     drop->accept();

@@ -25,6 +25,7 @@ RowDragging::RowDragging(QAbstractItemView *view, Dropped dropped)
     m_line->hide();
     m_scrolling.setInterval(50);
     connect(&m_scrolling, &QTimer::timeout, this, &RowDragging::Scroll);
+    connect(view->model(), &QAbstractItemModel::modelReset, this, &RowDragging::Stop);
     view->viewport()->installEventFilter(this);
     view->installEventFilter(this);
 }

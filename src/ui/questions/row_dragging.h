@@ -21,7 +21,7 @@ public:
     /// The row was let go where it becomes another one; moving it is the receiver's.
     using Dropped = std::function<void(int from, int to)>;
 
-    /// Belongs to the view.
+    /// Belongs to the view, which has its model by now.
     RowDragging(QAbstractItemView *view, Dropped dropped);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -78,6 +78,18 @@ TEST(ItemListMoving, IsGivenUpByEsc)
     EXPECT_EQ(Order(desk), u"0123456789"_s);
 }
 
+TEST(ItemListMoving, EndsWhereTheListBecomesAnother)
+{
+    Desk desk(wizard);
+    desk.editor.resize(400, 600);
+    desk.editor.SetItems(Numbered(10));
+    const Dragging drag(desk.editor.List(), 8, 1);
+    desk.editor.SetItems(Numbered(3));
+    EXPECT_FALSE(drag.ShowsLine());
+    drag.LetGo();
+    EXPECT_EQ(desk.Shown(), Numbered(3));
+}
+
 TEST(ItemListMoving, StaysAClickWhileTheMouseHardlyMoves)
 {
     Desk desk(wizard);
