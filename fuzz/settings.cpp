@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     HideOpenFormNextTime(folder);
     const ShowOpenForm after = ReadShowOpenForm(folder);
     Require(after.value == 0 || after.value == before.value, "it is hidden, or nothing is changed");
-    constexpr std::size_t mayGrowTooLarge = 8 * 1024; // a character becomes an entity
+    constexpr std::size_t mayGrowTooLarge = 8ULL * 1024; // a character becomes an entity
     if (before.value >= 0 && size < mayGrowTooLarge)
         Require(after.value == 0, "the chooser is hidden from now on");
     QFile file(path);

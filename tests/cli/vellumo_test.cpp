@@ -206,7 +206,7 @@ TEST_F(Vellumo, ReadsAndWritesStandardStreams)
 
     EXPECT_EQ(Run({u"script"_s, u"-"_s}, "no project"), 3);
     EXPECT_TRUE(Err().startsWith(u"standard input:1: "));
-    EXPECT_EQ(Run({u"script"_s, u"-"_s}, QByteArray(16 * 1024 * 1024 + 1, ' ')), 3);
+    EXPECT_EQ(Run({u"script"_s, u"-"_s}, QByteArray(16LL * 1024 * 1024 + 1, ' ')), 3);
     EXPECT_EQ(Err(), u"standard input: The file is larger than any project can be\n"_s);
 }
 

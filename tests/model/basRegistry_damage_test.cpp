@@ -42,7 +42,7 @@ TEST_F(BasRegistry, APipeInThePlaceOfTheFileIsDamage)
 
 TEST_F(BasRegistry, AFileOfMoreThan64KibIsDamage)
 {
-    const QByteArray largest = QByteArray(asFirstCreated).leftJustified(64 * 1024, ' ');
+    const QByteArray largest = QByteArray(asFirstCreated).leftJustified(64LL * 1024, ' ');
     Put(largest);
     EXPECT_EQ(ReadShowOpenForm(Folder()).value, 1);
     Put(largest + ' ');

@@ -53,7 +53,7 @@ TEST_F(ProjectFile, SaysWhyAFileCannotBeRead)
     EXPECT_NE(reasonFor(u""_s), u"loaded"_s);
 
     QFile large(InFolder(u"large.vmp"_s));
-    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(16 * 1024 * 1024 + 1));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(16LL * 1024 * 1024 + 1));
     EXPECT_EQ(reasonFor(large.fileName()), u"The file is larger than any project can be"_s);
 }
 
@@ -115,7 +115,7 @@ TEST_F(ProjectFile, KnowsWhetherItHoldsSomethingElse)
     QFile file(path);
     ASSERT_TRUE(file.resize(file.size() - 1));
     EXPECT_TRUE(HoldsSomethingElse(path, saved));
-    ASSERT_TRUE(file.resize(16 * 1024 * 1024 + 1));
+    ASSERT_TRUE(file.resize(16LL * 1024 * 1024 + 1));
     EXPECT_TRUE(HoldsSomethingElse(path, saved)) << "too large to be a project";
     ASSERT_TRUE(file.remove());
     EXPECT_FALSE(HoldsSomethingElse(path, saved)) << "gone";

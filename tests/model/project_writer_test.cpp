@@ -165,7 +165,7 @@ TEST(ProjectWriter, AFilterHidesNothingFromTheFile)
 TEST(ProjectWriter, RefusesWhatCouldNotBeReadAgainForItsSize)
 {
     Project project;
-    project.Description = QString(16 * 1024 * 1024, u'x');
+    project.Description = QString(16LL * 1024 * 1024, u'x');
     EXPECT_EQ(RefusalOf(project), u"The project is larger than any file of one can be."_s);
 }
 

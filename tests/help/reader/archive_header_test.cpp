@@ -22,7 +22,7 @@ QByteArray Sound()
     return FileOf({ListingOf(""), ListingOf(""), IndexOf("")}, 2, "0123456789");
 }
 
-constexpr quint64 contentStart = chunksStart + 3 * 256;
+constexpr quint64 contentStart = chunksStart + 3ULL * 256;
 
 TEST(ArchiveHeader, LeadsToDirectoryAndContent)
 {
