@@ -15,7 +15,7 @@ protected:
     {
         const QByteArray bytes = BytesOf(example);
         EXPECT_TRUE(bytes.contains(from)) << from.toStdString();
-        const QString path = InFolder(name);
+        QString path = InFolder(name);
         WriteBytes(path, QByteArray(bytes).replace(from, to));
         return path;
     }

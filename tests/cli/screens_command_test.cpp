@@ -36,7 +36,7 @@ protected:
     /// A database of which a form ends too early.
     QString DamagedDatabase()
     {
-        const QString path = InFolder(u"damaged.prc"_s);
+        QString path = InFolder(u"damaged.prc"_s);
         QByteArray bytes = BytesOf(tenTypes);
         const qsizetype entry = bytes.indexOf("tFRM") + 4 + 2;
         bytes[entry + 3] = static_cast<char>(bytes[entry + 3] + 2); // where the first one begins
