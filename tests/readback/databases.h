@@ -21,7 +21,7 @@ inline QStringList GoldenNames()
 /// The bytes of a database of tests/data/palm.
 inline QByteArray Golden(const QString &name)
 {
-    const QByteArray bytes = BytesOf(DataFile(QStringLiteral("palm/%1.prc").arg(name)));
+    QByteArray bytes = BytesOf(DataFile(QStringLiteral("palm/%1.prc").arg(name)));
     EXPECT_FALSE(bytes.isEmpty()) << name.toStdString();
     return bytes;
 }

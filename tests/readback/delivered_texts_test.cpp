@@ -13,7 +13,7 @@ namespace {
 DeliveredTexts Delivered(const Project &project)
 {
     QList<Finding> findings;
-    const DeliveredTexts texts = DeliverTexts(project, deliveredTypes, findings);
+    DeliveredTexts texts = DeliverTexts(project, deliveredTypes, findings);
     EXPECT_TRUE(findings.isEmpty());
     return texts;
 }

@@ -134,7 +134,7 @@ TEST(FormReader, RefusesWhatDoesNotAddUp)
     const QByteArray text = FormBytes(u"text"_s);
     const QByteArray checkboxes = FormBytes(u"checkboxes"_s);
     const qsizetype table = 184;
-    const qsizetype firstRow = table + 74 + 2 * 18;
+    const qsizetype firstRow = table + 74 + 2LL * 18;
     const struct {
         const char *what;
         QByteArray form;

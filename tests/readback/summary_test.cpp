@@ -47,7 +47,7 @@ TEST(Summary, LeavesOutWhatCannotBeRead)
 
     QByteArray damaged = WithData(Golden(u"tentypes"_s), "tFRM", 1,
                                   [](const QByteArray &form) { return form.chopped(1); });
-    damaged = WithData(damaged, "ques", 1002, [](QByteArray) { return "\x10\x02\xFF"; });
+    damaged = WithData(damaged, "ques", 1002, [](const QByteArray &) { return "\x10\x02\xFF"; });
     EXPECT_EQ(Summarize(Read(damaged)).titles.size(), 9);
     EXPECT_EQ(Summarize(Read(damaged)).types, (QStringList{u"0x10"_s, u"Yes/No"_s, u"0xff"_s}));
 }

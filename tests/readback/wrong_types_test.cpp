@@ -107,7 +107,7 @@ TEST(WrongGenerator, IsSeenByTheFormOfEachType)
     const PalmDatabase database = Read(TenTypes());
     for (quint32 of = 1; of <= questions; ++of) {
         for (quint32 as = 1; as <= questions; ++as) {
-            const QByteArray form = WithNumber(DataOf(database, "tFRM", as), formNumber, 2, of);
+            QByteArray form = WithNumber(DataOf(database, "tFRM", as), formNumber, 2, of);
             const QStringList lines =
                 LinesOf(WithData(TenTypes(), "tFRM", of, [&](const QByteArray &) { return form; }),
                         TenTypesProject());

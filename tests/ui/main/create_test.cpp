@@ -98,7 +98,7 @@ TEST(Create, TellsOfAToolThatDoesNotStartAndGoesOn)
 auto ToolsThatLeave(const Designer &designer, std::function<void(QByteArray &database)> change)
 {
     return [&designer, change = std::move(change)](const ToolCall &call) {
-        const ToolRun run = RunRealTool(call);
+        ToolRun run = RunRealTool(call);
         const QString path = designer.projects + u"/SiteVisit.prc"_s;
         if (QByteArray bytes = QFile::exists(path) ? BytesOf(path) : QByteArray();
             !bytes.isEmpty()) {

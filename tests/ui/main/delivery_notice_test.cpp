@@ -35,7 +35,7 @@ private:
         Project project{.FormName = u"Survey"_s, .FormPath = u"C:\\Data"_s};
         for (const QuestionRow &row : rows)
             project.source.Questions().Append(row);
-        const QString path = folder.filePath(u"survey.vmp"_s);
+        QString path = folder.filePath(u"survey.vmp"_s);
         EXPECT_TRUE(SaveProject(project, path));
         return path;
     }

@@ -23,7 +23,7 @@ inline QString ProjectFile(const QTemporaryDir &folder, int questions,
         for (int item = 1; item <= items; ++item)
             project.source.Items().Append({id, number + u'.' + QString::number(item)});
     }
-    const QString path = folder.filePath(QStringLiteral("survey.vmp"));
+    QString path = folder.filePath(QStringLiteral("survey.vmp"));
     EXPECT_TRUE(SaveProject(project, path));
     return path;
 }
