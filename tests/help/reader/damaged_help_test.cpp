@@ -140,7 +140,7 @@ TEST(DamagedHelp, MayNotGoRoundInItsIndex)
     QByteArray help = LargeHelp();
     const qsizetype index = help.indexOf("PMGI");
     ASSERT_GT(index, 0);
-    const qsizetype firstName = help.at(index + 8);
+    const qsizetype firstName = static_cast<uchar>(help.at(index + 8));
     const qsizetype chunks = (index - 0xCC) / 0x1000;
     help[index + 9 + firstName] = char(chunks); // the index itself
     ASSERT_TRUE(WriteBytes(path, help));

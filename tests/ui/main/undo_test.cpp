@@ -44,12 +44,12 @@ TEST(Undo, TakesBackAndRepeatsWhatWasDoneToQuestions)
     const struct {
         const char *button;
         int row;
-        QStringList answers;
         bool counts;
-    } rows[] = {{"cmdDel", 2, {u"Yes"_s}, true},
-                {"cmdUp", 4, {}, true},
-                {"cmdDown", 0, {}, true},
-                {"cmdDuplic", 7, {u"Yes"_s}, false}};
+        QStringList answers;
+    } rows[] = {{"cmdDel", 2, true, {u"Yes"_s}},
+                {"cmdUp", 4, true, {}},
+                {"cmdDown", 0, true, {}},
+                {"cmdDuplic", 7, false, {u"Yes"_s}}};
     for (const auto &row : rows) {
         SCOPED_TRACE(row.button);
         const Undoing designer(2);
