@@ -146,7 +146,7 @@ TEST(DeskKeys, OpenTheHelpThatFits)
         pages += one[0].toUInt();
     using namespace HelpContext;
     EXPECT_EQ(pages, (QList<quint32>{formInformation, questions, uploadingData, finalReview,
-                                     questionProperties, questionTypes, questionWizard,
+                                     questionProperties, HelpContext::questionTypes, questionWizard,
                                      questionWizard, questionWizard, items}));
 }
 
