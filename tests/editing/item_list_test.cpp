@@ -45,6 +45,8 @@ TEST(ItemList, AsksForNoMoreItemsFromItsHostsLimitOn)
         {"wizard, pulldown list, 256", wizardItemList, u"Pulldown List"_s, 256, tooManyItems},
         {"wizard, checkboxes, 32", wizardItemList, u"Checkboxes"_s, 32, u""_s},
         {"wizard, checkboxes, 33", wizardItemList, u"Checkboxes"_s, 33, tooManyBoxes},
+        {"wizard, a type without items", wizardItemList, u"Text"_s, 256, u""_s},
+        {"wizard, no type", wizardItemList, u""_s, 256, u""_s},
         {"dialog, pulldown list, 254", propertyItemList, u"Pulldown List"_s, 254, u""_s},
         {"dialog, pulldown list, 255", propertyItemList, u"Pulldown List"_s, 255, tooManyItems},
         {"dialog, checkboxes, 33", propertyItemList, u"Checkboxes"_s, 33, u""_s},
