@@ -1,10 +1,12 @@
 #include "ui/common/drawing_engine.h"
 
+#include "ui/common/drawing_file.h"
+
 #include <QApplication>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyle>
 #include <QStyleOption>
-#include <QSvgRenderer>
 
 Q_IMPORT_PLUGIN(DrawingPlugin)
 
@@ -12,10 +14,17 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 
+std::shared_ptr<DrawingFile> DrawingFiles::At(const QString &path)
+{
+    auto &file = m_files[path];
+    if (!file)
+        file = std::make_shared<DrawingFile>(path);
+    return file->renderer.isValid() ? file : nullptr;
+}
+
 void DrawingEngine::addFile(const QString &path, const QSize &, QIcon::Mode mode, QIcon::State)
 {
-    auto drawing = std::make_shared<QSvgRenderer>(path);
-    if (drawing->isValid())
+    if (auto drawing = m_files->At(path))
         m_drawings[mode] = std::move(drawing);
 }
 
@@ -26,25 +35,34 @@ bool DrawingEngine::isNull()
 
 QSize DrawingEngine::actualSize(const QSize &size, QIcon::Mode mode, QIcon::State)
 {
-    const QSvgRenderer *drawing = DrawingFor(mode);
-    return drawing ? drawing->defaultSize().scaled(size, Qt::KeepAspectRatio) : QSize();
+    const DrawingFile *drawing = DrawingFor(mode);
+    return drawing ? drawing->renderer.defaultSize().scaled(size, Qt::KeepAspectRatio) : QSize();
 }
 
 QPixmap DrawingEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)
 {
-    QPixmap pixmap(actualSize(size, mode, state));
-    if (pixmap.isNull())
+    const QSize actual = actualSize(size, mode, state);
+    if (actual.isEmpty())
+        return {};
+    DrawingFile &drawing = *DrawingFor(mode);
+    const QPalette palette = QGuiApplication::palette();
+    const QString key = u"%1 %2x%3 %4 %5 %6"_s.arg(drawing.path)
+                            .arg(actual.width())
+                            .arg(actual.height())
+                            .arg(mode)
+                            .arg(palette.cacheKey())
+                            .arg(QGuiApplication::layoutDirection());
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
         return pixmap;
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    DrawingFor(mode)->render(&painter);
-    painter.end();
-    if (m_drawings[mode])
-        return pixmap;
-
-    QStyleOption option;
-    option.palette = QGuiApplication::palette();
-    return QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
+    pixmap = Drawn(drawing, actual);
+    if (!m_drawings[mode]) {
+        QStyleOption option;
+        option.palette = palette;
+        pixmap = QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
+    }
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
 }
 
 void DrawingEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
@@ -65,7 +83,7 @@ QString DrawingEngine::key() const
     return u"drawing"_s;
 }
 
-QSvgRenderer *DrawingEngine::DrawingFor(QIcon::Mode mode) const
+DrawingFile *DrawingEngine::DrawingFor(QIcon::Mode mode) const
 {
     const auto &own = m_drawings[mode];
     return own ? own.get() : m_drawings[QIcon::Normal].get();
@@ -73,7 +91,7 @@ QSvgRenderer *DrawingEngine::DrawingFor(QIcon::Mode mode) const
 
 QIconEngine *DrawingPlugin::create(const QString &)
 {
-    return new DrawingEngine; // QIcon adds the file itself
+    return new DrawingEngine(m_files); // QIcon adds the file itself
 }
 
 } // namespace vellumo

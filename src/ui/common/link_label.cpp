@@ -1,14 +1,51 @@
 #include "ui/common/link_label.h"
 
+#include "ui/common/contrast.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
+#include <QPainter>
+#include <QStyle>
 
 namespace vellumo {
+namespace {
+
+class AccessibleLink : public QAccessibleWidget
+{
+public:
+    explicit AccessibleLink(LinkLabel *link) : QAccessibleWidget(link, QAccessible::Link) {}
+
+    QString text(QAccessible::Text which) const override
+    {
+        const QString own = QAccessibleWidget::text(which);
+        const bool unnamed = which == QAccessible::Name && own.isEmpty();
+        return unnamed ? static_cast<LinkLabel *>(widget())->text() : own;
+    }
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            emit static_cast<LinkLabel *>(widget())->Followed();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+};
+
+QAccessibleInterface *MakeLink(const QString &className, QObject *object)
+{
+    const bool isLink = className == QLatin1StringView(LinkLabel::staticMetaObject.className());
+    return isLink ? new AccessibleLink(static_cast<LinkLabel *>(object)) : nullptr;
+}
+
+} // namespace
 
 LinkLabel::LinkLabel(QWidget *parent) : QLabel(parent)
 {
+    QAccessible::installFactory(MakeLink); // which takes each but once
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
@@ -16,6 +53,19 @@ LinkLabel::LinkLabel(QWidget *parent) : QLabel(parent)
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);
+}
+
+QColor LinkLabel::Ink() const
+{
+    // Windows have one ground, the pages of tabs that of buttons, or one that is a bit lighter.
+    constexpr int lighter = 128; // percent
+    const QColor window = palette().color(QPalette::Window);
+    const QColor button = palette().color(QPalette::Button);
+    const QColor link = palette().color(QPalette::Link);
+    const QColor onBoth = Legible(link, {window, button, button.lighter(lighter)}, textContrast);
+    if (Contrast(onBoth, window) >= textContrast)
+        return onBoth;
+    return Legible(link, {window}, textContrast);
 }
 
 void LinkLabel::changeEvent(QEvent *event)
@@ -44,17 +94,19 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent *event)
         emit Followed();
 }
 
-void LinkLabel::paintEvent(QPaintEvent *event)
+void LinkLabel::paintEvent(QPaintEvent *)
 {
-    QLabel::paintEvent(event);
+    QPainter painter(this);
+    QPalette inked = palette();
+    inked.setColor(QPalette::Link, Ink());
+    style()->drawItemText(&painter, contentsRect(),
+                          static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
+                          inked, isEnabled(), text(), QPalette::Link);
     if (!hasFocus())
         return;
-    // A label draws no mark of the focus by itself.
-    QStylePainter painter(this);
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    focus.backgroundColor = palette().color(backgroundRole());
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    // A label draws no mark of the focus by itself, and some styles draw one after a key alone.
+    painter.setPen(QPen(inked.color(QPalette::Link), 1, Qt::DashLine));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 } // namespace vellumo

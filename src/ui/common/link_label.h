@@ -4,15 +4,19 @@
 
 namespace vellumo {
 
-/// Words of a text that lead to a page of the help: underlined, in the palette's link colour, with
-/// a hand cursor, and reached by Tab; a click, Enter or the space bar follow the link. Its text is
-/// shown as it stands.
+/// Words of a text that lead to a page of the help: underlined, with a hand cursor, and reached by
+/// Tab; a click, Enter or the space bar follow the link. They are in the palette's link colour,
+/// lighter or darker where that would not be legible. Its text is shown as it stands. Assistive
+/// technology finds a link that can be pressed.
 class LinkLabel : public QLabel
 {
     Q_OBJECT
 
 public:
     explicit LinkLabel(QWidget *parent = nullptr);
+
+    /// The colour in which the words are drawn.
+    QColor Ink() const;
 
 signals:
     void Followed();

@@ -55,8 +55,13 @@ void PictureBox::paintEvent(QPaintEvent *event)
 void PictureBox::Show(const QIcon &picture, const QString &path)
 {
     m_picture = picture;
-    if (ShowsPicture())
-        m_ownSize = QSvgRenderer(path).defaultSize();
+    if (ShowsPicture()) {
+        Known &known = m_known[path];
+        if (known.picture.isNull())
+            known = {picture, QSvgRenderer(path).defaultSize()};
+        m_picture = known.picture;
+        m_ownSize = known.size;
+    }
     updateGeometry();
     update();
 }

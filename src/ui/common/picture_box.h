@@ -2,6 +2,7 @@
 
 #include "ui/common/pictures.h"
 
+#include <QHash>
 #include <QLabel>
 
 namespace vellumo {
@@ -32,8 +33,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    struct Known {
+        QIcon picture;
+        QSize size;
+    };
     void Show(const QIcon &picture, const QString &path);
 
+    QHash<QString, Known> m_known; ///< all that were shown, by their paths
     QIcon m_picture;
     QSize m_ownSize;
 };

@@ -1,19 +1,90 @@
 #include "ui/common/screen_centre.h"
 
+#include "ui/common/scroll_page.h"
+
+#include <QEvent>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 #include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace vellumo {
+namespace {
+
+/// Null as long as nobody has told.
+QMargins KnownFrame(const QWidget &window)
+{
+    const QWindow *handle = window.windowHandle();
+    return handle ? handle->frameMargins() : QMargins();
+}
+
+QMargins LikelyFrame(const QWidget &window)
+{
+    if (window.windowFlags() & Qt::FramelessWindowHint)
+        return {};
+    return {0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0};
+}
+
+/// In the middle of the screen, but clear of the desktop's panels.
+void Place(QWidget &window, const QMargins &frame)
+{
+    const QRect room = window.screen()->availableGeometry();
+    const QSize size = window.size().boundedTo(room.marginsRemoved(frame).size());
+    QRect place =
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, window.screen()->geometry())
+            .marginsAdded(frame);
+    place.moveBottomRight(
+        {std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
+    place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
+    window.setGeometry(place.marginsRemoved(frame));
+}
+
+/// Waits for a window's frame, for once: where the user moves it later is the user's choice.
+class FrameWatch : public QObject
+{
+public:
+    explicit FrameWatch(QWidget &window) : QObject(&window), m_window(window)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::Show || type == QEvent::Move || type == QEvent::Resize)
+            QTimer::singleShot(0, this, &FrameWatch::Look); // when the event has been handled
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void Look()
+    {
+        const QMargins frame = KnownFrame(m_window);
+        if (frame.isNull() || !m_window.isVisible())
+            return;
+        m_window.removeEventFilter(this);
+        deleteLater();
+        if (!m_window.screen()->availableGeometry().contains(m_window.frameGeometry()))
+            Place(m_window, frame);
+    }
+
+    QWidget &m_window;
+};
+
+} // namespace
 
 void CentreOnScreen(QWidget &window)
 {
+    SettleLayouts(window);
     // A window that is not shown yet has no size of its own unless it was given one.
     if (!window.testAttribute(Qt::WA_Resized))
-        window.adjustSize();
-    const QRect screen = window.screen()->geometry();
-    window.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
-                                           window.size().boundedTo(screen.size()), screen));
+        window.resize(window.sizeHint());
+    const QMargins frame = KnownFrame(window);
+    Place(window, frame.isNull() ? LikelyFrame(window) : frame);
+    new FrameWatch(window);
 }
 
 } // namespace vellumo

@@ -4,7 +4,9 @@ class QWidget;
 
 namespace vellumo {
 
-/// Moves a window that is not shown yet to the middle of its screen, which it never exceeds.
+/// Moves a window that is about to be shown to the middle of its screen, which it never exceeds
+/// with its frame. It is looked at once more when the window manager has told how wide the frame
+/// is: no title bar is above the screen.
 void CentreOnScreen(QWidget &window);
 
 } // namespace vellumo

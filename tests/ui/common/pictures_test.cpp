@@ -1,6 +1,7 @@
 #include "ui/common/pictures.h"
 
 #include "support/print.h"
+#include "ui/common/contrast.h"
 #include "ui/common/picture_box.h"
 
 #include <QApplication>
@@ -12,7 +13,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -90,21 +90,6 @@ std::set<QString> ColoursInFile(const QString &path)
     return colours;
 }
 
-double Luminance(QColor colour)
-{
-    const auto linear = [](double c) {
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-double Contrast(QColor one, QColor other)
-{
-    const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
 TEST(Pictures, AreDrawnInEverySize)
 {
     for (int number = StepMarkInvalid; number <= ProgramPicture; ++number) {
@@ -167,6 +152,34 @@ TEST(Pictures, OfButtonsStandOutOnLightAndDark)
             EXPECT_GE(Contrast(drawn, QColor(0x2b, 0x2b, 0x2b)), 3.0);
         }
     }
+}
+
+TEST(Pictures, OfButtonsStandOutOnAnyGround)
+{
+    const QPalette before = QApplication::palette();
+    for (const QColor &ground : {QColor(Qt::white), QColor(Qt::black), QColor(128, 128, 128),
+                                 QColor(59, 130, 210), QColor(255, 255, 0), QColor(90, 0, 0)}) {
+        QApplication::setPalette(QPalette(ground));
+        for (const Drawing drawing : buttonDrawings) {
+            SCOPED_TRACE(ground.name().toStdString() + ' ' + PicturePath(drawing).toStdString());
+            double most = 0;
+            for (const QRgb pixel : ColoursOf(Picture(drawing).pixmap(24, 24)))
+                if (qAlpha(pixel) == 255)
+                    most = std::max(most, Contrast(QColor(pixel), ground));
+            EXPECT_GE(most, pictureContrast);
+        }
+    }
+    QApplication::setPalette(before);
+}
+
+TEST(Pictures, OfStepsPointTheWayOfTheWindow)
+{
+    const QImage back = Picture(Drawing::StepBack).pixmap(24, 24).toImage();
+    const QImage next = Picture(Drawing::StepNext).pixmap(24, 24).toImage();
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(Picture(Drawing::StepBack).pixmap(24, 24).toImage(), back.mirrored(true, false));
+    EXPECT_EQ(Picture(Drawing::StepNext).pixmap(24, 24).toImage(), next.mirrored(true, false));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(Pictures, HaveAllTheirColoursWithoutAPlugIn)

@@ -1,0 +1,77 @@
+#include "ui/common/scroll_page.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLayout>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace vellumo {
+
+int ScrollContent::heightForWidth(int width) const
+{
+    return layout()->minimumHeightForWidth(width);
+}
+
+void SettleLayouts(QWidget &widget)
+{
+    QList<QWidget *> within{&widget};
+    within += widget.findChildren<QWidget *>();
+    std::for_each(within.rbegin(), within.rend(), [](QWidget *each) { // those within others first
+        if (QLayout *layout = each->layout()) {
+            layout->invalidate();
+            layout->activate();
+        }
+    });
+}
+
+ScrollPage::ScrollPage(QWidget *parent) : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    viewport()->setAutoFillBackground(false);
+    // Also where the program moves the focus: the area itself follows Tab alone.
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *now) { BringIntoView(now); });
+}
+
+QSize ScrollPage::sizeHint() const
+{
+    if (!widget())
+        return QScrollArea::sizeHint();
+    return widget()->sizeHint();
+}
+
+QSize ScrollPage::minimumSizeHint() const
+{
+    return QSize(2, 1) * fontMetrics().lineSpacing();
+}
+
+bool ScrollPage::eventFilter(QObject *watched, QEvent *event)
+{
+    // A content of another size is asked for another size of the window.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void ScrollPage::showEvent(QShowEvent *event)
+{
+    QScrollArea::showEvent(event);
+    if (!widget())
+        return;
+    widget()->setAutoFillBackground(false); // which the area has turned on
+    SettleLayouts(*widget());
+    QEvent bars(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(this, &bars);
+}
+
+void ScrollPage::BringIntoView(QWidget *focus)
+{
+    if (focus && widget() && widget()->isAncestorOf(focus))
+        ensureWidgetVisible(focus);
+}
+
+} // namespace vellumo

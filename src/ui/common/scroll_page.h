@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace vellumo {
+
+/// What lies in a ScrollPage: as high as its texts need in their width, and its lists and boxes at
+/// least, before anything scrolls. It has a layout.
+class ScrollContent : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    int heightForWidth(int width) const override;
+};
+
+/// A part of a window that scrolls where there is no room for it: on the ground of what it lies on,
+/// without a frame, and as large as its content where there is room. What gets the focus in it is
+/// brought into view.
+class ScrollPage : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ScrollPage(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void BringIntoView(QWidget *focus);
+};
+
+/// Lets the layouts within a widget that is not shown yet find their sizes anew. A ScrollPage asks
+/// for them while its window is being made, and layouts keep what they answered then.
+void SettleLayouts(QWidget &widget);
+
+} // namespace vellumo
