@@ -1,6 +1,7 @@
 #include "ui/about/frmAbout.h"
 
 #include "ui/common/pictures.h"
+#include "ui/common/screen_centre.h"
 #include "ui_frmAbout.h"
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,7 @@ frmAbout::frmAbout(const Environment &environment, QWidget *parent)
     ui->lblDescription->setText(TrademarkNotice());
     ui->lblDisclaimer->setText(disclaimer);
     ui->lblurl->setText(environment.siteAddress);
+    CentreOnScreen(*this);
     ui->cmdOK->setFocus(); // not on the link, which Enter would follow
 
     connect(ui->lblurl, &LinkLabel::Followed, this,

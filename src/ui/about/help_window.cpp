@@ -1,9 +1,14 @@
 #include "ui/about/help_window.h"
 
+#include "ui/common/focus_ring.h"
 #include "ui/common/screen_centre.h"
 #include "ui_help_window.h"
 
+#include <QHeaderView>
+#include <QScrollBar>
 #include <QTreeWidgetItemIterator>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -22,12 +27,13 @@ HelpWindow::HelpWindow(HelpFile file, std::function<void(const QString &)> openL
 {
     ui->setupUi(this);
     ui->splitter->setStretchFactor(1, 1);
-    ui->splitter->setSizes({230, 570});
+    RingWhenFocused(ui->txtPage);
     ui->findBar->hide();
     ui->txtPage->SetFile(m_file);
     SetActions();
     FillContents();
     CentreOnScreen(*this);
+    ShareRoom();
 
     // Not the change of the current entry: TellPage makes it current. Whether a click activates is
     // the style's choice, Enter always does.
@@ -81,7 +87,20 @@ void HelpWindow::FillContents()
         above += item;
     }
     ui->treContents->expandAll();
+    // As wide as its entries are, which otherwise end in dots; the tree has a scroll bar.
+    ui->treContents->header()->setStretchLastSection(false);
+    ui->treContents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     ui->treContents->setVisible(!m_file.Contents().empty());
+}
+
+/// The contents get what they need, up to two fifths of the window.
+void HelpWindow::ShareRoom()
+{
+    const QTreeWidget &contents = *ui->treContents;
+    const int needed = contents.header()->length() +
+                       contents.verticalScrollBar()->sizeHint().width() + 2 * contents.frameWidth();
+    const int given = std::min(needed, width() * 2 / 5);
+    ui->splitter->setSizes({given, width() - given});
 }
 
 void HelpWindow::ShowEntry(const QTreeWidgetItem *entry)

@@ -32,6 +32,7 @@ public:
 private:
     void SetActions();
     void FillContents();
+    void ShareRoom();
     void ShowEntry(const QTreeWidgetItem *entry);
     void FollowLink(const QUrl &address);
     void TellPage(const QUrl &address);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/common/field_box.h"
+#include "ui/common/heading.h"
 #include "ui/common/link_label.h"
 #include "ui/common/project_document.h"
 
@@ -33,6 +34,11 @@ public:
     /// Whether the step has the box of a field.
     bool Has(FormField field) const;
 
+    /// Never: what a step has to say scrolls.
+    bool hasHeightForWidth() const override { return false; }
+
+    QSize minimumSizeHint() const override;
+
     /// Puts the focus into the box of a field; a step that does not have it does nothing.
     void Focus(FormField field);
 
@@ -43,6 +49,11 @@ signals:
     void HelpAsked(quint32 contextId);
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+    /// The heading stands above what scrolls, and scrolls along where there is little room.
+    void PlaceHeading(Heading *heading, QWidget *scrolled);
+
     struct HelpLink {
         LinkLabel *label;
         quint32 contextId;
@@ -60,6 +71,8 @@ protected:
 private:
     ProjectDocument &m_document;
     std::vector<std::unique_ptr<FieldBox>> m_boxes;
+    Heading *m_heading = nullptr;
+    QWidget *m_scrolled = nullptr;
 };
 
 } // namespace vellumo

@@ -1,6 +1,7 @@
 #include "ui/main/step_complete.h"
 
 #include "help/help_topics.h"
+#include "ui/common/focus_ring.h"
 #include "ui_step_complete.h"
 
 #include <QShortcut>
@@ -11,6 +12,8 @@ StepComplete::StepComplete(ProjectDocument &document, QWidget *parent)
     : StepPage(document, parent), ui(std::make_unique<Ui::StepComplete>())
 {
     ui->setupUi(this);
+    RingWhenFocused(ui->lstError);
+    PlaceHeading(ui->lblHeading, ui->contentComplete);
     ConnectHelp(
         {{ui->Label17, HelpContext::finalReview}, {ui->lblErrorList, HelpContext::errorList}});
     connect(ui->cmdReviewForm, &QPushButton::clicked, this, &StepComplete::ReviewAsked);

@@ -5,6 +5,7 @@
 #include "help/help_topics.h"
 #include "model/question_types.h"
 #include "model/texts.h"
+#include "ui/common/box_names.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
@@ -35,6 +36,7 @@ constexpr quint32 helpOfSteps[] = {HelpContext::questionTypes, HelpContext::ques
 frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmWizard>()), m_document(document)
 {
+    NameComboBoxes(); // first: what a box is to others is settled when it is set up
     ui->setupUi(this);
     for (const QuestionType &type : questionTypes)
         ui->lstWiz1_1->addItem(type.name);
@@ -59,8 +61,8 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
 
     ConnectControls();
     PlaceTypeLink();
+    CentreOnScreen(*this); // first: it is as large as its largest step
     ShowStep();
-    CentreOnScreen(*this);
 }
 
 frmWizard::~frmWizard() = default;
@@ -100,6 +102,9 @@ void frmWizard::PlaceTypeLink()
     const QString before = text.first(text.indexOf(ui->lblLkWzType->text()));
     const int left = ui->lblWiz1_2->fontMetrics().horizontalAdvance(before);
     ui->overQuestion->setContentsMargins(left, 0, 0, 0);
+    // The words run from left to right in a mirrored window, too; it has the label at its right.
+    ui->lblWiz1_2->setLayoutDirection(Qt::LeftToRight);
+    ui->layoutPictWizard1->setAlignment(ui->lblWiz1_2, Qt::AlignLeading);
 }
 
 void frmWizard::changeEvent(QEvent *event)
@@ -134,6 +139,11 @@ void frmWizard::ShowPanel()
     QWidget *const panels[] = {ui->PictWizard1, ui->PictWizard2, ui->PictWizard5, ui->PictWizard3,
                                ui->PictWizard4};
     ui->steps->setCurrentWidget(panels[m_step - 1]);
+    for (QWidget *panel : panels) { // those that are not shown do not make it scroll
+        const bool shown = panel == ui->steps->currentWidget();
+        const auto policy = shown ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        panel->setSizePolicy(policy, policy);
+    }
     Input()->setFocus();
 }
 

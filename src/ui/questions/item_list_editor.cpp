@@ -4,6 +4,7 @@
 #include "editing/clipboard_texts.h"
 #include "editing/pasted_items.h"
 #include "model/question_types.h"
+#include "ui/common/focus_ring.h"
 #include "ui/common/prompts.h"
 #include "ui/questions/ask_item.h"
 #include "ui/questions/one_line_delegate.h"
@@ -26,6 +27,7 @@ ItemListEditor::ItemListEditor(QWidget *parent)
     ui->list->setModel(&m_shown);
     ui->list->setItemDelegate(new OneLineDelegate(this));
     setFocusProxy(ui->list);
+    RingWhenFocused(ui->list);
 
     connect(ui->add, &QPushButton::clicked, this, &ItemListEditor::AddItem);
     connect(ui->remove, &QPushButton::clicked, this, &ItemListEditor::RemoveItems);

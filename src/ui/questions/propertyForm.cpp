@@ -3,6 +3,7 @@
 #include "editing/property_rules.h"
 #include "help/help_topics.h"
 #include "model/question_types.h"
+#include "ui/common/box_names.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
@@ -45,6 +46,7 @@ void FillTypes(QComboBox &box, const QString &type)
 propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::propertyForm>()), m_document(document)
 {
+    NameComboBoxes(); // first: what a box is to others is settled when it is set up
     ui->setupUi(this);
     ui->lblSelections->setBuddy(ui->items->List());
     ui->txtQuestion->setFixedHeight(HeightOf(3, *ui->txtQuestion));

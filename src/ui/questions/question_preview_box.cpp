@@ -77,6 +77,7 @@ QuestionPreviewBox::QuestionPreviewBox(QWidget *parent)
 {
     ui->setupUi(this);
     ui->picPalm->setPalette(ScreenPalette());
+    ui->picPalm->setLayoutDirection(Qt::LeftToRight); // the handheld's, whatever the desktop's
     ui->lblTitle->setBackgroundRole(QPalette::WindowText);
     ui->lblTitle->setForegroundRole(QPalette::Window);
     auto *style = new HandheldStyle;

@@ -3,6 +3,7 @@
 #include "editing/question_list.h"
 #include "handheld/screen_geometry.h"
 #include "help/help_topics.h"
+#include "ui/common/focus_ring.h"
 #include "ui/common/pictures.h"
 #include "ui/common/prompts.h"
 #include "ui/questions/delivery_notice.h"
@@ -31,8 +32,8 @@ StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
       m_model(new QuestionModel(document, this))
 {
     ui->setupUi(this);
-    ui->scrollArea->viewport()->setAutoFillBackground(false); // the tab's ground, as on other steps
-    ui->content->setAutoFillBackground(false);
+    RingWhenFocused(ui->DataGrid1);
+    PlaceHeading(ui->lblHeading, ui->content);
     ui->deliveryArea->viewport()->setAutoFillBackground(false);
     ui->lblDelivery->setAutoFillBackground(false);
     ConnectHelp({{ui->lblAdd, HelpContext::questions},
@@ -260,9 +261,30 @@ void StepQuestions::LayOut()
     constexpr QSize start(860, 620);
     const QSize more = (window()->size() - start).expandedTo({0, 0});
     ui->previewBox->SetSide(screen::width + std::min(more.width() / 3, more.height()));
-    ui->content->resize(
-        ui->scrollArea->maximumViewportSize().expandedTo(ui->content->minimumSizeHint()));
+    Fit(ui->scrollArea->maximumViewportSize());
     LayOutColumns(*ui->DataGrid1);
+    m_laidOut = true;
+}
+
+/// Not smaller than the texts are.
+void StepQuestions::Fit(QSize size)
+{
+    size = size.expandedTo(ui->content->minimumSizeHint());
+    size.setHeight(std::max(size.height(), ui->content->heightForWidth(size.width())));
+    ui->content->resize(size);
+}
+
+void StepQuestions::showEvent(QShowEvent *event)
+{
+    StepPage::showEvent(event);
+    if (!m_laidOut)
+        LayOut();
+}
+
+void StepQuestions::resizeEvent(QResizeEvent *event)
+{
+    StepPage::resizeEvent(event);
+    Fit(ui->content->size()); // the heading may have come to scroll along
 }
 
 } // namespace vellumo

@@ -30,6 +30,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void ConnectButtons();
     void ConnectGrid();
@@ -45,6 +49,7 @@ private:
 
     bool RefusesWithoutSelection();
     void SelectCurrentRow();
+    void Fit(QSize size);
     void RefreshPreview();
     void ShowNotice(const DeliveryNotice &notice);
     void RefreshAfterClick();
@@ -54,6 +59,7 @@ private:
     QuestionModel *m_model;
     /// A click refreshed the preview, and the grid may yet report a change of its row for it.
     bool m_previewPending = false;
+    bool m_laidOut = false; ///< if only when it was first shown
 };
 
 } // namespace vellumo

@@ -63,6 +63,8 @@ QString NameOf(QWidget *widget)
 
 void ExpectNames(const QWidget &window)
 {
+    for (auto *box : window.findChildren<QComboBox *>())
+        EXPECT_EQ(NameOf(box), box->accessibleName()) << "not what it shows";
     for (QWidget *input : InputsOf(window))
         EXPECT_FALSE(NameOf(input).isEmpty()) << input->objectName().toStdString();
 }

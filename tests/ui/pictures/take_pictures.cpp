@@ -1,5 +1,6 @@
 // Takes the pictures of the windows that the documentation shows and that a person looks at:
-// take_pictures FOLDER [dark]. QT_SCALE_FACTOR sets the scale.
+// take_pictures FOLDER [dark] [right-to-left] [POINTS of text]. QT_SCALE_FACTOR sets the scale,
+// QT_QPA_PLATFORM=offscreen:configfile=FILE the screen (tests/data/screens has some).
 #include "ui/about/frmAbout.h"
 #include "ui/about/help_window.h"
 #include "ui/about/myHelp.h"
@@ -141,6 +142,13 @@ int main(int argc, char *argv[])
     const QStringList arguments = QApplication::arguments();
     if (arguments.contains(u"dark"_s))
         QApplication::setPalette(DarkPalette());
+    if (arguments.contains(u"right-to-left"_s))
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    QFont text = QApplication::font();
+    for (const QString &argument : arguments.mid(2))
+        if (const int points = argument.toInt(); points > 0)
+            text.setPointSize(points);
+    QApplication::setFont(text);
     const QString folder = arguments.value(1, u"."_s);
     TakeSteps(folder);
     TakeWizard(folder);

@@ -1,0 +1,217 @@
+// The windows on screens of many sizes, with small and large text, in both directions. A process
+// has one screen and one scale, so this is run once for each of them: see CMakeLists.txt.
+#include "support/print.h"
+#include "ui/about/help_browser.h"
+#include "ui/common/scroll_page.h"
+#include "ui/questions/question_preview_box.h"
+#include "ui/support/every_window.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+using namespace vellumo;
+
+namespace {
+
+/// Text and direction while it lives.
+class Desktop
+{
+public:
+    Desktop(int points, Qt::LayoutDirection direction) : m_font(QApplication::font())
+    {
+        QFont font = m_font;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        QApplication::setLayoutDirection(direction);
+    }
+    ~Desktop()
+    {
+        QApplication::setFont(m_font);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+    Q_DISABLE_COPY_MOVE(Desktop)
+
+private:
+    QFont m_font;
+};
+
+std::string Name(const QWidget &widget)
+{
+    return widget.objectName().toStdString();
+}
+
+/// Whether a widget is one of the toolkit's own, within another.
+bool IsPart(const QWidget &widget)
+{
+    return widget.objectName().isEmpty() || widget.objectName().startsWith("qt_"_L1) ||
+           qobject_cast<const QScrollBar *>(&widget) ||
+           qobject_cast<const QTabBar *>(widget.parentWidget());
+}
+
+/// The texts of the handheld's screen end where they end there.
+bool IsOnHandheld(const QWidget &widget)
+{
+    for (const QWidget *above = widget.parentWidget(); above; above = above->parentWidget())
+        if (qobject_cast<const QuestionPreviewBox *>(above))
+            return true;
+    return false;
+}
+
+template <typename Widget> QList<Widget *> Shown(const QWidget &window)
+{
+    QList<Widget *> shown;
+    for (auto *widget : window.findChildren<Widget *>())
+        if (widget->isVisible() && widget->window() == &window && !IsPart(*widget) &&
+            !IsOnHandheld(*widget))
+            shown += widget;
+    return shown;
+}
+
+void ExpectOnScreen(const QWidget &window)
+{
+    const QRect screen = window.screen()->availableGeometry(), frame = window.frameGeometry();
+    EXPECT_GE(frame.top(), screen.top());
+    EXPECT_GE(frame.left(), screen.left());
+    EXPECT_LE(frame.width(), screen.width());
+    EXPECT_LE(frame.height(), screen.height());
+}
+
+/// Within what it lies in; what scrolls has the bars for it.
+void ExpectInPlace(const QWidget &window)
+{
+    for (const auto *widget : Shown<QWidget>(window)) {
+        const auto *area =
+            qobject_cast<QAbstractScrollArea *>(widget->parentWidget()->parentWidget());
+        if (!area || area->viewport() != widget->parentWidget()) {
+            // A splitter that is mirrored is a pixel out.
+            const int beside = qobject_cast<QSplitter *>(widget->parentWidget()) ? 1 : 0;
+            const QRect around = widget->parentWidget()->rect().adjusted(0, 0, beside, 0);
+            EXPECT_TRUE(around.contains(widget->geometry())) << Name(*widget);
+            continue;
+        }
+        EXPECT_TRUE(widget->width() <= area->viewport()->width() ||
+                    area->horizontalScrollBar()->isVisible())
+            << Name(*widget);
+        EXPECT_TRUE(widget->height() <= area->viewport()->height() ||
+                    area->verticalScrollBar()->isVisible())
+            << Name(*widget);
+    }
+}
+
+int LongestWord(const QLabel &label)
+{
+    int longest = 0;
+    for (const QString &word : label.text().split(u' '))
+        longest = std::max(longest, label.fontMetrics().horizontalAdvance(word));
+    return longest;
+}
+
+void ExpectWholeTexts(const QWidget &window)
+{
+    for (const auto *label : Shown<QLabel>(window)) {
+        if (label->text().isEmpty())
+            continue;
+        const int wanted = label->wordWrap() ? LongestWord(*label) : label->sizeHint().width();
+        EXPECT_GE(label->width(), wanted) << Name(*label);
+        const int high =
+            label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+        EXPECT_GE(label->height(), high) << Name(*label);
+    }
+    for (const auto *button : Shown<QAbstractButton>(window)) {
+        EXPECT_GE(button->width(), button->sizeHint().width()) << Name(*button);
+        EXPECT_GE(button->height(), button->sizeHint().height()) << Name(*button);
+    }
+    for (const auto *tree : Shown<QTreeView>(window))
+        EXPECT_GE(tree->header()->length(),
+                  static_cast<const QTreeView *>(tree)->header()->sectionSizeHint(0))
+            << Name(*tree);
+    for (const auto *bar : window.findChildren<QTabBar *>())
+        EXPECT_EQ(bar->elideMode(), Qt::ElideNone);
+}
+
+/// The buttons that lead on and out of a window are seen whole, wherever it has been scrolled to.
+void ExpectWayOn(const QWidget &window)
+{
+    static const QStringList ways = {u"cmd1_Back"_s, u"cmd1_Next"_s, u"cmd2_Back"_s, u"cmd2_Next"_s,
+                                     u"cmd3_Back"_s, u"cmd3_Next"_s, u"cmd4_back"_s, u"cmd4_next"_s,
+                                     u"cmdNav_1"_s,  u"cmdNav_2"_s,  u"cmdNav_3"_s,  u"cmdNav_4"_s,
+                                     u"cmdOK"_s,     u"cmdCancel"_s, u"Command1"_s};
+    constexpr int fewestLines = 8; // of text, on a screen that has room for more than buttons
+    if (window.screen()->size().height() < fewestLines * window.fontMetrics().lineSpacing())
+        return;
+    for (const auto *button : Shown<QAbstractButton>(window))
+        EXPECT_TRUE(!ways.contains(button->objectName()) ||
+                    button->visibleRegion() == QRegion(button->rect()))
+            << Name(*button);
+}
+
+void ExpectMirrored(const QWidget &window)
+{
+    const auto *back = window.findChild<QAbstractButton *>(u"cmdNav_2"_s);
+    const auto *next = window.findChild<QAbstractButton *>(u"cmdNav_3"_s);
+    if (!back || !next || back->y() != next->y())
+        return;
+    EXPECT_EQ(back->x() > next->x(), QApplication::isRightToLeft());
+}
+
+/// The link over a sentence covers the very words.
+void ExpectLinkOverWords(const QWidget &window)
+{
+    const auto *label = window.findChild<QLabel *>(u"lblWiz1_2"_s);
+    if (!label || !label->isVisible())
+        return;
+    const auto *link = label->findChild<QLabel *>(u"lblLkWzType"_s);
+    const QString before = label->text().first(label->text().indexOf(link->text()));
+    EXPECT_NEAR(link->x(), label->fontMetrics().horizontalAdvance(before), 1);
+    EXPECT_LE(label->width(), label->sizeHint().width() + 1);
+}
+
+void ExpectFocusSeen(const QWidget &window)
+{
+    QTest::keyClick(const_cast<QWidget *>(&window), Qt::Key_Tab); // by keys from now on
+    for (auto *widget : Shown<QWidget>(window)) {
+        if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled() || widget->focusProxy())
+            continue;
+        const auto *button = qobject_cast<const QPushButton *>(widget);
+        if (button && button->isDefault()) // has the look of it also while nothing has the focus
+            continue;
+        widget->setFocus(Qt::TabFocusReason);
+        QApplication::processEvents();
+        const QImage with = widget->grab().toImage();
+        widget->clearFocus();
+        QApplication::processEvents();
+        EXPECT_TRUE(with != widget->grab().toImage()) << Name(*widget);
+    }
+}
+
+TEST(Screens, ShowTheFocus)
+{
+    ShowEveryWindow([](QWidget &window) { ExpectFocusSeen(window); });
+}
+
+TEST(Screens, HoldEveryWindow)
+{
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft})
+        for (const int points : {8, 9, 13, 18, 24}) {
+            SCOPED_TRACE(std::to_string(points) + " points, direction " +
+                         std::to_string(direction));
+            const Desktop desktop(points, direction);
+            ShowEveryWindow([](QWidget &window) {
+                ExpectOnScreen(window);
+                ExpectInPlace(window);
+                ExpectWholeTexts(window);
+                ExpectWayOn(window);
+                ExpectMirrored(window);
+                ExpectLinkOverWords(window);
+            });
+        }
+}
+
+} // namespace
