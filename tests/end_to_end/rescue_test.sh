@@ -79,7 +79,7 @@ window 'Vellumo Designer'
 keys ctrl+a
 xdotool type --delay 40 'Hung'
 keys ctrl+Tab ctrl+Tab ctrl+Tab
-keys Tab space
+keys space
 windows 2
 keys Return
 windows 1

@@ -74,7 +74,7 @@ mount --bind "$work/app" "$work/app"
 mount -o remount,bind,ro "$work/app"
 open "$file" Locked
 keys ctrl+Tab ctrl+Tab ctrl+Tab
-keys Tab space
+keys space
 windows 2
 keys Return
 windows 1
