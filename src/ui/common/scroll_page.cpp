@@ -41,7 +41,8 @@ QSize ScrollPage::sizeHint() const
 {
     if (!widget())
         return QScrollArea::sizeHint();
-    return widget()->sizeHint();
+    const QSize hint = widget()->sizeHint(); // of texts that wrap, without their height in its width
+    return hint.expandedTo({0, widget()->heightForWidth(hint.width())});
 }
 
 QSize ScrollPage::minimumSizeHint() const
@@ -64,6 +65,9 @@ void ScrollPage::showEvent(QShowEvent *event)
         return;
     widget()->setAutoFillBackground(false); // which the area has turned on
     SettleLayouts(*widget());
+    // A scroll bar of before makes texts narrower and so higher, by which it would stay.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     QEvent bars(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(this, &bars);
 }

@@ -53,7 +53,7 @@ QVariant QuestionModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     const auto &rows = m_document.source().Questions().Rows();
-    return columns[index.column()].value(rows[static_cast<size_t>(index.row())]);
+    return columns[index.column()].value(rows[index.row()]);
 }
 
 QVariant QuestionModel::headerData(int section, Qt::Orientation orientation, int role) const
