@@ -46,7 +46,7 @@ void WalkTabsByKeys(QTabWidget &tabs)
                  {Qt::CTRL | Qt::Key_PageUp, -1}};
     for (const auto &[key, way] : walks)
         QObject::connect(new QShortcut(key, tabs.window()), &QShortcut::activated, &tabs,
-                         [&tabs, way] {
+                         [&tabs, way = way] {
                              const int next = tabs.currentIndex() + way + tabs.count();
                              tabs.setCurrentIndex(next % tabs.count());
                          });

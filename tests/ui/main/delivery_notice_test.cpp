@@ -3,6 +3,7 @@
 #include "ui/support/prompt_script.h"
 
 #include <QLabel>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTextDocument>
 
@@ -118,6 +119,9 @@ TEST(Preview, GrowsWithTheWindowAndKeepsTheProportionsOfTheScreen)
     questions.window.resize(800, 600);
     QApplication::processEvents();
     EXPECT_EQ(screen->size(), QSize(160, 160));
+    for (const QScrollBar *bar :
+         questions.Find<QWidget>("scrollArea")->findChildren<QScrollBar *>())
+        EXPECT_FALSE(bar->isVisible()) << "what was larger before leaves none";
 }
 
 } // namespace
