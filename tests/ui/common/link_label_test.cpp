@@ -48,7 +48,7 @@ TEST(LinkLabel, IsLegibleOnEveryGround)
             EXPECT_GE(Contrast(label.Ink(), palette.color(QPalette::Window)), textContrast);
         }
     LinkLabel label;
-    QPalette light(QColor(Qt::white));
+    QPalette light{QColor(Qt::white)};
     light.setColor(QPalette::Link, Qt::blue);
     label.setPalette(light);
     EXPECT_EQ(label.Ink(), QColor(Qt::blue)) << "legible as it is";
