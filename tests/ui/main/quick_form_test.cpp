@@ -22,7 +22,7 @@ Project Form()
     form.source.GetDataMember();
     const auto &rows = loaded->source.Questions().Rows();
     for (int n = 1; n <= 25; ++n) {
-        QuestionRow row = rows[static_cast<size_t>(n - 1) % rows.size()];
+        QuestionRow row = rows[(n - 1) % rows.size()];
         const QStringList items = loaded->source.ItemsOf(row.Id);
         row.Order = n;
         row.ColumnName += QString::number(n);
