@@ -45,18 +45,21 @@ bool RowDragging::eventFilter(QObject *watched, QEvent *event)
 /// What is kept from the view: it would select the rows that the mouse passes.
 bool RowDragging::FollowMouse(QEvent *event)
 {
-    const auto *mouse = static_cast<QMouseEvent *>(event);
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonPress: {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
         Stop();
         if (mouse->button() == Qt::LeftButton && mouse->modifiers() == Qt::NoModifier)
             Press(mouse->position().toPoint());
         return false;
-    case QEvent::MouseMove:
+    }
+    case QEvent::MouseMove: {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
         if (m_from < 0 || !(mouse->buttons() & Qt::LeftButton))
             return false;
         DragTo(mouse->position().toPoint());
         return true;
+    }
     case QEvent::MouseButtonRelease:
         return Release();
     default:
