@@ -37,6 +37,12 @@ ScrollPage::ScrollPage(QWidget *parent) : QScrollArea(parent)
             [this](QWidget *, QWidget *now) { BringIntoView(now); });
 }
 
+/// What has the focus in it loses that when it goes.
+ScrollPage::~ScrollPage()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ScrollPage::sizeHint() const
 {
     if (!widget())

@@ -25,6 +25,7 @@ class ScrollPage : public QScrollArea
 
 public:
     explicit ScrollPage(QWidget *parent = nullptr);
+    ~ScrollPage() override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

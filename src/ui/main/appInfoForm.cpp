@@ -56,7 +56,11 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
     ForgetReview();
 }
 
-appInfoForm::~appInfoForm() = default;
+appInfoForm::~appInfoForm()
+{
+    ui->SSTab1->disconnect(this);
+    qDeleteAll(m_steps); // their boxes speak to the document until they are gone
+}
 
 void appInfoForm::AddSteps()
 {

@@ -32,7 +32,7 @@ RowDragging::RowDragging(QAbstractItemView *view, Dropped dropped)
 
 bool RowDragging::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_view->viewport())
+    if (watched != m_view) // the viewport, also of a view that is half gone
         return FollowMouse(event);
     const bool isEscape = event->type() == QEvent::KeyPress &&
                           static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
