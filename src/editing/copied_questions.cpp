@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-constexpr qsizetype mostBytes = 16 * 1024 * 1024;
+constexpr qsizetype mostBytes = 16LL * 1024 * 1024;
 constexpr int version = 1;
 
 constexpr auto versionKey = "version"_L1;

@@ -43,7 +43,7 @@ QString TakeCell(QStringView &text)
         return QString(quoted).replace("\"\""_L1, "\""_L1);
     }
     const auto *end = std::ranges::find_if(text, EndsCell);
-    const QString cell = text.first(end - text.begin()).toString();
+    QString cell = text.first(end - text.begin()).toString();
     text = text.sliced(cell.size());
     return cell;
 }

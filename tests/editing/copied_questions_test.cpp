@@ -67,7 +67,7 @@ TEST(CopiedQuestions, AreExactlyThisFormat)
         {"items missing", whole("1", QByteArray(one).replace(R"(,"items":["a"])", ""))},
         {"items as a text", whole("1", QByteArray(one).replace(R"(["a"])", R"("a")"))},
         {"a number as an item", whole("1", QByteArray(one).replace(R"(["a"])", R"(["a",1])"))},
-        {"larger than anything", whole("1", one) + QByteArray(16 * 1024 * 1024, ' ')},
+        {"larger than anything", whole("1", one) + QByteArray(16LL * 1024 * 1024, ' ')},
         {"nested deeply", QByteArray(5000, '[')},
     };
     for (const auto &row : rows)

@@ -29,7 +29,7 @@ int main(int argc, char *argv[])
         else if (orders[i] == "crash")
             std::raise(SIGKILL);
         else if (orders[i] == "flood")
-            std::cerr << std::string(10'000'000, 'x');
+            std::cerr << std::string(8'000'000, 'x');
         else if (orders[i] == "hang")
             std::this_thread::sleep_for(std::chrono::hours(1));
         else if (orders[i] == "write") {

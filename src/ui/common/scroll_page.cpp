@@ -47,7 +47,8 @@ QSize ScrollPage::sizeHint() const
 {
     if (!widget())
         return QScrollArea::sizeHint();
-    const QSize hint = widget()->sizeHint(); // of texts that wrap, without their height in its width
+    const QSize hint =
+        widget()->sizeHint(); // of texts that wrap, without their height in its width
     return hint.expandedTo({0, widget()->heightForWidth(hint.width())});
 }
 

@@ -35,7 +35,7 @@ QString PasteFromClipboard(ProjectDocument &document)
     if (questions.isEmpty())
         return {};
     const int before = document.source().QuestionCount();
-    const QString refused = document.ChangeQuestions(
+    QString refused = document.ChangeQuestions(
         [&](clsDataSource &source) { return PasteQuestions(source, questions); });
     if (document.source().QuestionCount() > before)
         document.SetProjectChanged(true);

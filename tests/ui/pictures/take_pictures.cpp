@@ -135,6 +135,7 @@ void TakeBoxes(const QString &folder)
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): a fault of the tool may end it
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
