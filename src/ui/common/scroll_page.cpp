@@ -47,8 +47,8 @@ QSize ScrollPage::sizeHint() const
 {
     if (!widget())
         return QScrollArea::sizeHint();
-    const QSize hint =
-        widget()->sizeHint(); // of texts that wrap, without their height in its width
+    // Of texts that wrap it has not the height that they need in its width.
+    const QSize hint = widget()->sizeHint();
     return hint.expandedTo({0, widget()->heightForWidth(hint.width())});
 }
 

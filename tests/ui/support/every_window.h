@@ -10,10 +10,21 @@
 
 namespace vellumo {
 
-template <typename Show> void ShowStepsAndDialogs(Designer &designer, const Show &show)
+/// Shows the windows of the designer one after the other, each of their steps, and calls the
+/// function with each while it is up. HELP_FILE has to name the help file.
+// NOLINTNEXTLINE(readability-function-size): a list of windows, all up until the last is
+template <typename Look> void ShowEveryWindow(const Look &look)
 {
     using namespace Qt::StringLiterals;
+    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
     auto &document = const_cast<ProjectDocument &>(designer.window.document());
+    const auto show = [&look](QWidget &window, const std::string &what) {
+        SCOPED_TRACE(what);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QApplication::processEvents();
+        look(window);
+    };
     for (int step = 1; step <= 4; ++step) {
         designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(step - 1);
         show(designer.window, "step " + std::to_string(step));
@@ -30,11 +41,7 @@ template <typename Show> void ShowStepsAndDialogs(Designer &designer, const Show
         show(wizard, "wizard " + std::to_string(step));
         wizard.findChild<QAbstractButton *>(u"cmdNav_3"_s)->click();
     }
-}
 
-template <typename Show> void ShowWindowsOfTheStart(const Designer &designer, const Show &show)
-{
-    using namespace Qt::StringLiterals;
     Environment environment;
     environment.siteAddress = u"https://vellumo.example"_s;
     environment.version = u"1.1.2"_s;
@@ -44,10 +51,7 @@ template <typename Show> void ShowWindowsOfTheStart(const Designer &designer, co
     show(about, "about box");
     logoForm splash(environment, [](QWidget *) {});
     show(splash, "splash");
-}
 
-template <typename Show> void ShowHelp(const Show &show)
-{
     auto file = HelpFile::Open(QStringLiteral(HELP_FILE));
     ASSERT_TRUE(file) << Describe(file.error()).toStdString();
     const QString page = file->DefaultPage();
@@ -57,23 +61,6 @@ template <typename Show> void ShowHelp(const Show &show)
     show(help, "help");
     QTest::keyClick(&help, Qt::Key_F, Qt::ControlModifier);
     show(help, "help with its find bar");
-}
-
-/// Shows the windows of the designer one after the other, each of their steps, and calls the
-/// function with each while it is up. HELP_FILE has to name the help file.
-template <typename Look> void ShowEveryWindow(const Look &look)
-{
-    Designer designer(DataFile(QStringLiteral("projects/SiteVisit.vmp")));
-    const auto show = [&look](QWidget &window, const std::string &what) {
-        SCOPED_TRACE(what);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
-        look(window);
-    };
-    ShowStepsAndDialogs(designer, show);
-    ShowWindowsOfTheStart(designer, show);
-    ShowHelp(show);
 }
 
 } // namespace vellumo
