@@ -10,9 +10,17 @@
 
 namespace vellumo {
 
+template <typename Show> void ShowProperties(ProjectDocument &document, const Show &show)
+{
+    for (const int row : {0, 2}) {
+        document.source().SetPosition(row);
+        propertyForm properties(document, nullptr);
+        show(properties, "properties of question " + std::to_string(row));
+    }
+}
+
 /// Shows the windows of the designer one after the other, each of their steps, and calls the
 /// function with each while it is up. HELP_FILE has to name the help file.
-// NOLINTNEXTLINE(readability-function-size): a list of windows, all up until the last is
 template <typename Look> void ShowEveryWindow(const Look &look)
 {
     using namespace Qt::StringLiterals;
@@ -29,11 +37,7 @@ template <typename Look> void ShowEveryWindow(const Look &look)
         designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(step - 1);
         show(designer.window, "step " + std::to_string(step));
     }
-    for (const int row : {0, 2}) {
-        document.source().SetPosition(row);
-        propertyForm properties(document, nullptr);
-        show(properties, "properties of question " + std::to_string(row));
-    }
+    ShowProperties(document, show);
     frmWizard wizard(document, nullptr);
     wizard.findChild<QListWidget *>(u"lstWiz1_1"_s)->setCurrentRow(2);
     wizard.findChild<QPlainTextEdit *>(u"txtWiz3_1"_s)->setPlainText(u"Which?"_s);
