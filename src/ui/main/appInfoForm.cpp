@@ -293,10 +293,8 @@ void appInfoForm::Review(bool showResults)
 
 void appInfoForm::GoToChange(std::optional<FormField> field)
 {
-    if (!field) {
-        SelectStep(2);
-        return m_questions->Enter(); // also where step 2 was the selected one already
-    }
+    if (!field) // entered once: the preview may have something to tell
+        return m_step == 2 ? m_questions->Enter() : SelectStep(2);
     for (int step = 1; const StepPage *page : m_steps) {
         if (page->Has(*field))
             SelectStep(step);

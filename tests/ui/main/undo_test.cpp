@@ -3,6 +3,7 @@
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
 
+#include <QSignalSpy>
 #include <QTableView>
 
 #include <malloc.h>
@@ -141,6 +142,41 @@ TEST(Undo, KnowsTheSavedState)
     EXPECT_TRUE(designer.ProjectChanged());
     designer.Redo();
     EXPECT_FALSE(designer.ProjectChanged());
+}
+
+TEST(Undo, TellsOnceWhatTheQuestionHasToTell)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"odd.vmp"_s);
+    Project project;
+    for (const int order : {1, 2})
+        project.source.Questions().Append({.Order = order, .Type = u"Telepathy"_s, .Id = order});
+    ASSERT_TRUE(SaveProject(project, path));
+    const Designer designer(path);
+    {
+        const PromptScript prompts({u"OK"_s, u"OK"_s});
+        designer.ClickTab(2);
+        designer.Click("cmdDown");
+        EXPECT_EQ(prompts.boxes().size(), 2u);
+    }
+    designer.ClickTab(1);
+    const PromptScript prompts({u"OK"_s});
+    QTest::keyClick(designer.Find<QWidget>("SSTab1"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(designer.Step(), 2);
+    EXPECT_EQ(prompts.texts(), QStringList{u"This type is wrong!"_s});
+}
+
+TEST(Undo, OfATextLeavesTheQuestionsAlone)
+{
+    const Undoing designer(1);
+    QSignalSpy questions(&designer.window.document(), &ProjectDocument::QuestionsChanged);
+    auto *name = designer.Find<QLineEdit>("txtAppName");
+    name->setFocus();
+    QTest::keyClicks(name, u"ab"_s);
+    designer.Find<QWidget>("SSTab1")->setFocus();
+    designer.Undo();
+    EXPECT_EQ(name->text(), u"SiteVisit"_s);
+    EXPECT_TRUE(questions.isEmpty());
 }
 
 TEST(Undo, EndsWithTheProject)
