@@ -9,6 +9,8 @@ namespace {
 /// Without the rows that are the same at both ends.
 template <typename Row> Splice<Row> SpliceOf(const QList<Row> &before, const QList<Row> &after)
 {
+    if (before.isSharedWith(after))
+        return {};
     const auto [left, right] = std::ranges::mismatch(before, after);
     const qsizetype first = left - before.begin();
     const qsizetype rest = std::min(before.size(), after.size()) - first;

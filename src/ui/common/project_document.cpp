@@ -135,7 +135,9 @@ void ProjectDocument::Put(const ProjectStep &step, bool back)
 {
     EndTyping();
     {
-        const Announcement announcement(*this);
+        std::optional<Announcement> announcement;
+        if (step.ChangesQuestions())
+            announcement.emplace(*this);
         if (back)
             step.TakeBack(m_project);
         else
