@@ -80,6 +80,8 @@ OwnedFolder::OwnedFolder(QString path, std::shared_ptr<FolderLock> lock)
 
 Result<OwnedFolder> OwnedFolder::Make(const QString &parent, const QString &prefix)
 {
+    // So many that others who look for left-overs all the time do not come first each time.
+    constexpr int mostAttempts = 100;
     for (int attempt = 1;; ++attempt) {
         QTemporaryDir made(parent + u'/' + prefix + "XXXXXX"_L1);
         made.setAutoRemove(false);
@@ -87,7 +89,7 @@ Result<OwnedFolder> OwnedFolder::Make(const QString &parent, const QString &pref
             return Error{made.errorString(), parent};
         auto lock = Lock(made.path());
         // Where folders cannot be locked, nobody takes this one over either.
-        if (lock || attempt == 10)
+        if (lock || attempt == mostAttempts)
             return OwnedFolder(made.path(), std::move(lock));
         // Somebody took the new folder for a left-over, before it was locked, and removes it.
         QDir().rmdir(made.path());
