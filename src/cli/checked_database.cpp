@@ -23,7 +23,7 @@ namespace {
 /// read-only installation and many times at once.
 CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
 {
-    const ToolLimits limits = {{ApplicationFolder()}, line.timeoutSeconds};
+    const ToolLimits limits = {{ApplicationFolder()}, line.TimeoutSeconds()};
     return {{.work = folder, .databases = folder + QDir::separator()},
             BuildWithTools([limits](const ToolCall &call) { return RunAndWait(call, limits); })};
 }
@@ -42,9 +42,9 @@ public:
         const WorkFolder work;
         if (!work.state())
             return {Refuse(m_console, Exit::NotWritten, work.state().error())};
-        const CreateReport report =
-            MakeDatabase(m_project, PrivatePlace(work.path(), m_line),
-                         m_line.identifier.isEmpty() ? MakeIdentifier() : m_line.identifier);
+        const CreateReport report = MakeDatabase(
+            m_project, PrivatePlace(work.path(), m_line),
+            m_line.Has(Option::Identifier) ? m_line.Value(Option::Identifier) : MakeIdentifier());
         if (const Exit judged = Judge(report, work.path()); judged != Exit::Fine)
             return {judged};
         return ReadBack(report.database);
@@ -70,7 +70,7 @@ private:
         }
         // The first that failed is the cause: each is run whatever the one before it says.
         for (const ToolRun &run : report.runs)
-            if (const QString fault = FaultOf(run, m_line.timeoutSeconds); !fault.isEmpty())
+            if (const QString fault = FaultOf(run, m_line.TimeoutSeconds()); !fault.isEmpty())
                 return Fail(Exit::ToolFailed, fault);
         return Exit::Fine;
     }
@@ -98,7 +98,7 @@ private:
 CheckedDatabase MakeCheckedDatabase(Project &project, const QString &inputName,
                                     const CommandLine &line, const Console &console)
 {
-    const std::vector<Notice> notices = ReviewNotices(project, inputName);
+    const std::vector<Notice> notices = ReviewNotices(project, inputName, line);
     for (const Notice &notice : notices)
         console.Complain(notice);
     if (!Passes(notices))

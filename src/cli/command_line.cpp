@@ -4,40 +4,45 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
-// Without descriptions: --help is made from the rows of the commands.
-const QCommandLineOption output = {{u"o"_s, u"output"_s}, {}, u"NAME"_s};
-const QCommandLineOption identifier = {u"guid"_s, {}, u"HEX32"_s};
-const QCommandLineOption timeout = {u"timeout"_s, {}, u"SECONDS"_s};
-const QCommandLineOption json(u"json"_s);
-
-constexpr int longestTimeout = 24 * 60 * 60; // in milliseconds still an int
-
 bool IsOption(const QString &word)
 {
     return word.startsWith(u'-') && word.size() > 1;
 }
 
+bool Asks(const QString &word, const OptionRow &row)
+{
+    return word == "--"_L1 + row.name || (!row.letter.isEmpty() && word == u'-' + row.letter);
+}
+
 /// Whether the next word belongs to this one.
 bool TakesNext(const QString &word)
 {
-    for (const QCommandLineOption &option : {output, identifier, timeout})
-        for (const QString &name : option.names())
-            if (word == (name.size() == 1 ? u'-' + name : u"--"_s + name))
-                return true;
-    return false;
+    return std::ranges::any_of(OptionRows(), [&](const OptionRow &row) {
+        return !row.valueName.isEmpty() && Asks(word, row);
+    });
 }
 
 bool LooksLikeAName(const QString &word)
 {
     return word.endsWith(".vmp"_L1, Qt::CaseInsensitive) ||
            word.endsWith(".prc"_L1, Qt::CaseInsensitive) || QFileInfo::exists(word);
+}
+
+/// Without a description: --help is made from the rows.
+QCommandLineOption ParserOption(const OptionRow &row)
+{
+    QStringList names = {row.name};
+    if (!row.letter.isEmpty())
+        names.prepend(row.letter);
+    return {names, {}, row.valueName};
 }
 
 /// What helps somebody whose words are not understood, to stand behind what is wrong with them.
@@ -49,17 +54,18 @@ QString HintFor(const QStringList &words, const QCommandLineParser &parser)
         if (IsOption(word) && LooksLikeAName(word))
             return u" If '%1' is a name, put '--' before it."_s.arg(word);
     }
+    QStringList names = {u"help"_s, u"version"_s};
+    for (const OptionRow &row : OptionRows())
+        names += row.name;
     for (const QString &unknown : parser.unknownOptionNames())
-        if (const QString meant = NearMiss(unknown, {u"json"_s, u"guid"_s, u"timeout"_s,
-                                                     u"output"_s, u"help"_s, u"version"_s});
-            !meant.isEmpty())
+        if (const QString meant = NearMiss(unknown, names); !meant.isEmpty())
             return u" Did you mean '--%1'?"_s.arg(meant);
     return {};
 }
 
 Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape)
 {
-    if (line.inputs.isEmpty())
+    if (line.inputs.size() < shape.fewestInputs)
         return Error{shape.whichInput};
     if (line.inputs.size() > shape.mostInputs)
         return Error{u"'%1' is one name too many."_s.arg(line.inputs[shape.mostInputs])};
@@ -83,36 +89,33 @@ qsizetype CommandAt(const QStringList &words)
     return -1;
 }
 
+bool AsksFor(const QStringList &words, Option option)
+{
+    const auto row = std::ranges::find(OptionRows(), option, &OptionRow::option);
+    const auto end = std::ranges::find(words, u"--"_s);
+    return std::any_of(words.begin(), end, [&](const QString &word) { return Asks(word, *row); });
+}
+
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape)
 {
+    const Options taken = shape.options | everywhere;
     QCommandLineParser parser;
-    parser.addOption(json);
-    if (shape.output)
-        parser.addOption(output);
-    if (shape.identifier)
-        parser.addOption(identifier);
-    if (shape.timeout)
-        parser.addOption(timeout);
+    for (const OptionRow &row : OptionRows())
+        if (taken.testFlag(row.option))
+            parser.addOption(ParserOption(row));
     // The parser takes the first word for the program's name.
     if (!parser.parse(QStringList{u"vellumo"_s} + words))
         return Error{parser.errorText() + HintFor(words, parser)};
 
-    CommandLine line = {.inputs = parser.positionalArguments(), .json = parser.isSet(json)};
-    if (shape.output && parser.isSet(output)) {
-        line.output = parser.value(output);
-        if (line.output.isEmpty())
-            return Error{u"The name after -o is empty."_s};
-    }
-    if (shape.identifier && parser.isSet(identifier)) {
-        static const QRegularExpression digits(uR"(\A[0-9A-F]{32}\z)"_s);
-        line.identifier = parser.value(identifier).toUpper();
-        if (!digits.match(line.identifier).hasMatch())
-            return Error{u"The identifier of --guid must be 32 hexadecimal digits."_s};
-    }
-    if (shape.timeout && parser.isSet(timeout)) {
-        line.timeoutSeconds = parser.value(timeout).toInt(); // 0 where it is no number
-        if (line.timeoutSeconds < 1 || line.timeoutSeconds > longestTimeout)
-            return Error{u"The time of --timeout must be 1 to %1 seconds."_s.arg(longestTimeout)};
+    CommandLine line = {.inputs = parser.positionalArguments()};
+    for (const OptionRow &row : OptionRows()) {
+        if (!taken.testFlag(row.option) || !parser.isSet(row.name))
+            continue;
+        const QString value = parser.value(row.name);
+        const Result<QString> checked = row.check ? row.check(value) : value;
+        if (!checked)
+            return checked.error();
+        line.options.insert(row.option, *checked);
     }
     return Checked(line, shape);
 }

@@ -1,32 +1,40 @@
 #pragma once
 
-#include "platform/result.h"
+#include "cli/options.h"
 
+#include <QHash>
 #include <QStringList>
 
 namespace vellumo {
 
-/// Which words a command takes besides --help and --json.
+/// Which words a command takes.
 struct CommandShape {
+    int fewestInputs = 1;
     int mostInputs = 1;
-    QLatin1StringView whichInput = {}; ///< what is asked for when none is named
-    bool output = false;               ///< -o NAME
-    bool identifier = false;           ///< --guid HEX32
-    bool timeout = false;              ///< --timeout SECONDS
+    QLatin1StringView whichInput = {}; ///< what is asked for when too few are named
+    Options options = {};              ///< besides those that every command takes
 };
 
 /// What was asked for beside the command's name.
 struct CommandLine {
-    QStringList inputs;      ///< at least one; "-" is standard input
-    QString output = {};     ///< of -o; empty = not given
-    QString identifier = {}; ///< 32 upper-case hexadecimal digits of --guid; empty = not given
-    int timeoutSeconds = 60; ///< of --timeout; 1 or more
-    bool json = false;
+    QStringList inputs;                  ///< at least one; "-" is standard input
+    QHash<Option, QString> options = {}; ///< those given, with their checked values
+
+    bool Has(Option option) const { return options.contains(option); }
+    QString Value(Option option, const QString &unlessGiven = {}) const
+    {
+        return options.value(option, unlessGiven);
+    }
+    /// Of --timeout; 1 or more.
+    int TimeoutSeconds() const { return Value(Option::Timeout, QStringLiteral("60")).toInt(); }
 };
 
 /// Where in the words of the whole line the command's name stands: the first that is no option and
 /// no option's value. None stands after "--"; then, and where there is none at all, it is -1.
 qsizetype CommandAt(const QStringList &words);
+
+/// Whether an option stands among the words, whatever else is wrong with them.
+bool AsksFor(const QStringList &words, Option option);
 
 /// Reads the words but the command's name. Everything after "--" is an input.
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape);

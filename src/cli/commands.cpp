@@ -23,21 +23,20 @@ constexpr auto whichFile = "Which file? Please name a .vmp or .prc file."_L1;
 
 constexpr Command commands[] = {
     {.name = "review"_L1,
-     .synopsis = "PROJECT..."_L1,
+     .synopsis = "PROJECT... [--strict]"_L1,
      .help = "Tells what is wrong with each project, as the designer's error list has it,\n"
              "and then what would not arrive on the handheld as typed or fit its screen.\n"_L1,
-     .shape = {.mostInputs = anyNumber, .whichInput = whichProject},
+     .shape = {.mostInputs = anyNumber, .whichInput = whichProject, .options = Option::Strict},
      .run = ReviewProjects},
     {.name = "create"_L1,
-     .synopsis = "PROJECT... [-o DIR|FILE.prc] [--guid HEX32] [--timeout SECONDS]"_L1,
+     .synopsis = "PROJECT... [-o DIR|FILE.prc] [--guid HEX32] [--timeout SECONDS]\n"
+                 "[--strict]"_L1,
      .help = "Reviews each project, makes its database, reads that back and prints its\n"
              "path. DIR is \"My Vellumo\" in the documents folder unless given; it is made\n"
              "where its name ends in a slash. FILE.prc is for a single project.\n"_L1,
      .shape = {.mostInputs = anyNumber,
                .whichInput = whichProject,
-               .output = true,
-               .identifier = true,
-               .timeout = true},
+               .options = Option::Output | Option::Strict | Option::Identifier | Option::Timeout},
      .run = CreateDatabases},
     {.name = "verify"_L1,
      .synopsis = "DATABASE [PROJECT]"_L1,
@@ -53,24 +52,30 @@ constexpr Command commands[] = {
      .synopsis = "PROJECT|DATABASE... [-o FILE] [--timeout SECONDS]"_L1,
      .help = "Draws every form as the handheld shows it, on a page of HTML to look at and\n"
              "to print, to standard output unless FILE is given.\n"_L1,
-     .shape = {.mostInputs = anyNumber, .whichInput = whichFile, .output = true, .timeout = true},
+     .shape = {.mostInputs = anyNumber,
+               .whichInput = whichFile,
+               .options = Option::Output | Option::Timeout},
      .run = DrawScreens},
     {.name = "script"_L1,
      .synopsis = "PROJECT [-o FILE] [--guid HEX32]"_L1,
      .help = "Writes the resource script alone, to standard output unless FILE is given.\n"_L1,
-     .shape = {.mostInputs = 1, .whichInput = whichProject, .output = true, .identifier = true},
+     .shape = {.mostInputs = 1,
+               .whichInput = whichProject,
+               .options = Option::Output | Option::Identifier},
      .run = WriteScript},
     {.name = "rewrite"_L1,
      .synopsis = "PROJECT [-o FILE]"_L1,
      .help = "Reads a project and saves it as the designer does, in its place unless FILE\n"
              "is given.\n"_L1,
-     .shape = {.mostInputs = 1, .whichInput = whichProject, .output = true},
+     .shape = {.mostInputs = 1, .whichInput = whichProject, .options = Option::Output},
      .run = RewriteProject},
     {.name = "recover"_L1,
      .synopsis = "DATABASE [-o PROJECT] [--timeout SECONDS]"_L1,
      .help = "Writes the project that a database holds, to standard output unless PROJECT\n"
              "is given, and tells in what its database would be another one.\n"_L1,
-     .shape = {.mostInputs = 1, .whichInput = whichDatabase, .output = true, .timeout = true},
+     .shape = {.mostInputs = 1,
+               .whichInput = whichDatabase,
+               .options = Option::Output | Option::Timeout},
      .run = RecoverDatabase},
 };
 
@@ -78,17 +83,6 @@ constexpr QLatin1StringView head =
     "vellumo turns projects of Vellumo Designer into Palm databases, without a window.\n\n"_L1;
 
 constexpr QLatin1StringView tail = R"(  vellumo help [COMMAND] | --help | --version
-
-)"_L1;
-
-constexpr QLatin1StringView options =
-    R"(  --guid HEX32       the identifier to build in, 32 hexadecimal digits; a new one
-                     is made unless given. With it, or with SOURCE_DATE_EPOCH in
-                     the environment, the same project gives the same database
-  --timeout SECONDS  how long each tool may take, 60 unless given
-  --json             one JSON object a line for each finding, result or error
-  --                 what follows are names, whatever they begin with
-  -                  in place of a file: standard input or output
 
 )"_L1;
 
@@ -110,7 +104,9 @@ QString Indented(QLatin1StringView text)
 
 QString HelpOf(const Command &command)
 {
-    return "  vellumo %1 %2\n"_L1.arg(command.name, command.synopsis) + Indented(command.help);
+    const QString start = "  vellumo %1 "_L1.arg(command.name);
+    return start + QString(command.synopsis).replace(u'\n', u'\n' + QString(start.size(), u' ')) +
+           u'\n' + Indented(command.help);
 }
 
 } // namespace
@@ -139,12 +135,13 @@ QString HelpText()
     QString text = head;
     for (const Command &command : commands)
         text += HelpOf(command);
-    return text + tail + options + exits;
+    return text + tail + OptionsHelp(~Options()) + u'\n' + exits;
 }
 
 QString HelpText(const Command &command)
 {
-    return HelpOf(command) + u'\n' + options + exits;
+    return HelpOf(command) + u'\n' + OptionsHelp(command.shape.options | everywhere) + u'\n' +
+           exits;
 }
 
 } // namespace vellumo

@@ -10,7 +10,7 @@ namespace vellumo {
 /// A command of vellumo; everything that is to be said of it stands in its row.
 struct Command {
     QLatin1StringView name;
-    QLatin1StringView synopsis; ///< what follows the name, such as "PROJECT... [-o DIR]"
+    QLatin1StringView synopsis; ///< what follows the name, in lines, such as "PROJECT... [-o DIR]"
     QLatin1StringView help;     ///< what it does, in lines that fit a terminal
     CommandShape shape;
     Exit (*run)(const CommandLine &line, const Console &console);

@@ -15,6 +15,15 @@ QString ForPerson(const Notice &notice)
     return notice.shown.isEmpty() ? notice.text : notice.shown;
 }
 
+bool Wants(const Console &console, const Notice &notice)
+{
+    if (!console.quiet)
+        return true;
+    if (notice.kind == "result"_L1)
+        return console.json;
+    return notice.kind != "warning"_L1 && notice.kind != "remark"_L1;
+}
+
 QLatin1StringView CodeOf(Exit exit)
 {
     switch (exit) {
@@ -37,11 +46,15 @@ QLatin1StringView CodeOf(Exit exit)
 
 void Console::Tell(const Notice &notice) const
 {
+    if (!Wants(*this, notice))
+        return;
     WriteLine(out, json ? ToJson(notice) : ForPerson(notice).toLocal8Bit());
 }
 
 void Console::Complain(const Notice &error) const
 {
+    if (!Wants(*this, error))
+        return;
     if (json)
         WriteLine(out, ToJson(error));
     else
@@ -50,7 +63,7 @@ void Console::Complain(const Notice &error) const
 
 void Console::Progress(const QString &line) const
 {
-    if (showProgress)
+    if (showProgress && !quiet)
         WriteLine(err, line.toLocal8Bit());
 }
 

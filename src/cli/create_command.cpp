@@ -66,7 +66,7 @@ CheckedDatabase MakeOne(const QString &input, const CommandLine &line, const Con
         return MakeCheckedDatabase(*project, InputName(input), line, console);
 
     CommandLine reproducible = line;
-    reproducible.identifier = (*reproduction)->identifier;
+    reproducible.options[Option::Identifier] = (*reproduction)->identifier;
     CheckedDatabase database =
         MakeCheckedDatabase(*project, InputName(input), reproducible, console);
     if (database.exit == Exit::Fine)
@@ -78,12 +78,13 @@ CheckedDatabase MakeOne(const QString &input, const CommandLine &line, const Con
 
 Exit CreateDatabases(const CommandLine &line, const Console &console)
 {
-    const bool toFile = NamesAFile(line.output);
+    const QString output = line.Value(Option::Output);
+    const bool toFile = NamesAFile(output);
     if (toFile && line.inputs.size() > 1)
         return Refuse(console, Exit::WrongUse,
                       {u"-o names one file for several projects; name a folder."_s, u"vellumo"_s});
     Result<QString> folder = QString();
-    if (!toFile && !(folder = DatabaseFolder(line.output)))
+    if (!toFile && !(folder = DatabaseFolder(output)))
         return Refuse(console, Exit::NotWritten, folder.error());
 
     WorkFolder::RemoveLeft();
@@ -92,7 +93,7 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
         const CheckedDatabase database = MakeOne(input, line, console);
         if (database.exit != Exit::Fine)
             return database.exit;
-        const QString target = toFile ? line.output : QDir(*folder).filePath(database.fileName);
+        const QString target = toFile ? output : QDir(*folder).filePath(database.fileName);
         return PutInPlace(database.bytes, target, InputName(input), console, made);
     });
 }

@@ -14,7 +14,7 @@ namespace vellumo {
 
 Exit WriteScript(const CommandLine &line, const Console &console)
 {
-    const QString target = line.output.isEmpty() ? u"-"_s : line.output;
+    const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
     const QString input = line.inputs.first();
@@ -22,8 +22,9 @@ Exit WriteScript(const CommandLine &line, const Console &console)
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
 
-    const Script script = GenerateScript(
-        *project, line.identifier.isEmpty() ? IdentifierDigits(MakeIdentifier()) : line.identifier);
+    const Script script =
+        GenerateScript(*project, line.Has(Option::Identifier) ? line.Value(Option::Identifier)
+                                                              : IdentifierDigits(MakeIdentifier()));
     if (!script.outcome)
         return Refuse(console, Exit::NotPassed, {script.outcome.error().text, InputName(input)});
     return Deliver(target, script.bytes, "script"_L1, console);
@@ -32,10 +33,10 @@ Exit WriteScript(const CommandLine &line, const Console &console)
 Exit RewriteProject(const CommandLine &line, const Console &console)
 {
     const QString input = line.inputs.first();
-    const QString target = line.output.isEmpty() ? input : line.output;
+    const QString target = line.Value(Option::Output, input);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
-    if (line.output.isEmpty() && target != "-"_L1 && IsWrittenInto(target))
+    if (!line.Has(Option::Output) && target != "-"_L1 && IsWrittenInto(target))
         return Refuse(console, Exit::WrongUse,
                       {u"What is no file cannot be rewritten in its place: -o FILE."_s, input});
     const Result<Project> project = ReadProjectInput(input, console);

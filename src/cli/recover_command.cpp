@@ -34,7 +34,7 @@ public:
     Exit Check(Project project) const
     {
         bool same = true;
-        for (const Notice &notice : ReviewNotices(project, m_inputName)) {
+        for (const Notice &notice : ReviewNotices(project, m_inputName, m_line)) {
             // A text that had to be escaped is none to be warned of: it arrives as it did.
             if (notice.kind == "finding"_L1) {
                 m_console.Complain(notice);
@@ -89,7 +89,7 @@ Exit Recover(const PalmDatabase &database, const QString &target, const CommandL
 
 Exit RecoverDatabase(const CommandLine &line, const Console &console)
 {
-    const QString target = line.output.isEmpty() ? u"-"_s : line.output;
+    const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
     const QString input = line.inputs.first();

@@ -21,15 +21,14 @@ Result<std::optional<Reproduction>> ReproductionOf(const Fingerprint &fingerprin
                                                    const CommandLine &line)
 {
     const QByteArray epoch = qgetenv(epochName);
-    if (epoch.isEmpty() && line.identifier.isEmpty())
+    if (epoch.isEmpty() && !line.Has(Option::Identifier))
         return std::optional<Reproduction>();
     bool isNumber = true;
     const qint64 seconds = epoch.isEmpty() ? first2000 : epoch.toLongLong(&isNumber);
     if (!isNumber || seconds < 0 || seconds > latest)
         return Error{u"SOURCE_DATE_EPOCH must be 0 to %1 seconds."_s.arg(latest)};
     const QString derived = QString::fromLatin1(fingerprint.toHex().first(32)).toUpper();
-    return std::optional(
-        Reproduction{line.identifier.isEmpty() ? derived : line.identifier, seconds});
+    return std::optional(Reproduction{line.Value(Option::Identifier, derived), seconds});
 }
 
 void SetTimes(QByteArray &database, qint64 secondsSince1970)

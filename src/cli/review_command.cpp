@@ -12,14 +12,14 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-Exit Review(const QString &input, bool oneOfSeveral, const Console &console)
+Exit Review(const QString &input, const CommandLine &line, const Console &console)
 {
     Result<Project> project = ReadProjectInput(input, console);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
-    const std::vector<Notice> notices = ReviewNotices(*project, InputName(input));
+    const std::vector<Notice> notices = ReviewNotices(*project, InputName(input), line);
     for (Notice notice : notices) {
-        if (oneOfSeveral)
+        if (line.inputs.size() > 1)
             notice.shown.prepend(notice.file + ": "_L1);
         console.Tell(notice);
     }
@@ -47,7 +47,8 @@ Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName)
 
 } // namespace
 
-std::vector<Notice> ReviewNotices(Project &project, const QString &inputName)
+std::vector<Notice> ReviewNotices(Project &project, const QString &inputName,
+                                  const CommandLine &line)
 {
     std::vector<Notice> notices;
     for (const ReviewEntry &entry : ReviewProject(project).entries)
@@ -64,6 +65,11 @@ std::vector<Notice> ReviewNotices(Project &project, const QString &inputName)
         notices.push_back(WarningNotice(misfit, inputName));
         notices.back().advice = true;
     }
+    if (line.Has(Option::Strict))
+        for (Notice &notice : notices) {
+            notice.kind = "finding"_L1;
+            notice.advice = false;
+        }
     return notices;
 }
 
@@ -75,9 +81,8 @@ bool Passes(const std::vector<Notice> &notices)
 
 Exit ReviewProjects(const CommandLine &line, const Console &console)
 {
-    return ForEachInput(line, console, [&](const QString &input) {
-        return Review(input, line.inputs.size() > 1, console);
-    });
+    return ForEachInput(line, console,
+                        [&](const QString &input) { return Review(input, line, console); });
 }
 
 } // namespace vellumo

@@ -48,7 +48,7 @@ Exit AppendScreens(QList<DatabaseScreens> &all, const QString &input, const Comm
 
 Exit DrawScreens(const CommandLine &line, const Console &console)
 {
-    const QString target = line.output.isEmpty() ? u"-"_s : line.output;
+    const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
     WorkFolder::RemoveLeft();

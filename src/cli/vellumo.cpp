@@ -77,7 +77,8 @@ Exit Run(QStringList words, const Console &console, const Outcome &typed)
 int RunVellumo(const QStringList &words, Console console, const Outcome &typed)
 {
     // Before the words are understood, so that wrong use is told as JSON, too.
-    console.json = HasOption(words, u"--json"_s);
+    console.json = AsksFor(words, Option::Json);
+    console.quiet = AsksFor(words, Option::Quiet);
     const Exit exit = Run(words, console, typed);
     // What the stream still holds may meet a full disk only now.
     if (console.out.flush())

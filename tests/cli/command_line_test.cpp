@@ -11,9 +11,7 @@ namespace {
 
 const CommandShape everything = {.mostInputs = 2,
                                  .whichInput = "Which one?"_L1,
-                                 .output = true,
-                                 .identifier = true,
-                                 .timeout = true};
+                                 .options = Option::Output | Option::Identifier | Option::Timeout};
 
 QString RefusalOf(const QStringList &words, const CommandShape &shape = everything)
 {
@@ -30,8 +28,8 @@ TEST(CommandLine, TakesOptionsBeforeAndAfterProjects)
         everything);
     ASSERT_TRUE(line);
     EXPECT_EQ(line->inputs, (QStringList{u"a.vmp"_s, u"b.vmp"_s}));
-    EXPECT_EQ(line->output, u"out"_s);
-    EXPECT_EQ(line->identifier, u"0123456789ABCDEF0123456789ABCDEF"_s);
+    EXPECT_EQ(line->Value(Option::Output), u"out"_s);
+    EXPECT_EQ(line->Value(Option::Identifier), u"0123456789ABCDEF0123456789ABCDEF"_s);
 }
 
 TEST(CommandLine, TakesWhatFollowsTwoDashesAsProjects)
@@ -39,7 +37,7 @@ TEST(CommandLine, TakesWhatFollowsTwoDashesAsProjects)
     const auto line = ParseCommandLine({u"--"_s, u"-o"_s, u"--guid"_s}, everything);
     ASSERT_TRUE(line);
     EXPECT_EQ(line->inputs, (QStringList{u"-o"_s, u"--guid"_s}));
-    EXPECT_EQ(line->output, u""_s);
+    EXPECT_EQ(line->Value(Option::Output), u""_s);
 }
 
 TEST(CommandLine, HasItsDefaults)
@@ -47,10 +45,10 @@ TEST(CommandLine, HasItsDefaults)
     const auto line = ParseCommandLine({u"-"_s}, everything);
     ASSERT_TRUE(line);
     EXPECT_EQ(line->inputs, QStringList{u"-"_s});
-    EXPECT_EQ(line->identifier, u""_s);
-    EXPECT_EQ(line->timeoutSeconds, 60);
-    EXPECT_FALSE(line->json);
-    EXPECT_TRUE(ParseCommandLine({u"a"_s, u"--json"_s}, everything)->json);
+    EXPECT_EQ(line->Value(Option::Identifier), u""_s);
+    EXPECT_EQ(line->TimeoutSeconds(), 60);
+    EXPECT_FALSE(line->Has(Option::Json));
+    EXPECT_TRUE(ParseCommandLine({u"a"_s, u"--json"_s}, everything)->Has(Option::Json));
 }
 
 TEST(CommandLine, RefusesWhatMakesNoSense)

@@ -79,6 +79,19 @@ TEST_F(CreateCommand, TellsWhatDoesNotFitTheScreenAndCreatesAllTheSame)
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
 }
 
+TEST_F(CreateCommand, RefusesWhatHasToBeWarnedOfWhereItIsStrict)
+{
+    const QString path = InFolder(u"wide.vmp"_s);
+    WriteBytes(path, BytesOf(siteVisit).replace("[Inspector]", "[" + QByteArray(40, 'W') + "]"));
+    EXPECT_EQ(Create({path, u"--strict"_s}), 1);
+    EXPECT_NE(Err(), u""_s);
+    EXPECT_EQ(Out(), u""_s);
+    EXPECT_EQ(Made(), QStringList());
+    EXPECT_EQ(Create({path, u"--quiet"_s}), 0);
+    EXPECT_EQ(Out() + Err(), u""_s);
+    EXPECT_EQ(Made(), QStringList{u"SiteVisit.prc"_s});
+}
+
 TEST_F(CreateCommand, TellsAPersonHowFarItIs)
 {
     watched = true;

@@ -121,6 +121,32 @@ TEST_F(ReviewCommand, WarnsOfWhatDoesNotFitTheScreen)
     EXPECT_EQ(Out().count(u"warning: "_s), 2) << Out().toStdString();
 }
 
+TEST_F(ReviewCommand, TakesWarningsForFindingsWhereItIsStrict)
+{
+    const QString wide = Changed("<Title><![CDATA[Inspector]]>",
+                                 "<Title><![CDATA[Inspector of the northern district]]>");
+    EXPECT_EQ(Run({u"review"_s, wide}), 0);
+    const QString told = Out();
+    EXPECT_EQ(Run({u"review"_s, u"--strict"_s, wide}), 1);
+    EXPECT_EQ(Out(), told);
+    EXPECT_EQ(Run({u"review"_s, u"--strict"_s, u"--json"_s, wide}), 1);
+    ASSERT_EQ(Objects().size(), 2);
+    EXPECT_EQ(Objects()[0].value(u"kind"_s).toString(), u"finding"_s);
+    EXPECT_EQ(Objects()[1].value(u"code"_s).toString(), u"not-passed"_s);
+    EXPECT_EQ(Run({u"review"_s, u"--strict"_s, example}), 0);
+}
+
+TEST_F(ReviewCommand, KeepsWarningsBackWhereItIsQuiet)
+{
+    const QString path = Changed("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[a\\b]]>");
+    EXPECT_EQ(Run({u"review"_s, u"-q"_s, path}), 1);
+    EXPECT_EQ(Out() + Err(), u""_s);
+    EXPECT_EQ(Run({u"review"_s, u"--quiet"_s, u"--strict"_s, path}), 1);
+    EXPECT_TRUE(Out().startsWith(u"warning: question 1, title: "_s)) << Out().toStdString();
+    EXPECT_EQ(Run({u"review"_s, u"--quiet"_s, Changed(name, noName)}), 1);
+    EXPECT_EQ(Out(), u"Step1\t\tPlease enter a name for your Vellsheet.\n"_s);
+}
+
 TEST_F(ReviewCommand, LetsAQuestionBeBroken)
 {
     const QString path =

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/result.h"
+
+#include <QFlags>
+
+#include <span>
+
+namespace vellumo {
+
+/// What may be asked for beside inputs; a set of them is what a command takes.
+enum class Option : unsigned {
+    Output = 1U << 0U,
+    Identifier = 1U << 1U,
+    Timeout = 1U << 2U,
+    Strict = 1U << 3U,
+    Quiet = 1U << 4U,
+    Json = 1U << 5U,
+};
+Q_DECLARE_FLAGS(Options, Option)
+Q_DECLARE_OPERATORS_FOR_FLAGS(Options)
+
+/// Those that every command takes.
+constexpr Options everywhere = Option::Quiet | Option::Json;
+
+/// An option; everything that is to be said of it stands in its row.
+struct OptionRow {
+    Option option;
+    QLatin1StringView name;           ///< typed after two dashes
+    QLatin1StringView letter = {};    ///< typed after one dash; empty = it has none
+    QLatin1StringView valueName = {}; ///< as the help has it; empty = it takes no value
+    QLatin1StringView help;           ///< what it does, in lines of at most 60 letters
+    /// The value as commands use it, or why it is none; null = each is taken.
+    Result<QString> (*check)(const QString &value) = nullptr;
+};
+
+/// In the order in which the help tells of them.
+std::span<const OptionRow> OptionRows();
+
+/// What --help prints of some of them.
+QString OptionsHelp(Options options);
+
+} // namespace vellumo
