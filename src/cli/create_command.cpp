@@ -37,8 +37,8 @@ Result<QString> DatabaseFolder(const QString &output)
 
 /// Puts the database of an input in its place and tells its path. Made has the databases of the
 /// same call and the inputs that they were made from.
-Exit PutInPlace(const QByteArray &database, const QString &target, const QString &inputName,
-                const Console &console, QHash<QString, QString> &made)
+Ending PutInPlace(const QByteArray &database, const QString &target, const QString &inputName,
+                  const Console &console, QHash<QString, QString> &made)
 {
     // An older database makes room, that of another project of this call does not.
     if (made.contains(target))
@@ -49,8 +49,10 @@ Exit PutInPlace(const QByteArray &database, const QString &target, const QString
         return Refuse(console, Exit::NotWritten, replaced.error());
     made.insert(target, inputName);
     const QString path = QDir::toNativeSeparators(QFileInfo(target).absoluteFilePath());
-    console.Tell({.kind = "result"_L1, .code = "created"_L1, .text = path, .file = path});
-    return Exit::Fine;
+    Ending ending(Exit::Fine, "created"_L1, path);
+    ending.shown = path;
+    ending.made = path;
+    return ending;
 }
 
 CheckedDatabase MakeOne(const QString &input, const CommandLine &line, const Console &console)
@@ -89,7 +91,7 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
 
     WorkFolder::RemoveLeft();
     QHash<QString, QString> made;
-    return ForEachInput(line, console, [&](const QString &input) {
+    return ForEachInput(line, console, [&](const QString &input) -> Ending {
         const CheckedDatabase database = MakeOne(input, line, console);
         if (database.exit != Exit::Fine)
             return database.exit;

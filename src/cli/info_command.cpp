@@ -4,10 +4,11 @@
 #include "cli/verify_command.h"
 #include "model/form_fields.h"
 #include "model/project_reader.h"
+#include "model/question_types.h"
+#include "readback/recovered_project.h"
 #include "readback/summary.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -26,8 +27,26 @@ struct Info {
     QList<Fact> facts;
     // Of each question.
     QStringList types = {}, columnNames = {}, titles = {};
+    QJsonArray questions = {}; ///< with all their texts, as objects
     std::vector<Notice> remarks = {};
 };
+
+QJsonArray QuestionObjects(const clsDataSource &source)
+{
+    const QHash<int, QStringList> items = source.ItemsById();
+    QJsonArray objects;
+    for (const QuestionRow &row : source.Questions().Rows()) {
+        QJsonObject object = {{u"number"_s, objects.size() + 1},
+                              {u"type"_s, row.Type},
+                              {u"columnName"_s, row.ColumnName},
+                              {u"title"_s, row.Title},
+                              {u"question"_s, row.Question}};
+        if (HasItems(row.Type))
+            object.insert(u"items"_s, QJsonArray::fromStringList(items.value(row.Id)));
+        objects.append(object);
+    }
+    return objects;
+}
 
 Info InfoOf(const Project &project, qsizetype size)
 {
@@ -43,6 +62,7 @@ Info InfoOf(const Project &project, qsizetype size)
         info.columnNames += row.ColumnName;
         info.titles += row.Title;
     }
+    info.questions = QuestionObjects(project.source);
     return info;
 }
 
@@ -80,15 +100,15 @@ void TellPerson(const Info &info, const Console &console)
                                      info.columnNames.value(i), info.titles.value(i)));
 }
 
-void TellProgram(const Info &info, const QString &inputName, const Console &console)
+QJsonObject ForProgram(const Info &info)
 {
-    QJsonObject object = {{u"kind"_s, u"result"_s}, {u"code"_s, u"info"_s}, {u"file"_s, inputName}};
+    QJsonObject object = {{u"types"_s, QJsonArray::fromStringList(info.types)},
+                          {u"columnNames"_s, QJsonArray::fromStringList(info.columnNames)},
+                          {u"titles"_s, QJsonArray::fromStringList(info.titles)},
+                          {u"questionList"_s, info.questions}};
     for (const Info::Fact &fact : info.facts)
         object.insert(fact.name, fact.value);
-    object.insert(u"types"_s, QJsonArray::fromStringList(info.types));
-    object.insert(u"columnNames"_s, QJsonArray::fromStringList(info.columnNames));
-    object.insert(u"titles"_s, QJsonArray::fromStringList(info.titles));
-    console.Write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
+    return object;
 }
 
 Result<Info> ReadInfo(const QByteArray &bytes, const QString &inputName)
@@ -98,6 +118,7 @@ Result<Info> ReadInfo(const QByteArray &bytes, const QString &inputName)
         if (!database)
             return database.error();
         Info info = InfoOf(Summarize(*database));
+        info.questions = QuestionObjects(RecoverProject(*database).source);
         info.remarks = RemarkNotices(*database, inputName);
         return info;
     }
@@ -107,11 +128,8 @@ Result<Info> ReadInfo(const QByteArray &bytes, const QString &inputName)
     return InfoOf(*project, bytes.size());
 }
 
-} // namespace
-
-Exit TellInfo(const CommandLine &line, const Console &console)
+Ending TellInfoOf(const QString &input, const CommandLine &line, const Console &console)
 {
-    const QString input = line.inputs.first();
     const Result<QByteArray> bytes = ReadInput(input, eitherLimit, console);
     if (!bytes)
         return Refuse(console, Exit::Unreadable, bytes.error());
@@ -119,13 +137,24 @@ Exit TellInfo(const CommandLine &line, const Console &console)
     if (!info)
         return Refuse(console, Exit::Unreadable,
                       {info.error().text, InputName(input), info.error().line});
-    if (console.json)
-        TellProgram(*info, InputName(input), console);
-    else
+    if (!console.json && line.inputs.size() > 1)
+        console.Write(Visible("file: "_L1 + InputName(input)).toLocal8Bit() + '\n');
+    if (!console.json)
         TellPerson(*info, console);
     for (const Notice &remark : info->remarks)
         console.Tell(remark);
-    return Exit::Fine;
+    Ending ending(Exit::Fine, "info"_L1, u"It can be read."_s);
+    if (console.json)
+        ending.more = ForProgram(*info);
+    return ending;
+}
+
+} // namespace
+
+Exit TellInfo(const CommandLine &line, const Console &console)
+{
+    return ForEachInput(line, console,
+                        [&](const QString &input) { return TellInfoOf(input, line, console); });
 }
 
 } // namespace vellumo

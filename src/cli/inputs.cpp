@@ -65,7 +65,7 @@ QString InputName(const QString &name)
 }
 
 Exit ForEachInput(const CommandLine &line, const Console &console,
-                  const std::function<Exit(const QString &input)> &act)
+                  const std::function<Ending(const QString &input)> &act)
 {
     const qsizetype count = line.inputs.size();
     Exit worst = Exit::Fine;
@@ -74,9 +74,17 @@ Exit ForEachInput(const CommandLine &line, const Console &console,
         if (count > 1)
             console.Progress(u"%1 of %2: %3"_s.arg(QString::number(i + 1), QString::number(count),
                                                    InputName(input)));
-        worst = std::max(worst, act(input));
+        const Ending ending = act(input);
+        Tell(ending, InputName(input), console);
+        worst = std::max(worst, ending.exit);
     }
     return worst;
+}
+
+Exit ForInput(const CommandLine &line, const Console &console,
+              const std::function<Ending(const QString &input)> &act)
+{
+    return ForEachInput({.inputs = {line.inputs.first()}}, console, act);
 }
 
 } // namespace vellumo

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/command_line.h"
-#include "cli/console.h"
+#include "cli/ending.h"
 #include "model/project_file.h"
 #include "platform/files.h"
 
@@ -25,9 +25,12 @@ Result<Project> ReadProjectInput(const QString &name, const Console &console,
 /// An input's name as messages have it.
 QString InputName(const QString &name);
 
-/// Does the same with each input, telling how far it is where there are several. Each is tried; the
-/// worst exit is returned.
+/// Does the same with each input and tells how that ended, and how far it is where there are
+/// several. Each is tried; the worst exit is returned.
 Exit ForEachInput(const CommandLine &line, const Console &console,
-                  const std::function<Exit(const QString &input)> &act);
+                  const std::function<Ending(const QString &input)> &act);
+/// With the first alone.
+Exit ForInput(const CommandLine &line, const Console &console,
+              const std::function<Ending(const QString &input)> &act);
 
 } // namespace vellumo

@@ -1,20 +1,35 @@
 #include "cli/notice.h"
 
+#include "model/form_fields.h"
+
 #include <QJsonDocument>
-#include <QJsonObject>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 
+int StepOf(const TextPlace &place)
+{
+    if (place.question > 0)
+        return 2;
+    const auto *row = std::ranges::find(formFields, place.field, &FormFieldRow::name);
+    return row == formFields.end() ? 0 : row->step;
+}
+
 QByteArray ToJson(const Notice &notice)
 {
-    QJsonObject object = {
-        {u"kind"_s, notice.kind}, {u"code"_s, notice.code}, {u"message"_s, notice.text}};
+    QJsonObject object = notice.more;
+    object.insert(u"kind"_s, notice.kind);
+    object.insert(u"code"_s, notice.code);
+    object.insert(u"message"_s, notice.text);
     if (!notice.file.isEmpty())
         object.insert(u"file"_s, notice.file);
     if (notice.line > 0)
         object.insert(u"line"_s, notice.line);
+    if (notice.step > 0)
+        object.insert(u"step"_s, notice.step);
     if (notice.question > 0)
         object.insert(u"question"_s, notice.question);
     if (!notice.field.isEmpty())

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/result.h"
+#include "model/texts.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 
 namespace vellumo {
@@ -15,10 +16,15 @@ struct Notice {
     QString shown = {};     ///< what a person sees instead of the sentence; empty = the sentence
     QString file = {};
     int line = 0;     ///< from 1, 0 = none applies
+    int step = 0;     ///< of the designer, where it can be mended; 1 to 3, 0 = none applies
     int question = 0; ///< position from 1, 0 = none applies
     QString field = {};
-    bool advice = false; ///< it leaves the exit status alone
+    QJsonObject more = {}; ///< for programs alone
+    bool advice = false;   ///< it leaves the exit status alone
 };
+
+/// The step of the designer that has such a text, 1 to 3; 0 = none applies.
+int StepOf(const TextPlace &place);
 
 /// The notice as one JSON object on one line, in UTF-8; what does not apply is left out.
 QByteArray ToJson(const Notice &notice);

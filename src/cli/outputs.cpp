@@ -17,14 +17,14 @@ Outcome WriteOutput(const QString &name, const QByteArray &bytes, const Console 
 
 } // namespace
 
-Exit Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
-             const Console &console)
+Ending Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
+               const Console &console)
 {
     if (const Outcome written = WriteOutput(name, bytes, console); !written)
         return Refuse(console, Exit::NotWritten, written.error());
-    if (console.json)
-        console.Tell({.kind = "result"_L1, .code = code, .text = u"written"_s, .file = name});
-    return Exit::Fine;
+    Ending ending(Exit::Fine, code, u"written"_s);
+    ending.made = name;
+    return ending;
 }
 
 Exit RefuseMixture(const Console &console)

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "cli/console.h"
+#include "cli/ending.h"
 
 namespace vellumo {
 
-/// Puts bytes in the place of a file, or on standard output where the name is "-", and tells a
-/// program of it under this code.
-Exit Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
-             const Console &console);
+/// Puts bytes in the place of a file, or on standard output where the name is "-". The ending has
+/// this code.
+Ending Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView code,
+               const Console &console);
 
 /// Refuses to mix an output with objects for a program on standard output.
 Exit RefuseMixture(const Console &console);

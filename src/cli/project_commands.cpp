@@ -11,17 +11,14 @@
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
+namespace {
 
-Exit WriteScript(const CommandLine &line, const Console &console)
+Ending WriteScriptOf(const QString &input, const QString &target, const CommandLine &line,
+                     const Console &console)
 {
-    const QString target = line.Value(Option::Output, u"-"_s);
-    if (console.json && target == "-"_L1)
-        return RefuseMixture(console);
-    const QString input = line.inputs.first();
     const Result<Project> project = ReadProjectInput(input, console);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
-
     const Script script =
         GenerateScript(*project, line.Has(Option::Identifier) ? line.Value(Option::Identifier)
                                                               : IdentifierDigits(MakeIdentifier()));
@@ -30,19 +27,11 @@ Exit WriteScript(const CommandLine &line, const Console &console)
     return Deliver(target, script.bytes, "script"_L1, console);
 }
 
-Exit RewriteProject(const CommandLine &line, const Console &console)
+Ending Rewrite(const QString &input, const QString &target, const Console &console)
 {
-    const QString input = line.inputs.first();
-    const QString target = line.Value(Option::Output, input);
-    if (console.json && target == "-"_L1)
-        return RefuseMixture(console);
-    if (!line.Has(Option::Output) && target != "-"_L1 && IsWrittenInto(target))
-        return Refuse(console, Exit::WrongUse,
-                      {u"What is no file cannot be rewritten in its place: -o FILE."_s, input});
     const Result<Project> project = ReadProjectInput(input, console);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
-
     if (const auto unreadable = FindUnreadableTexts(*project); !unreadable.empty())
         return Refuse(
             console, Exit::NotWritten,
@@ -53,6 +42,30 @@ Exit RewriteProject(const CommandLine &line, const Console &console)
     if (!bytes)
         return Refuse(console, Exit::NotWritten, {bytes.error().text, InputName(input)});
     return Deliver(target, *bytes, "rewritten"_L1, console);
+}
+
+} // namespace
+
+Exit WriteScript(const CommandLine &line, const Console &console)
+{
+    const QString target = line.Value(Option::Output, u"-"_s);
+    if (console.json && target == "-"_L1)
+        return RefuseMixture(console);
+    return ForInput(line, console, [&](const QString &input) {
+        return WriteScriptOf(input, target, line, console);
+    });
+}
+
+Exit RewriteProject(const CommandLine &line, const Console &console)
+{
+    const QString target = line.Value(Option::Output, line.inputs.first());
+    if (console.json && target == "-"_L1)
+        return RefuseMixture(console);
+    if (!line.Has(Option::Output) && target != "-"_L1 && IsWrittenInto(target))
+        return Refuse(console, Exit::WrongUse,
+                      {u"What is no file cannot be rewritten in its place: -o FILE."_s, target});
+    return ForInput(line, console,
+                    [&](const QString &input) { return Rewrite(input, target, console); });
 }
 
 } // namespace vellumo

@@ -68,8 +68,8 @@ private:
     const Console &m_console;
 };
 
-Exit Recover(const PalmDatabase &database, const QString &target, const CommandLine &line,
-             const Console &console)
+Ending Recover(const PalmDatabase &database, const QString &target, const CommandLine &line,
+               const Console &console)
 {
     const QString inputName = InputName(line.inputs.first());
     const Result<QByteArray> file = WriteProject(RecoverProject(database));
@@ -82,7 +82,21 @@ Exit Recover(const PalmDatabase &database, const QString &target, const CommandL
     for (const Notice &remark : RemarkNotices(database, inputName))
         console.Complain(remark);
     const Exit checked = WayBack(database, line, console).Check(*project);
-    return std::max(checked, Deliver(target, *file, "recovered"_L1, console));
+    Ending ending = Deliver(target, *file, "recovered"_L1, console);
+    ending.exit = std::max(ending.exit, checked);
+    return ending;
+}
+
+Ending RecoverInput(const QString &input, const QString &target, const CommandLine &line,
+                    const Console &console)
+{
+    const Result<QByteArray> bytes = ReadInput(input, databaseLimit, console);
+    if (!bytes)
+        return Refuse(console, Exit::Unreadable, bytes.error());
+    const Result<PalmDatabase> database = ReadDatabase(*bytes);
+    if (!database)
+        return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
+    return Recover(*database, target, line, console);
 }
 
 } // namespace
@@ -92,15 +106,10 @@ Exit RecoverDatabase(const CommandLine &line, const Console &console)
     const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
-    const QString input = line.inputs.first();
-    const Result<QByteArray> bytes = ReadInput(input, databaseLimit, console);
-    if (!bytes)
-        return Refuse(console, Exit::Unreadable, bytes.error());
-    const Result<PalmDatabase> database = ReadDatabase(*bytes);
-    if (!database)
-        return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
     WorkFolder::RemoveLeft();
-    return Recover(*database, target, line, console);
+    return ForInput(line, console, [&](const QString &input) {
+        return RecoverInput(input, target, line, console);
+    });
 }
 
 } // namespace vellumo

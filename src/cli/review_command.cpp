@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-Exit Review(const QString &input, const CommandLine &line, const Console &console)
+Ending Review(const QString &input, const CommandLine &line, const Console &console)
 {
     Result<Project> project = ReadProjectInput(input, console);
     if (!project)
@@ -23,15 +23,10 @@ Exit Review(const QString &input, const CommandLine &line, const Console &consol
             notice.shown.prepend(notice.file + ": "_L1);
         console.Tell(notice);
     }
-    if (console.json) {
-        const bool passes = Passes(notices);
-        console.Tell({.kind = "result"_L1,
-                      .code = passes ? "passed"_L1 : "not-passed"_L1,
-                      .text = passes ? u"The project passes."_s : u"The project does not pass."_s,
-                      .file = InputName(input)});
-    }
-    const bool fine = std::ranges::all_of(notices, &Notice::advice);
-    return fine ? Exit::Fine : Exit::NotPassed;
+    const Exit exit = std::ranges::all_of(notices, &Notice::advice) ? Exit::Fine : Exit::NotPassed;
+    if (Passes(notices))
+        return {exit, "passed"_L1, u"The project passes."_s};
+    return {exit, "not-passed"_L1, u"The project does not pass."_s};
 }
 
 Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName)
@@ -41,6 +36,7 @@ Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName)
             .text = Describe(warning),
             .shown = Visible("warning: "_L1 + Describe(warning)),
             .file = inputName,
+            .step = StepOf(warning.place),
             .question = warning.place.question,
             .field = warning.place.field};
 }
@@ -57,6 +53,7 @@ std::vector<Notice> ReviewNotices(Project &project, const QString &inputName,
                            .text = entry.message,
                            .shown = ListText(entry),
                            .file = inputName,
+                           .step = entry.step,
                            .field = entry.field});
     // After the review, which takes the blanks off the texts that are judged here.
     for (const DeliveryWarning &warning : FindDeliveryWarnings(project))

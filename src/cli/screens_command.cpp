@@ -30,8 +30,8 @@ CheckedDatabase DatabaseIn(const QString &input, const CommandLine &line, const 
     return MakeCheckedDatabase(*project, InputName(input), line, console);
 }
 
-Exit AppendScreens(QList<DatabaseScreens> &all, const QString &input, const CommandLine &line,
-                   const Console &console)
+Ending AppendScreens(QList<DatabaseScreens> &all, const QString &input, const CommandLine &line,
+                     const Console &console)
 {
     const CheckedDatabase made = DatabaseIn(input, line, console);
     if (made.exit != Exit::Fine)
@@ -41,7 +41,8 @@ Exit AppendScreens(QList<DatabaseScreens> &all, const QString &input, const Comm
         return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
     all.append(ScreensOf(*database));
     ComplainOf(all.last().findings, InputName(input), console);
-    return all.last().findings.isEmpty() ? Exit::Fine : Exit::NotPassed;
+    return {all.last().findings.isEmpty() ? Exit::Fine : Exit::NotPassed, "drawn"_L1,
+            u"Its screens were drawn."_s};
 }
 
 } // namespace
@@ -58,7 +59,9 @@ Exit DrawScreens(const CommandLine &line, const Console &console)
     });
     if (all.isEmpty())
         return drawn;
-    return std::max(drawn, Deliver(target, ScreensPage(all), "screens"_L1, console));
+    const Ending ending = Deliver(target, ScreensPage(all), "screens"_L1, console);
+    Tell(ending, {}, console);
+    return std::max(drawn, ending.exit);
 }
 
 } // namespace vellumo

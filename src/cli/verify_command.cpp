@@ -18,24 +18,40 @@ Notice NoticeOf(const Finding &finding, const QString &inputName)
             .text = finding.text,
             .shown = Visible(finding.text),
             .file = inputName,
+            .step = StepOf(finding.place),
             .question = finding.place.question,
             .field = finding.place.field};
 }
 
-Exit TellFindings(const QList<Finding> &findings, const std::vector<Notice> &remarks,
-                  const QString &inputName, const Console &console)
+Ending TellFindings(const QList<Finding> &findings, const std::vector<Notice> &remarks,
+                    const QString &inputName, const Console &console)
 {
     for (const Finding &finding : findings)
         console.Tell(NoticeOf(finding, inputName));
     for (const Notice &remark : remarks)
         console.Tell(remark);
-    if (console.json)
-        console.Tell({.kind = "result"_L1,
-                      .code = findings.isEmpty() ? "verified"_L1 : "not-verified"_L1,
-                      .text = findings.isEmpty() ? u"The database is as it should be."_s
-                                                 : u"The database is not as it should be."_s,
-                      .file = inputName});
-    return findings.isEmpty() ? Exit::Fine : Exit::NotPassed;
+    if (findings.isEmpty())
+        return {Exit::Fine, "verified"_L1, u"The database is as it should be."_s};
+    return {Exit::NotPassed, "not-verified"_L1, u"The database is not as it should be."_s};
+}
+
+Ending Verify(const QString &input, const CommandLine &line, const Console &console)
+{
+    const Result<QByteArray> bytes = ReadInput(input, databaseLimit, console);
+    if (!bytes)
+        return Refuse(console, Exit::Unreadable, bytes.error());
+    const Result<PalmDatabase> database = ReadDatabase(*bytes);
+    if (!database)
+        return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
+    const std::vector<Notice> remarks = RemarkNotices(*database, InputName(input));
+    if (line.inputs.size() == 1)
+        return TellFindings(CheckSoundness(*database), remarks, InputName(input), console);
+
+    Result<Project> project = ReadProjectInput(line.inputs[1], console);
+    if (!project)
+        return Refuse(console, Exit::Unreadable, project.error());
+    ReviewProject(*project); // takes the blanks from the form information, as before a creation
+    return TellFindings(CheckDatabase(*database, *project), remarks, InputName(input), console);
 }
 
 } // namespace
@@ -75,22 +91,8 @@ bool Agrees(const QByteArray &database, const Project &project, const QString &i
 
 Exit VerifyDatabase(const CommandLine &line, const Console &console)
 {
-    const QString input = line.inputs.first();
-    const Result<QByteArray> bytes = ReadInput(input, databaseLimit, console);
-    if (!bytes)
-        return Refuse(console, Exit::Unreadable, bytes.error());
-    const Result<PalmDatabase> database = ReadDatabase(*bytes);
-    if (!database)
-        return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
-    const std::vector<Notice> remarks = RemarkNotices(*database, InputName(input));
-    if (line.inputs.size() == 1)
-        return TellFindings(CheckSoundness(*database), remarks, InputName(input), console);
-
-    Result<Project> project = ReadProjectInput(line.inputs[1], console);
-    if (!project)
-        return Refuse(console, Exit::Unreadable, project.error());
-    ReviewProject(*project); // takes the blanks from the form information, as before a creation
-    return TellFindings(CheckDatabase(*database, *project), remarks, InputName(input), console);
+    return ForInput(line, console,
+                    [&](const QString &input) { return Verify(input, line, console); });
 }
 
 } // namespace vellumo

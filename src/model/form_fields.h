@@ -17,24 +17,27 @@ struct FormFieldRow {
     QLatin1StringView element;     ///< in a project file
     QLatin1StringView name;        ///< to a user, in a sentence
     QLatin1StringView summaryName; ///< in a summary of the project; empty = it is left out
+    int step;                      ///< of the designer, in which it is entered
 };
 
 /// A row for each field, in the order of FormField.
 inline constexpr std::array<FormFieldRow, formFieldCount> formFields = {{
     {FormField::Name, &Project::FormName, QLatin1StringView("FormName"),
-     QLatin1StringView("form name"), QLatin1StringView("name")},
+     QLatin1StringView("form name"), QLatin1StringView("name"), 1},
     {FormField::Version, &Project::FormVersion, QLatin1StringView("FormVersion"),
-     QLatin1StringView("form version"), QLatin1StringView("version")},
+     QLatin1StringView("form version"), QLatin1StringView("version"), 1},
     {FormField::Description,
      &Project::Description,
      QLatin1StringView("Description"),
      QLatin1StringView("description"),
-     {}},
+     {},
+     1},
     {FormField::DataFolder,
      &Project::FormPath,
      QLatin1StringView("FormPath"),
      QLatin1StringView("data folder"),
-     {}},
+     {},
+     3},
 }};
 
 /// Whether some rows are one for each field, in the order of FormField. For static_assert: a table

@@ -14,7 +14,6 @@ namespace {
 
 /// A rule as the review applies it.
 struct ReviewRule {
-    int step;
     std::optional<FormField> field; ///< what is judged; none = the list of questions
     std::optional<FormField> leadsTo;
     QLatin1StringView code;
@@ -34,14 +33,14 @@ void ValidateQuestions(Project &project, bool &failed, QString &message)
 
 // By intention an entry on the description leads to the name.
 constexpr ReviewRule reviewRules[] = {
-    {1, FormField::Name, FormField::Name, QLatin1StringView("invalid-form-name"),
+    {FormField::Name, FormField::Name, QLatin1StringView("invalid-form-name"),
      Validate<FormField::Name, ValidateAppName>},
-    {1, FormField::Version, FormField::Version, QLatin1StringView("invalid-form-version"),
+    {FormField::Version, FormField::Version, QLatin1StringView("invalid-form-version"),
      Validate<FormField::Version, ValidateAppVersion>},
-    {1, FormField::Description, FormField::Name, QLatin1StringView("invalid-description"),
+    {FormField::Description, FormField::Name, QLatin1StringView("invalid-description"),
      Validate<FormField::Description, ValidateAppDesc>},
-    {2, std::nullopt, std::nullopt, QLatin1StringView("invalid-question-count"), ValidateQuestions},
-    {3, FormField::DataFolder, FormField::DataFolder, QLatin1StringView("invalid-data-folder"),
+    {std::nullopt, std::nullopt, QLatin1StringView("invalid-question-count"), ValidateQuestions},
+    {FormField::DataFolder, FormField::DataFolder, QLatin1StringView("invalid-data-folder"),
      Validate<FormField::DataFolder, ValidateAppDir>},
 };
 
@@ -53,6 +52,13 @@ static_assert(std::ranges::all_of(formFields,
                                                                  });
                                   }),
               "every field of the form information has a rule");
+
+/// The step of the designer that can mend what was judged.
+int StepOf(const ReviewRule &rule)
+{
+    constexpr int stepOfQuestions = 2;
+    return rule.field ? RowOf(*rule.field).step : stepOfQuestions;
+}
 
 /// What was judged, by its name to a user.
 QLatin1StringView NameOf(const ReviewRule &rule)
@@ -77,9 +83,10 @@ ReviewResult ReviewProject(Project &project)
     ReviewResult result;
     for (const ReviewRule &rule : reviewRules) {
         QString message;
-        rule.validate(project, result.stepFailed[static_cast<size_t>(rule.step - 1)], message);
+        rule.validate(project, result.stepFailed[static_cast<size_t>(StepOf(rule) - 1)], message);
         if (!message.isEmpty())
-            result.entries.push_back({rule.step, rule.code, NameOf(rule), message, rule.leadsTo});
+            result.entries.push_back(
+                {StepOf(rule), rule.code, NameOf(rule), message, rule.leadsTo});
     }
     return result;
 }
@@ -89,7 +96,7 @@ StepVerdict CheckStep(int step, Project &project)
     StepVerdict verdict;
     QStringList messages;
     for (const ReviewRule &rule : reviewRules) {
-        if (rule.step != step)
+        if (StepOf(rule) != step)
             continue;
         QString message;
         rule.validate(project, verdict.failed, message);

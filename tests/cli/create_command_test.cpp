@@ -104,9 +104,14 @@ TEST_F(CreateCommand, TellsAPersonHowFarItIs)
 TEST_F(CreateCommand, TellsProgramsInJson)
 {
     EXPECT_EQ(Create({nestbox, InFolder(u"none.vmp"_s), u"--json"_s}), 3);
-    ASSERT_EQ(Objects().size(), 2);
+    ASSERT_EQ(Objects().size(), 3);
     EXPECT_EQ(Objects()[0][u"code"_s], u"created"_s);
     EXPECT_EQ(Objects()[0][u"file"_s], InFolder(u"out/Nestbox.prc"_s));
+    EXPECT_EQ(Objects()[0][u"input"_s], nestbox);
+    EXPECT_EQ(Objects()[0][u"exit"_s], 0);
     EXPECT_EQ(Objects()[1][u"code"_s], u"unreadable"_s);
+    EXPECT_EQ(Objects()[2][u"code"_s], u"failed"_s);
+    EXPECT_EQ(Objects()[2][u"input"_s], InFolder(u"none.vmp"_s));
+    EXPECT_EQ(Objects()[2][u"exit"_s], 3);
     EXPECT_EQ(Err(), u""_s);
 }

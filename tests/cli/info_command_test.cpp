@@ -1,5 +1,7 @@
 #include "vellumo_run.h"
 
+#include "model/project_file.h"
+
 #include <QJsonArray>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +44,35 @@ TEST_F(InfoCommand, TellsProgramsInJson)
     EXPECT_EQ(info[u"titles"_s], QJsonArray{u"Finder"_s});
     EXPECT_EQ(info[u"columnNames"_s], QJsonArray{u"FINDER"_s});
     EXPECT_EQ(info[u"types"_s], QJsonArray{u"Text"_s});
+}
+
+TEST_F(InfoCommand, TellsProgramsAllTextsOfTheQuestions)
+{
+    const QString project = DataFile(u"projects/Nestbox.vmp"_s);
+    EXPECT_EQ(Run({u"info"_s, u"--json"_s, project}), 0);
+    const QJsonArray ofProject = Objects()[0][u"questionList"_s].toArray();
+    ASSERT_EQ(ofProject.size(), 6);
+    EXPECT_EQ(ofProject[1][u"number"_s], 2);
+    EXPECT_EQ(ofProject[1][u"type"_s], u"Pulldown List"_s);
+    EXPECT_EQ(ofProject[1][u"columnName"_s], u"SPECIES"_s);
+    EXPECT_EQ(ofProject[1][u"title"_s], u"Species"_s);
+    EXPECT_EQ(ofProject[1][u"question"_s],
+              LoadProject(project)->source.Questions().Rows()[1].Question);
+    EXPECT_EQ(ofProject[1][u"items"_s].toArray().size(), 5);
+    EXPECT_FALSE(ofProject[0].toObject().contains(u"items"_s)) << "a question without a list";
+
+    qputenv("PATH", PROGRAMS);
+    EXPECT_EQ(Run({u"create"_s, u"-o"_s, InFolder(u"a.prc"_s), project}), 0);
+    EXPECT_EQ(Run({u"info"_s, u"--json"_s, InFolder(u"a.prc"_s)}), 0);
+    EXPECT_EQ(Objects()[0][u"questionList"_s].toArray(), ofProject);
+}
+
+TEST_F(InfoCommand, TellsOfSeveralFilesOneAfterTheOther)
+{
+    const QString one = DataFile(u"palm/text.prc"_s), none = InFolder(u"none.vmp"_s);
+    EXPECT_EQ(Run({u"info"_s, one, none, one}), 3);
+    EXPECT_EQ(Out().count(u"file: %1\nformat: database\n"_s.arg(one)), 2);
+    EXPECT_TRUE(Err().startsWith(none + u": "_s));
 }
 
 TEST_F(InfoCommand, ReadsStandardInput)

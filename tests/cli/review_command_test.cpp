@@ -88,13 +88,20 @@ TEST_F(ReviewCommand, TellsProgramsInJson)
                            {u"code"_s, u"invalid-form-name"_s},
                            {u"field"_s, u"form name"_s},
                            {u"file"_s, path},
+                           {u"step"_s, 1},
                            {u"message"_s, u"Please enter a name for your Vellsheet."_s}}));
-    EXPECT_EQ(Objects()[1][u"code"_s], u"not-passed"_s);
+    EXPECT_EQ(Objects()[1], (QJsonObject{{u"kind"_s, u"result"_s},
+                                         {u"code"_s, u"not-passed"_s},
+                                         {u"file"_s, path},
+                                         {u"input"_s, path},
+                                         {u"exit"_s, 1},
+                                         {u"message"_s, u"The project does not pass."_s}}));
 
     const QString warned = Changed("<Item><![CDATA[Nevada]]>", "<Item><![CDATA[a,b]]>");
     EXPECT_EQ(Run({u"review"_s, u"--json"_s, warned}), 1);
     EXPECT_EQ(Objects()[0][u"kind"_s], u"warning"_s);
     EXPECT_EQ(Objects()[0][u"code"_s], u"comma-in-item"_s);
+    EXPECT_EQ(Objects()[0][u"step"_s], 2);
     EXPECT_EQ(Objects()[0][u"question"_s], 3);
     EXPECT_EQ(Objects()[0][u"field"_s], u"item"_s);
     EXPECT_EQ(Objects()[1][u"code"_s], u"passed"_s) << "warnings do not stand in the way";

@@ -25,7 +25,11 @@ protected:
         out.str({});
         err.str({});
         std::istringstream in(input.toStdString());
-        return RunVellumo(words, {.in = in, .out = out, .err = err, .showProgress = watched});
+        const int exit =
+            RunVellumo(words, {.in = in, .out = out, .err = err, .showProgress = watched});
+        if (words.contains(QStringLiteral("--json")))
+            KeepLines();
+        return exit;
     }
 
     /// The objects of an output in JSON, one a line.
@@ -47,6 +51,18 @@ protected:
     bool watched = false; ///< whether a person looks on
 
 private:
+    /// For the test that holds the objects of all tests against their description.
+    void KeepLines() const
+    {
+        const QString program = QCoreApplication::applicationFilePath();
+        static QFile file(QStringLiteral(JSON_LINES "/") + QFileInfo(program).fileName());
+        if (!file.isOpen()) {
+            ASSERT_TRUE(QDir().mkpath(QStringLiteral(JSON_LINES)));
+            ASSERT_TRUE(file.open(QFile::WriteOnly | QFile::Unbuffered));
+        }
+        file.write(QByteArray::fromStdString(out.str()));
+    }
+
     // The application folder is that of the running test, where no tool lies: PATH decides.
     char m_name[8] = "vellumo";
     char *m_arguments[2] = {m_name, nullptr};

@@ -191,7 +191,13 @@ TEST_F(Vellumo, RewriteRefusesWhatCouldNotBeReadAgain)
     EXPECT_EQ(Objects(), (QList<QJsonObject>{{{u"kind"_s, u"error"_s},
                                               {u"code"_s, u"not-written"_s},
                                               {u"file"_s, path},
-                                              {u"message"_s, reason}}}));
+                                              {u"message"_s, reason}},
+                                             {{u"kind"_s, u"result"_s},
+                                              {u"code"_s, u"failed"_s},
+                                              {u"file"_s, path},
+                                              {u"input"_s, path},
+                                              {u"exit"_s, 5},
+                                              {u"message"_s, u"It failed."_s}}}));
 }
 
 TEST_F(Vellumo, ReadsAndWritesStandardStreams)

@@ -106,6 +106,6 @@ TEST_F(VerifyCommand, RemarksOnABackupWithoutAFinding)
     EXPECT_EQ(Objects()[2][u"code"_s], u"verified"_s);
     EXPECT_EQ(Run({u"info"_s, u"--json"_s, database}), 0);
     ASSERT_EQ(Objects().size(), 3);
-    EXPECT_EQ(Objects()[0][u"code"_s], u"info"_s);
     EXPECT_EQ(Objects()[1][u"kind"_s], u"remark"_s);
+    EXPECT_EQ(Objects()[2][u"code"_s], u"info"_s);
 }

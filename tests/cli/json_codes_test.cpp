@@ -1,0 +1,95 @@
+#include "support/files.h"
+#include "support/print.h"
+
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString TextOf(const QString &path)
+{
+    return QString::fromUtf8(BytesOf(QStringLiteral(PROJECT "/") + path));
+}
+
+QSet<QString> Matches(const QString &text, const QString &expression)
+{
+    static const auto options = QRegularExpression::MultilineOption;
+    const QRegularExpression pattern(expression, options);
+    QSet<QString> found;
+    for (auto match = pattern.globalMatch(text); match.hasNext();)
+        found += match.next().captured(1);
+    return found;
+}
+
+QString Sources()
+{
+    QString text;
+    for (const QString &room : {u"cli"_s, u"handheld"_s, u"readback"_s, u"validation"_s}) {
+        QDirIterator files(QStringLiteral(PROJECT "/src/") + room, {u"*.cpp"_s, u"*.h"_s});
+        while (files.hasNext())
+            text += QString::fromUtf8(BytesOf(files.next()));
+    }
+    return text;
+}
+
+/// The codes of a section of the description: what stands in backticks in the first column of its
+/// tables, or in a list of its own.
+QSet<QString> Described(const QString &heading)
+{
+    const QString all = TextOf(u"docs/json.md"_s);
+    const qsizetype start = all.indexOf("\n## "_L1 + heading + u'\n');
+    EXPECT_GE(start, 0) << heading.toStdString();
+    QString codes;
+    for (const QString &line :
+         all.mid(start, all.indexOf("\n## "_L1, start + 1) - start).split(u'\n'))
+        if (line.startsWith("| `"_L1))
+            codes += line.section(u'|', 1, 1);
+        else if (line.startsWith(u'`'))
+            codes += line.section(u". "_s, 0, 0).section(u": "_s, 0, 0);
+    return Matches(codes, u"`([a-z-]+)`"_s);
+}
+
+QSet<QString> InSchema(const QString &definition)
+{
+    const QJsonObject schema =
+        QJsonDocument::fromJson(TextOf(u"docs/vellumo-output.schema.json"_s).toUtf8()).object();
+    QSet<QString> codes;
+    for (const QJsonValue &code :
+         schema[u"$defs"_s][definition][u"properties"_s][u"code"_s][u"enum"_s].toArray())
+        codes += code.toString();
+    EXPECT_FALSE(codes.isEmpty()) << definition.toStdString();
+    return codes;
+}
+
+TEST(JsonCodes, AreTheSameInDescriptionAndSchema)
+{
+    EXPECT_EQ(Described(u"Results"_s), InSchema(u"result"_s) | InSchema(u"info"_s));
+    EXPECT_EQ(Described(u"Findings"_s) | Described(u"Warnings"_s), InSchema(u"finding"_s));
+    EXPECT_EQ(Described(u"Warnings"_s), InSchema(u"warning"_s));
+    EXPECT_EQ(Described(u"Remarks"_s), InSchema(u"remark"_s));
+    EXPECT_EQ(Described(u"Errors"_s), InSchema(u"error"_s));
+}
+
+TEST(JsonCodes, AreThoseOfTheSources)
+{
+    QSet<QString> described;
+    for (const QString &heading :
+         {u"Results"_s, u"Findings"_s, u"Warnings"_s, u"Remarks"_s, u"Errors"_s})
+        described |= Described(heading);
+    const QString sources = Sources();
+    const QSet<QString> literals =
+        Matches(sources, u"(?:\"|QLatin1StringView\\(\")([a-z]+(?:-[a-z]+)*)\"(?:_L1|\\))"_s);
+    EXPECT_EQ(described - literals, QSet<QString>());
+    // Nothing but a code is written in this way.
+    EXPECT_EQ(Matches(sources, u"\"([a-z]+(?:-[a-z]+)+)\""_s) - described, QSet<QString>());
+}
+
+} // namespace
