@@ -1,5 +1,6 @@
 #include "cli/checked_database.h"
 
+#include "cli/build_in_process.h"
 #include "cli/review_command.h"
 #include "cli/verify_command.h"
 #include "palmgen/build_with_tools.h"
@@ -13,19 +14,35 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
+/// The programs that the line wants in place of this process, by the names of those that they are.
+QHash<QString, QString> ProgramsOf(const CommandLine &line)
+{
+    QHash<QString, QString> programs;
+    for (const auto &[option, name] :
+         {std::pair{Option::Compiler, u"pilrc"_s}, std::pair{Option::Builder, u"build-prc"_s}})
+        if (line.Has(option))
+            programs.insert(name, QFileInfo(line.Value(option)).absoluteFilePath());
+    return programs;
+}
+
 /// A private folder in place of application and projects folder, so that a creation runs from a
-/// read-only installation and many times at once.
+/// read-only installation and many times at once. Where one program is named, the other is looked
+/// for as the designer does.
 CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
 {
     const ToolLimits limits = {{ApplicationFolder()}, line.TimeoutSeconds()};
-    return {{.work = folder, .databases = folder + QDir::separator()},
-            BuildWithTools([limits](const ToolCall &call) { return RunAndWait(call, limits); })};
+    const auto run = [limits, programs = ProgramsOf(line)](ToolCall call) {
+        call.name = programs.value(call.name, call.name);
+        return RunAndWait(call, limits);
+    };
+    return {{.work = folder, .databases = folder + QDir::separator()}, BuildWithTools(run)};
 }
 
 /// What became of one project, told with the project's name in front.
@@ -39,18 +56,33 @@ public:
 
     CheckedDatabase Run()
     {
+        if (ProgramsOf(m_line).isEmpty())
+            return Make({{}, BuildInProcess}, {});
+        WorkFolder::RemoveLeft();
         const WorkFolder work;
         if (!work.state())
             return {Refuse(m_console, Exit::NotWritten, work.state().error())};
-        const CreateReport report = MakeDatabase(
-            m_project, PrivatePlace(work.path(), m_line),
-            m_line.Has(Option::Identifier) ? m_line.Value(Option::Identifier) : MakeIdentifier());
-        if (const Exit judged = Judge(report, work.path()); judged != Exit::Fine)
-            return {judged};
-        return ReadBack(report.database);
+        return Make(PrivatePlace(work.path(), m_line), work.path());
     }
 
 private:
+    CheckedDatabase Make(const CreatePlace &place, const QString &folder) const
+    {
+        const CreateReport report = MakeDatabase(
+            m_project, place,
+            m_line.Has(Option::Identifier) ? m_line.Value(Option::Identifier) : MakeIdentifier());
+        if (const Exit judged = Judge(report, folder); judged != Exit::Fine)
+            return {judged};
+        if (report.bytes)
+            return ReadBack(*report.bytes, report.database);
+        if (!QFileInfo::exists(report.database))
+            return {Fail(Exit::ToolFailed, u"the tools left no database"_s)};
+        const Result<QByteArray> bytes = ReadWholeFile(report.database, databaseLimit);
+        if (!bytes)
+            return {Fail(Exit::ToolFailed, bytes.error().text)};
+        return ReadBack(*bytes, report.database);
+    }
+
     Exit Fail(Exit exit, const QString &reason) const
     {
         return Refuse(m_console, exit, {reason, m_inputName});
@@ -75,16 +107,11 @@ private:
         return Exit::Fine;
     }
 
-    CheckedDatabase ReadBack(const QString &made) const
+    CheckedDatabase ReadBack(const QByteArray &bytes, const QString &path) const
     {
-        if (!QFileInfo::exists(made))
-            return {Fail(Exit::ToolFailed, u"the tools left no database"_s)};
-        const Result<QByteArray> bytes = ReadWholeFile(made, databaseLimit);
-        if (!bytes)
-            return {Fail(Exit::ToolFailed, bytes.error().text)};
-        if (!Agrees(*bytes, m_project, m_inputName, m_console))
+        if (!Agrees(bytes, m_project, m_inputName, m_console))
             return {Exit::ToolFailed};
-        return {Exit::Fine, *bytes, QFileInfo(made).fileName()};
+        return {Exit::Fine, bytes, QFileInfo(path).fileName()};
     }
 
     const Project &m_project;

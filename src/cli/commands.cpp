@@ -29,14 +29,14 @@ constexpr Command commands[] = {
      .shape = {.mostInputs = anyNumber, .whichInput = whichProject, .options = Option::Strict},
      .run = ReviewProjects},
     {.name = "create"_L1,
-     .synopsis = "PROJECT... [-o DIR|FILE.prc] [--guid HEX32] [--timeout SECONDS]\n"
-                 "[--strict]"_L1,
+     .synopsis = "PROJECT... [-o DIR|FILE.prc] [--guid HEX32] [--strict]\n"
+                 "[--pilrc PATH] [--build-prc PATH] [--timeout SECONDS]"_L1,
      .help = "Reviews each project, makes its database, reads that back and prints its\n"
              "path. DIR is \"My Vellumo\" in the documents folder unless given; it is made\n"
              "where its name ends in a slash. FILE.prc is for a single project.\n"_L1,
      .shape = {.mostInputs = anyNumber,
                .whichInput = whichProject,
-               .options = Option::Output | Option::Strict | Option::Identifier | Option::Timeout},
+               .options = Option::Output | Option::Strict | Option::Identifier | making},
      .run = CreateDatabases},
     {.name = "verify"_L1,
      .synopsis = "DATABASE [PROJECT]"_L1,
@@ -49,12 +49,13 @@ constexpr Command commands[] = {
      .shape = {.mostInputs = anyNumber, .whichInput = whichFile},
      .run = TellInfo},
     {.name = "screens"_L1,
-     .synopsis = "PROJECT|DATABASE... [-o FILE] [--timeout SECONDS]"_L1,
+     .synopsis = "PROJECT|DATABASE... [-o FILE]\n"
+                 "[--pilrc PATH] [--build-prc PATH] [--timeout SECONDS]"_L1,
      .help = "Draws every form as the handheld shows it, on a page of HTML to look at and\n"
              "to print, to standard output unless FILE is given.\n"_L1,
      .shape = {.mostInputs = anyNumber,
                .whichInput = whichFile,
-               .options = Option::Output | Option::Timeout},
+               .options = Option::Output | making},
      .run = DrawScreens},
     {.name = "script"_L1,
      .synopsis = "PROJECT [-o FILE] [--guid HEX32]"_L1,
@@ -70,12 +71,11 @@ constexpr Command commands[] = {
      .shape = {.mostInputs = 1, .whichInput = whichProject, .options = Option::Output},
      .run = RewriteProject},
     {.name = "recover"_L1,
-     .synopsis = "DATABASE [-o PROJECT] [--timeout SECONDS]"_L1,
+     .synopsis = "DATABASE [-o PROJECT]\n"
+                 "[--pilrc PATH] [--build-prc PATH] [--timeout SECONDS]"_L1,
      .help = "Writes the project that a database holds, to standard output unless PROJECT\n"
              "is given, and tells in what its database would be another one.\n"_L1,
-     .shape = {.mostInputs = 1,
-               .whichInput = whichDatabase,
-               .options = Option::Output | Option::Timeout},
+     .shape = {.mostInputs = 1, .whichInput = whichDatabase, .options = Option::Output | making},
      .run = RecoverDatabase},
 };
 

@@ -5,7 +5,6 @@
 #include "cli/reproducible.h"
 #include "platform/files.h"
 #include "platform/folders.h"
-#include "platform/work_folder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -89,7 +88,6 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
     if (!toFile && !(folder = DatabaseFolder(output)))
         return Refuse(console, Exit::NotWritten, folder.error());
 
-    WorkFolder::RemoveLeft();
     QHash<QString, QString> made;
     return ForEachInput(line, console, [&](const QString &input) -> Ending {
         const CheckedDatabase database = MakeOne(input, line, console);

@@ -24,6 +24,13 @@ Result<QString> CheckedIdentifier(const QString &identifier)
     return identifier.toUpper();
 }
 
+Result<QString> CheckedProgram(const QString &path)
+{
+    if (path.isEmpty())
+        return Error{u"A program's path is empty."_s};
+    return path;
+}
+
 Result<QString> CheckedTimeout(const QString &seconds)
 {
     const int number = seconds.toInt(); // 0 where it is no number
@@ -46,10 +53,20 @@ constexpr OptionRow rows[] = {
              "is made unless given. With it, or with SOURCE_DATE_EPOCH in\n"
              "the environment, the same project gives the same database"_L1,
      .check = CheckedIdentifier},
+    {.option = Option::Compiler,
+     .name = "pilrc"_L1,
+     .valueName = "PATH"_L1,
+     .help = "the program to compile with; vellumo does it itself otherwise"_L1,
+     .check = CheckedProgram},
+    {.option = Option::Builder,
+     .name = "build-prc"_L1,
+     .valueName = "PATH"_L1,
+     .help = "the program to build databases with, likewise"_L1,
+     .check = CheckedProgram},
     {.option = Option::Timeout,
      .name = "timeout"_L1,
      .valueName = "SECONDS"_L1,
-     .help = "how long each tool may take, 60 unless given"_L1,
+     .help = "how long such a program may take, 60 unless given"_L1,
      .check = CheckedTimeout},
     {.option = Option::Strict, .name = "strict"_L1, .help = "warnings count as findings"_L1},
     {.option = Option::Quiet,

@@ -12,13 +12,18 @@ namespace vellumo {
 enum class Option : unsigned {
     Output = 1U << 0U,
     Identifier = 1U << 1U,
-    Timeout = 1U << 2U,
-    Strict = 1U << 3U,
-    Quiet = 1U << 4U,
-    Json = 1U << 5U,
+    Compiler = 1U << 2U,
+    Builder = 1U << 3U,
+    Timeout = 1U << 4U,
+    Strict = 1U << 5U,
+    Quiet = 1U << 6U,
+    Json = 1U << 7U,
 };
 Q_DECLARE_FLAGS(Options, Option)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Options)
+
+/// Those that say how databases are made.
+constexpr Options making = Option::Compiler | Option::Builder | Option::Timeout;
 
 /// Those that every command takes.
 constexpr Options everywhere = Option::Quiet | Option::Json;

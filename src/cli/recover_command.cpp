@@ -7,7 +7,6 @@
 #include "cli/verify_command.h"
 #include "model/project_reader.h"
 #include "model/project_writer.h"
-#include "platform/work_folder.h"
 #include "readback/database_check.h"
 #include "readback/recovered_project.h"
 #include "readback/recreation_check.h"
@@ -106,7 +105,6 @@ Exit RecoverDatabase(const CommandLine &line, const Console &console)
     const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
-    WorkFolder::RemoveLeft();
     return ForInput(line, console, [&](const QString &input) {
         return RecoverInput(input, target, line, console);
     });

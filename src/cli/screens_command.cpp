@@ -5,7 +5,6 @@
 #include "cli/outputs.h"
 #include "cli/verify_command.h"
 #include "model/project_reader.h"
-#include "platform/work_folder.h"
 #include "screens/screens_page.h"
 
 #include <algorithm>
@@ -52,7 +51,6 @@ Exit DrawScreens(const CommandLine &line, const Console &console)
     const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
-    WorkFolder::RemoveLeft();
     QList<DatabaseScreens> all;
     const Exit drawn = ForEachInput(line, console, [&](const QString &input) {
         return AppendScreens(all, input, line, console);

@@ -33,8 +33,9 @@ CreateReport MakeDatabase(const Project &project, const CreatePlace &place,
                        {u"The form name '%1' is no file name"_s.arg(report.name)});
 
     const Script script = GenerateScript(project, IdentifierDigits(identifier));
-    const BuildReport built = place.build(script, report.name, place.folders);
+    BuildReport built = place.build(script, report.name, place.folders);
     report.runs = built.runs;
+    report.bytes = std::move(built.database);
     if (!built.outcome)
         return refused(CreateEnd::FileRefused, built.outcome.error());
     if (!script.outcome)

@@ -22,10 +22,11 @@ enum class CreateEnd {
 /// What a Create pass did.
 struct CreateReport {
     CreateEnd end = CreateEnd::BuildEnded;
-    Error error = {};         ///< why it came no further
-    QList<ToolRun> runs = {}; ///< empty when no tool was to run
-    QString name = {};        ///< of the database, without its folder and ending
-    QString database = {};    ///< the path of its file
+    Error error = {};                     ///< why it came no further
+    QList<ToolRun> runs = {};             ///< empty when no tool was to run
+    QString name = {};                    ///< of the database, without its folder and ending
+    QString database = {};                ///< the path of its file
+    std::optional<QByteArray> bytes = {}; ///< of it, where the build leaves no file
 };
 
 /// Makes the database of a project in the place: its name is the form name without the blanks at

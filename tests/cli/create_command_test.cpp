@@ -45,6 +45,8 @@ TEST_F(CreateCommand, TriesEveryProjectAndReturnsTheWorst)
 TEST_F(CreateCommand, RefusesToWorkInATemporaryFolderThatIsNotThere)
 {
     qputenv("TMPDIR", "/no/such/folder");
+    EXPECT_EQ(Create({nestbox}), 0) << "it works in none, unless there are tools";
+    UseTools("print fine", "print fine");
     EXPECT_EQ(Create({nestbox}), 5);
     EXPECT_EQ(Err(), u"/no/such/folder: There is no such folder for temporary files\n"_s);
 }
@@ -52,6 +54,8 @@ TEST_F(CreateCommand, RefusesToWorkInATemporaryFolderThatIsNotThere)
 TEST_F(CreateCommand, TakesAnEmptyNameOfATemporaryFolderForNone)
 {
     qputenv("TMPDIR", "");
+    m_tools =
+        QStringList{u"--pilrc"_s, PROGRAMS "/pilrc"_L1, u"--build-prc"_s, PROGRAMS "/build-prc"_L1};
     EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
 }
 

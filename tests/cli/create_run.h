@@ -6,13 +6,13 @@
 
 namespace vellumo {
 
-/// Tools are found along PATH: the real ones, unless a test puts others in their place.
+/// Databases are made without tools, unless a test puts some in place.
 class CreateCommand : public VellumoRun
 {
 protected:
     CreateCommand()
     {
-        qputenv("PATH", PROGRAMS);
+        qputenv("PATH", "/usr/bin:/bin");
         qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
         QDir(m_folder.path()).mkdir(QStringLiteral("out"));
         QDir(m_folder.path()).mkdir(QStringLiteral("tools"));
@@ -21,10 +21,11 @@ protected:
     // The folder goes away with the test, and the next one makes its own in the system's.
     ~CreateCommand() override { qputenv("TMPDIR", m_systemTemporary); }
 
-    /// Uses the named fake in place of both tools.
+    /// Uses fakes as both tools.
     void UseTools(const QByteArray &pilrc, const QByteArray &buildPrc)
     {
-        qputenv("PATH", QFile::encodeName(InFolder(QStringLiteral("tools"))) + ":/usr/bin:/bin");
+        m_tools = {QStringLiteral("--pilrc"), InFolder(QStringLiteral("tools/pilrc")),
+                   QStringLiteral("--build-prc"), InFolder(QStringLiteral("tools/build-prc"))};
         PutTool(QStringLiteral("pilrc"), pilrc);
         PutTool(QStringLiteral("build-prc"), buildPrc);
     }
@@ -54,7 +55,7 @@ protected:
     {
         return Run(QStringList{QStringLiteral("create"), QStringLiteral("-o"),
                                InFolder(QStringLiteral("out"))} +
-                   projects);
+                   m_tools + projects);
     }
 
     QStringList Made() const { return NamesIn(InFolder(QStringLiteral("out"))); }
@@ -62,6 +63,7 @@ protected:
 
     const QByteArray m_systemTemporary = qgetenv("TMPDIR");
     QTemporaryDir m_temporary;
+    QStringList m_tools; ///< the words that name them; none = they are not used
 };
 
 inline const QString siteVisit = DataFile(QStringLiteral("../../examples/SiteVisit.vmp"));

@@ -11,10 +11,38 @@ TEST_F(CreateCommand, AnEarlierDatabaseStaysUntilTheNewOneIsComplete)
     EXPECT_EQ(Create({nestbox}), 4);
     EXPECT_EQ(BytesOf(target), "earlier");
 
-    qputenv("PATH", PROGRAMS);
+    m_tools.clear();
     EXPECT_EQ(Create({nestbox}), 0);
     EXPECT_TRUE(BytesOf(target).startsWith("Nestbox\0"));
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
+}
+
+TEST_F(CreateCommand, NeedsNoTools)
+{
+    qputenv("PATH", "");
+    EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
+    EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
+}
+
+TEST_F(CreateCommand, MakesTheSameBytesWithAndWithoutTools)
+{
+    const QStringList identifier = {u"--guid"_s, QString(32, u'A')};
+    const QString target = InFolder(u"out/%1.prc"_s);
+    for (const QString &name : {u"SiteVisit"_s, u"ShelfAudit"_s, u"WaterPoint"_s}) {
+        const QStringList words =
+            QStringList{DataFile(u"../../examples/%1.vmp"_s.arg(name))} + identifier;
+        m_tools.clear();
+        ASSERT_EQ(Create(words), 0);
+        const QByteArray alone = BytesOf(target.arg(name));
+        for (const QStringList &tools : {QStringList{u"--pilrc"_s, PROGRAMS "/pilrc"_L1},
+                                         QStringList{u"--build-prc"_s, PROGRAMS "/build-prc"_L1}}) {
+            qputenv("PATH", PROGRAMS); // for the one that is not named
+            m_tools = tools;
+            ASSERT_TRUE(QFile::remove(target.arg(name)));
+            ASSERT_EQ(Create(words), 0) << Err().toStdString();
+            EXPECT_EQ(BytesOf(target.arg(name)), alone) << name.toStdString();
+        }
+    }
 }
 
 TEST_F(CreateCommand, ReportsAToolInItsOwnWords)
@@ -42,7 +70,7 @@ TEST_F(CreateCommand, ReportsAToolThatSaysNothing)
 
 TEST_F(CreateCommand, ReportsAToolThatIsMissing)
 {
-    qputenv("PATH", QFile::encodeName(InFolder(u"tools"_s)));
+    m_tools = QStringList{u"--pilrc"_s, InFolder(u"tools/pilrc"_s)};
     EXPECT_EQ(Create({nestbox}), 4);
     EXPECT_TRUE(Err().startsWith(nestbox + u": cannot start pilrc -ro -I "_s));
     EXPECT_TRUE(Err().contains(u"No such file or directory"));

@@ -88,8 +88,9 @@ TEST(JsonCodes, AreThoseOfTheSources)
     const QSet<QString> literals =
         Matches(sources, u"(?:\"|QLatin1StringView\\(\")([a-z]+(?:-[a-z]+)*)\"(?:_L1|\\))"_s);
     EXPECT_EQ(described - literals, QSet<QString>());
-    // Nothing but a code is written in this way.
-    EXPECT_EQ(Matches(sources, u"\"([a-z]+(?:-[a-z]+)+)\""_s) - described, QSet<QString>());
+    // Nothing but a code is written in this way, and the name of a tool.
+    EXPECT_EQ(Matches(sources, u"\"([a-z]+(?:-[a-z]+)+)\""_s) - described,
+              QSet<QString>{u"build-prc"_s});
 }
 
 } // namespace

@@ -19,7 +19,8 @@ protected:
     int Recover(const QByteArray &database)
     {
         WriteBytes(InFolder(u"given.prc"_s), database);
-        return Run({u"recover"_s, InFolder(u"given.prc"_s), u"-o"_s, Output()});
+        return Run(QStringList{u"recover"_s, InFolder(u"given.prc"_s), u"-o"_s, Output()} +
+                   m_tools);
     }
 
     /// A complaint about the given database as it stands on standard error.
@@ -181,7 +182,7 @@ TEST_F(RecoverCommand, TakesADatabaseThatComesFromAHandheld)
 
 TEST_F(RecoverCommand, WritesAProjectThatCannotBeTried)
 {
-    qputenv("PATH", "");
+    UseTools("complain broken fail 1", "print fine");
     EXPECT_EQ(Recover(Golden(u"text"_s)), 4);
     EXPECT_TRUE(ReadProject(BytesOf(Output())));
     UseBuilderThatLeaves(Golden(u"numeric"_s));

@@ -51,7 +51,8 @@ protected:
 
     void StartCreation(QProcess &process) const
     {
-        Start(process, {u"create"_s, siteVisit, u"-o"_s, InFolder(u"out"_s)});
+        Start(process, {u"create"_s, siteVisit, u"-o"_s, InFolder(u"out"_s), u"--pilrc"_s,
+                        InFolder(u"bin/pilrc"_s)});
     }
 
     /// Waits for the compiler to be at work.
@@ -140,8 +141,10 @@ TEST_F(Signals, WhatAKilledRunLeftTheNextOneRemoves)
     const QStringList ofLiving = LeftBehind();
     ASSERT_EQ(ofLiving.size(), 1) << "that of the killed one is gone";
 
-    ASSERT_TRUE(QFile::remove(InFolder(u"bin/pilrc"_s)));
-    qputenv("PATH", PROGRAMS ":" + qgetenv("PATH"));
+    for (const QString &tool : {u"pilrc"_s, u"build-prc"_s}) {
+        QFile::remove(InFolder(u"bin/"_s + tool));
+        ASSERT_TRUE(QFile::copy(PROGRAMS "/"_L1 + tool, InFolder(u"bin/"_s + tool)));
+    }
     QProcess next;
     StartCreation(next);
     ASSERT_TRUE(next.waitForFinished());

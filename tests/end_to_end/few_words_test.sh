@@ -34,14 +34,15 @@ ulimit -c 0
 
 if [ "$descriptors" = few-descriptors ]; then
     told 4 "$project: cannot start pilrc *: Too many open files" \
-        with_descriptors 9 "$vellumo" create -o "$work" "$project"
+        with_descriptors 9 "$vellumo" create --pilrc "${vellumo%/*}/pilrc" -o "$work" "$project"
     told 5 "$work/a.rcp: Too many open files" \
         with_descriptors 7 "$vellumo" script "$project" -o "$work/a.rcp"
 fi
 mkdir "$work/alone"
 cp "$vellumo" "$work/alone"
+told 0 '' env PATH=/usr/bin:/bin "$work/alone/vellumo" create -o "$work" "$project"
 told 4 "$project: cannot start pilrc *: No such file or directory" \
-    env PATH=/usr/bin:/bin "$work/alone/vellumo" create -o "$work" "$project"
+    env PATH=/usr/bin:/bin "$work/alone/vellumo" create --pilrc "$work/pilrc" -o "$work" "$project"
 for locale in C POSIX nowhere_NO.ISO-8859-1; do
     told 0 '' env LC_ALL="$locale" "$vellumo" review "$project"
 done
