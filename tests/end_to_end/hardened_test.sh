@@ -19,7 +19,7 @@ requires 'start as a program of varying addresses' -d '\(FLAGS_1\).* PIE( |$)'
 requires 'part that becomes read-only' -l '^ *GNU_RELRO '
 requires 'binding at the start' -d '\(FLAGS(_1)?\).* (BIND_)?NOW( |$)'
 requires 'guard of the stack' --dyn-syms ' __stack_chk_fail(@|$)'
-requires 'assertions of the library' --dyn-syms ' _ZSt21__glibcxx_assert_fail'
+requires 'assertions of the library' --syms ' _ZSt21__glibcxx_assert_fail'
 if [ "${2:-}" = checked ]; then
     requires 'checked functions of the library' --dyn-syms ' __[a-z]+_chk(@|$)'
 fi
