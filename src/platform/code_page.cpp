@@ -41,11 +41,16 @@ QString FromWindows1252(QByteArrayView bytes)
 
 qsizetype AppendWindows1252(QByteArray &bytes, QStringView text)
 {
+    const qsizetype start = bytes.size();
+    bytes.resize(start + text.size());
+    char *const to = bytes.data() + start; // append() would look each time whether there is room
     for (qsizetype i = 0; i < text.size(); ++i) {
         const int byte = ByteOf(text[i].unicode());
-        if (byte < 0)
+        if (byte < 0) {
+            bytes.truncate(start + i);
             return i;
-        bytes.append(static_cast<char>(byte));
+        }
+        to[i] = static_cast<char>(byte);
     }
     return -1;
 }
