@@ -56,11 +56,11 @@ Ending PutInPlace(const QByteArray &database, const QString &target, const QStri
 
 CheckedDatabase MakeOne(const QString &input, const CommandLine &line, const Console &console)
 {
-    Fingerprint fingerprint;
-    Result<Project> project = ReadProjectInput(input, console, &fingerprint);
+    QByteArray bytes;
+    Result<Project> project = ReadProjectInput(input, console, &bytes);
     if (!project)
         return {Refuse(console, Exit::Unreadable, project.error())};
-    const auto reproduction = ReproductionOf(fingerprint, line);
+    const auto reproduction = ReproductionOf(bytes, line);
     if (!reproduction)
         return {Refuse(console, Exit::WrongUse, {reproduction.error().text, u"vellumo"_s})};
     if (!*reproduction)

@@ -46,13 +46,13 @@ bool LooksLikeDatabase(const QByteArray &bytes)
 }
 
 Result<Project> ReadProjectInput(const QString &name, const Console &console,
-                                 Fingerprint *fingerprint)
+                                 QByteArray *bytesOfInput)
 {
     const Result<QByteArray> bytes = ReadInput(name, projectLimit, console);
     if (!bytes)
         return bytes.error();
-    if (fingerprint)
-        *fingerprint = FingerprintOf(*bytes);
+    if (bytesOfInput)
+        *bytesOfInput = *bytes;
     Result<Project> project = ReadProject(*bytes);
     if (!project)
         return Error{project.error().text, InputName(name), project.error().line};

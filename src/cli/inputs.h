@@ -18,9 +18,9 @@ extern const FileLimit eitherLimit;
 /// Whether bytes that are a project or a database are rather the latter.
 bool LooksLikeDatabase(const QByteArray &bytes);
 
-/// The project in an input, and the fingerprint of its bytes where it is asked for.
+/// The project in an input, and its bytes where they are asked for.
 Result<Project> ReadProjectInput(const QString &name, const Console &console,
-                                 Fingerprint *fingerprint = nullptr);
+                                 QByteArray *bytesOfInput = nullptr);
 
 /// An input's name as messages have it.
 QString InputName(const QString &name);

@@ -15,9 +15,14 @@ constexpr qint64 latest = std::numeric_limits<quint32>::max() - from1904To1970;
 constexpr qint64 first2000 = 946684800;
 constexpr auto epochName = "SOURCE_DATE_EPOCH";
 
+QString IdentifierFrom(const QByteArray &project)
+{
+    return QString::fromLatin1(FingerprintOf(project).toHex().first(32)).toUpper();
+}
+
 } // namespace
 
-Result<std::optional<Reproduction>> ReproductionOf(const Fingerprint &fingerprint,
+Result<std::optional<Reproduction>> ReproductionOf(const QByteArray &project,
                                                    const CommandLine &line)
 {
     const QByteArray epoch = qgetenv(epochName);
@@ -27,8 +32,9 @@ Result<std::optional<Reproduction>> ReproductionOf(const Fingerprint &fingerprin
     const qint64 seconds = epoch.isEmpty() ? first2000 : epoch.toLongLong(&isNumber);
     if (!isNumber || seconds < 0 || seconds > latest)
         return Error{u"SOURCE_DATE_EPOCH must be 0 to %1 seconds."_s.arg(latest)};
-    const QString derived = QString::fromLatin1(fingerprint.toHex().first(32)).toUpper();
-    return std::optional(Reproduction{line.Value(Option::Identifier, derived), seconds});
+    return std::optional(Reproduction{line.Has(Option::Identifier) ? line.Value(Option::Identifier)
+                                                                   : IdentifierFrom(project),
+                                      seconds});
 }
 
 void SetTimes(QByteArray &database, qint64 secondsSince1970)

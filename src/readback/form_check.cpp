@@ -24,12 +24,11 @@ public:
         AddToForm("form-header"_L1, HeaderDifferences(found, expected));
         const qsizetype count = std::max(found.objects.size(), expected.objects.size());
         for (qsizetype i = 0; i < count; ++i) {
-            const QString is = DescribeAt(found, i);
-            const QString shouldBe = DescribeAt(expected, i);
-            if (is != shouldBe) {
+            if (!AreAlike(found, expected, i)) {
                 // One object too many or too few would make all that follow differ.
                 AddToForm("form-objects"_L1, {u"object %1 is %2 instead of %3"_s.arg(
-                                                 QString::number(i + 1), is, shouldBe)});
+                                                 QString::number(i + 1), DescribeAt(found, i),
+                                                 DescribeAt(expected, i))});
                 return;
             }
             Compare(found.objects[i], expected.objects[i]);
@@ -37,6 +36,12 @@ public:
     }
 
 private:
+    static bool AreAlike(const Form &found, const Form &expected, qsizetype index)
+    {
+        return index < found.objects.size() && index < expected.objects.size() &&
+               vellumo::AreAlike(found.objects[index], expected.objects[index]);
+    }
+
     static QString DescribeAt(const Form &form, qsizetype index)
     {
         return index < form.objects.size() ? Describe(form.objects[index]) : u"nothing"_s;

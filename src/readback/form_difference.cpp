@@ -25,7 +25,7 @@ constexpr NamedNumber<Form> formNumbers[] = {
     {"flag word"_L1, &Form::flags, Base::Hexadecimal},
 };
 
-// The kind, number and style of an object are its description, which has been compared before.
+// Without what makes objects alike.
 constexpr NamedNumber<FormObject> objectNumbers[] = {
     {"left edge"_L1, &FormObject::x},
     {"top edge"_L1, &FormObject::y},
@@ -49,15 +49,25 @@ QString ShownNumber(quint32 number, Base base)
                                  : u"0x%1"_s.arg(number, 4, 16, QChar(u'0'));
 }
 
+QString Owner(const Form &)
+{
+    return u"the form"_s;
+}
+
+QString Owner(const FormObject &object)
+{
+    return Describe(object);
+}
+
 template <typename T>
-QStringList Differences(const T &found, const T &expected, std::span<const NamedNumber<T>> numbers,
-                        const QString &owner)
+QStringList Differences(const T &found, const T &expected, std::span<const NamedNumber<T>> numbers)
 {
     QStringList differences;
     for (const auto &[name, value, base] : numbers) {
         if (found.*value != expected.*value)
             differences += u"the %1 of %2 is %3 instead of %4"_s.arg(
-                name, owner, ShownNumber(found.*value, base), ShownNumber(expected.*value, base));
+                name, Owner(found), ShownNumber(found.*value, base),
+                ShownNumber(expected.*value, base));
     }
     return differences;
 }
@@ -66,7 +76,13 @@ QStringList Differences(const T &found, const T &expected, std::span<const Named
 
 QStringList HeaderDifferences(const Form &found, const Form &expected)
 {
-    return Differences<Form>(found, expected, formNumbers, u"the form"_s);
+    return Differences<Form>(found, expected, formNumbers);
+}
+
+bool AreAlike(const FormObject &found, const FormObject &expected)
+{
+    return found.kind == expected.kind && found.number == expected.number &&
+           (found.kind != ObjectKind::Control || found.style == expected.style);
 }
 
 QStringList ObjectDifferences(const FormObject &found, const FormObject &expected)
@@ -75,10 +91,9 @@ QStringList ObjectDifferences(const FormObject &found, const FormObject &expecte
     // A list is as wide as its widest item: with other items, which are told, it is another width.
     if (found.items != expected.items)
         allowed.width = found.width;
-    const QString owner = Describe(found);
-    QStringList differences = Differences<FormObject>(found, allowed, objectNumbers, owner);
+    QStringList differences = Differences<FormObject>(found, allowed, objectNumbers);
     if (found.columnWidths != expected.columnWidths)
-        differences += u"the columns of %1 differ"_s.arg(owner);
+        differences += u"the columns of %1 differ"_s.arg(Describe(found));
     return differences;
 }
 

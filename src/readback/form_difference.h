@@ -10,7 +10,10 @@ namespace vellumo {
 /// of 160".
 QStringList HeaderDifferences(const Form &found, const Form &expected);
 
-/// Likewise for two objects of the same kind, number and style, but for their texts and items. The
+/// Whether two objects are of the same kind, number and style: that is what describes them.
+bool AreAlike(const FormObject &found, const FormObject &expected);
+
+/// As HeaderDifferences for two objects that are alike, but for their texts and items. The
 /// width of a list counts only where its items are those that are expected.
 QStringList ObjectDifferences(const FormObject &found, const FormObject &expected);
 
