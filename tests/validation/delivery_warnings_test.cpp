@@ -103,7 +103,7 @@ TEST(DeliveryWarnings, LetALineBreakBeTypedIntoAQuestion)
     } rows[] = {
         {u"a\\nb"_s, none},          {u"\\n"_s, none},           {u"a\\nb\\n\\nc"_s, none},
         {u"a\\\\nb"_s, backslash},   {u"a\\nb\\"_s, backslash},  {u"a\\Nb"_s, backslash},
-        {u"a\\nb\\tc"_s, backslash}, {u"\\tb\\nc"_s, backslash},
+        {u"a\\nb\\tc"_s, backslash}, {u"\\tb\\nc"_s, backslash}, {u"\\n\\tc"_s, backslash},
     };
     const auto codesOf = [](const Project &project) {
         QStringList found;
