@@ -1,6 +1,7 @@
 #include "editing/clipboard_texts.h"
 
 #include "editing/pasted_items.h"
+#include "editing/question_columns.h"
 #include "editing/text_table.h"
 #include "model/question_types.h"
 
@@ -14,51 +15,39 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-enum Column { Title, Text, Type, Name, Items, columnCount };
-
-constexpr QLatin1StringView captions[columnCount] = {"Title"_L1, "Question"_L1, "Type"_L1,
-                                                     "Column Name"_L1, "Items"_L1};
-
-/// Which cell of a row has what; -1 = none has.
-using Places = std::array<qsizetype, columnCount>;
+/// Which cell of a row has what, by column; -1 = none has.
+using Places = std::array<qsizetype, questionColumns.size()>;
 constexpr Places placesWithoutHeading = {0, 1, 2, 3, 4};
 
-bool SameName(QStringView text, QLatin1StringView name)
+qsizetype PlaceOf(QuestionColumn column, const Places &places)
 {
-    return text.trimmed().compare(name, Qt::CaseInsensitive) == 0;
+    return places[static_cast<size_t>(column)];
 }
 
 /// A row that names the questions and something else about them is a heading.
 std::optional<Places> PlacesOfHeading(const QStringList &cells)
 {
     Places places;
-    for (size_t column = 0; column < columnCount; ++column) {
+    for (const QuestionColumn column : questionColumns) {
         const auto found = std::ranges::find_if(
-            cells, [&](const QString &cell) { return SameName(cell, captions[column]); });
-        places[column] = found == cells.end() ? -1 : found - cells.begin();
+            cells, [&](const QString &cell) { return HasName(cell, CaptionOf(column)); });
+        places[static_cast<size_t>(column)] = found == cells.end() ? -1 : found - cells.begin();
     }
     const auto named = std::ranges::count_if(places, [](qsizetype place) { return place >= 0; });
-    return places[Text] >= 0 && named > 1 ? std::optional(places) : std::nullopt;
-}
-
-/// The name as the program has it; another one stays as it is.
-QString TypeCalled(const QString &name)
-{
-    for (const QuestionType &type : questionTypes)
-        if (SameName(name, type.name))
-            return type.name;
-    return name;
+    return PlaceOf(QuestionColumn::Text, places) >= 0 && named > 1 ? std::optional(places)
+                                                                   : std::nullopt;
 }
 
 CopiedQuestion QuestionOf(const QStringList &cells, const Places &places)
 {
-    const auto cell = [&](Column column) { return cells.value(places[column]); };
+    using enum QuestionColumn;
+    const auto cell = [&](QuestionColumn column) { return cells.value(PlaceOf(column, places)); };
     CopiedQuestion copied;
     Question &question = copied.question;
     question = {.title = OneLine(cell(Title)),
                 .question = cell(Text),
                 .type = TypeCalled(OneLine(cell(Type))),
-                .columnName = OneLine(cell(Name))};
+                .columnName = OneLine(cell(ColumnName))};
     if (!HasItems(question.type))
         return copied;
     QStringList lines;
@@ -100,7 +89,9 @@ QStringList LinesOf(QStringView text)
 
 QString WriteQuestionTable(const QList<Question> &questions)
 {
-    QList<QStringList> rows = {{captions, captions + columnCount}};
+    QList<QStringList> rows = {{}};
+    for (const QuestionColumn column : questionColumns)
+        rows.first() += CaptionOf(column);
     for (const Question &question : questions)
         rows.append({question.title, question.question, question.type, question.columnName,
                      question.items.join(u'|')});

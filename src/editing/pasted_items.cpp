@@ -16,13 +16,6 @@ QString ObjectionToPasted(const QString &text)
     return CountryNames().contains(text) ? QString() : ObjectionToItem(text);
 }
 
-/// Appends one item; gives why it is refused.
-QString Put(ItemList &items, const QString &line)
-{
-    const QString objection = ObjectionToPasted(line);
-    return objection.isEmpty() ? items.Add(line) : objection;
-}
-
 QString Shortened(const QString &text)
 {
     constexpr qsizetype most = 40;
@@ -47,6 +40,12 @@ QString Refusals::Text() const
            (others > 0 ? u"\nand %1 more."_s.arg(others) : QString());
 }
 
+QString PutItem(ItemList &items, const QString &line)
+{
+    const QString objection = ObjectionToPasted(line);
+    return objection.isEmpty() ? items.Add(line) : objection;
+}
+
 QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
                    const QStringList &lines)
 {
@@ -54,7 +53,7 @@ QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
     for (const QString &line : lines) {
         QString refusal = items.RefusalToAdd(host, type);
         if (refusal.isEmpty())
-            refusal = Put(items, line);
+            refusal = PutItem(items, line);
         if (!refusal.isEmpty())
             refusals.Add(u'"' + Shortened(line) + u'"', refusal);
     }
@@ -68,7 +67,7 @@ QString PutItems(QStringList &items, const QStringList &lines)
     QString refusal;
     // One more than a list can have is enough for its rule.
     for (const QString &line : lines.first(std::min(lines.size(), pulldownLimit.most + 1)))
-        if (refusal = Put(list, line); !refusal.isEmpty())
+        if (refusal = PutItem(list, line); !refusal.isEmpty())
             break;
     items = list.Items();
     return refusal;

@@ -17,8 +17,12 @@ private:
     qsizetype m_count = 0;
 };
 
-/// Appends the lines to the list as items, one after the other by the rules of adding. A built-in
-/// name may be longer than others. Gives what is refused, ready to show; empty = nothing was.
+/// Appends one item by the rules of adding; a built-in name may be longer than others. Gives why it
+/// is refused; empty = it was not. An empty one adds nothing.
+QString PutItem(ItemList &items, const QString &line);
+
+/// Appends the lines to the list as items, one after the other by the rules of adding. Gives
+/// what is refused, ready to show; empty = nothing was.
 QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
                    const QStringList &lines);
 

@@ -1,11 +1,10 @@
 #include "editing/pasted_questions.h"
 
+#include "editing/added_question.h"
 #include "editing/pasted_items.h"
 #include "editing/question_list.h"
 #include "editing/wizard_rules.h"
 #include "model/limits.h"
-#include "model/question_types.h"
-#include "model/texts.h"
 
 #include <algorithm>
 
@@ -14,27 +13,11 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// Gives the question a name that is free; why there is none, or empty.
-QString Rename(Question &question, const clsDataSource &source)
-{
-    const QString name = TrimBlanks(question.columnName).toString();
-    if (!source.ColumnNameExists(name))
-        return {};
-    question.columnName = FreeColumnName(source, name);
-    return question.columnName.isEmpty() ? nameTooLongToCopy : QString();
-}
-
-/// What the wizard would say on its way through the steps.
+/// What the wizard would say first on its way through the steps.
 QString Objection(Question &question, const clsDataSource &source)
 {
-    if (!question.type.isEmpty() && !TypeNamed(question.type))
-        return u"There is no question type of this name."_s;
-    QString objection = Rename(question, source);
-    for (int step = 1; step <= 4 && objection.isEmpty(); ++step)
-        objection = ObjectionToNext(step, question, source);
-    if (objection.isEmpty() && HasItems(question.type))
-        objection = ObjectionToFinish(5, question);
-    return objection;
+    const auto objections = ObjectionsToAdding(question, source, TakenName::Rename);
+    return objections.isEmpty() ? QString() : objections.first().reason;
 }
 
 QString NoPlace(int left)
