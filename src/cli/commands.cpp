@@ -1,7 +1,10 @@
 #include "cli/commands.h"
 
 #include "cli/create_command.h"
+#include "cli/export_command.h"
+#include "cli/import_command.h"
 #include "cli/info_command.h"
+#include "cli/items_command.h"
 #include "cli/project_commands.h"
 #include "cli/recover_command.h"
 #include "cli/review_command.h"
@@ -19,6 +22,7 @@ namespace {
 constexpr int anyNumber = std::numeric_limits<int>::max();
 constexpr auto whichProject = "Which project? Please name a .vmp file."_L1;
 constexpr auto whichDatabase = "Which database? Please name a .prc file."_L1;
+constexpr auto whichSheet = "Which sheet? Please name a .csv file."_L1;
 constexpr auto whichFile = "Which file? Please name a .vmp or .prc file."_L1;
 
 constexpr Command commands[] = {
@@ -77,6 +81,28 @@ constexpr Command commands[] = {
              "is given, and tells in what its database would be another one.\n"_L1,
      .shape = {.mostInputs = 1, .whichInput = whichDatabase, .options = Option::Output | making},
      .run = RecoverDatabase},
+    {.name = "export"_L1,
+     .synopsis = "PROJECT --csv [-o FILE]"_L1,
+     .help = "Writes a project as a table for spreadsheets, to standard output unless FILE\n"
+             "is given.\n"_L1,
+     .shape = {.whichInput = whichProject, .options = Option::Csv | Option::Output},
+     .run = ExportProject},
+    {.name = "import"_L1,
+     .synopsis = "FILE.csv [--into PROJECT] [--skip] [-o PROJECT]"_L1,
+     .help = "Makes a project of such a table, to standard output unless PROJECT is given,\n"
+             "or appends its questions to a project, in its place unless -o is given.\n"
+             "Nothing is written where a cell breaks a rule.\n"_L1,
+     .shape = {.whichInput = whichSheet, .options = Option::Into | Option::Skip | Option::Output},
+     .run = ImportProject},
+    {.name = "items"_L1,
+     .synopsis = "PROJECT --question N|COLUMN --from FILE [--column NAME] [--append]\n"
+                 "[--sort] [--skip] [-o PROJECT]"_L1,
+     .help = "Gives a question the items that a file has, and writes the project in its\n"
+             "place unless -o is given. Nothing is written where an item breaks a rule.\n"_L1,
+     .shape = {.whichInput = whichProject,
+               .options = Option::Question | Option::From | Option::Column | Option::Append |
+                          Option::Sort | Option::Skip | Option::Output},
+     .run = SetItems},
 };
 
 constexpr QLatin1StringView head =
@@ -88,9 +114,9 @@ constexpr QLatin1StringView tail = R"(  vellumo help [COMMAND] | --help | --vers
 
 constexpr QLatin1StringView exits =
     R"(Exit status: 0 fine; 1 findings, or the project does not pass; 2 wrong use; 3 an
-input is unreadable or no project or database; 4 a tool is missing or failed; 5 an
-output could not be written. Of several projects each is tried, and the highest
-status is returned.
+input is unreadable or no project, database or sheet; 4 a tool is missing or
+failed; 5 an output could not be written. Of several projects each is tried, and
+the highest status is returned.
 )"_L1;
 
 /// Each line of the text with six blanks in front.

@@ -59,6 +59,14 @@ Result<Project> ReadProjectInput(const QString &name, const Console &console,
     return project;
 }
 
+bool RefusedAsSecond(const QString &first, const QString &second, const Console &console)
+{
+    if (!IsStream(first) || !IsStream(second))
+        return false;
+    Refuse(console, Exit::WrongUse, {u"Standard input, '-', can be read once only."_s});
+    return true;
+}
+
 QString InputName(const QString &name)
 {
     return IsStream(name) ? u"standard input"_s : name;

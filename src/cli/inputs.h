@@ -22,6 +22,10 @@ bool LooksLikeDatabase(const QByteArray &bytes);
 Result<Project> ReadProjectInput(const QString &name, const Console &console,
                                  QByteArray *bytesOfInput = nullptr);
 
+/// Complains where a second input is standard input like the first, which can be read once only.
+/// Whether it was.
+bool RefusedAsSecond(const QString &first, const QString &second, const Console &console);
+
 /// An input's name as messages have it.
 QString InputName(const QString &name);
 

@@ -16,6 +16,13 @@ Result<QString> CheckedOutput(const QString &name)
     return name;
 }
 
+Result<QString> CheckedName(const QString &name)
+{
+    if (name.isEmpty())
+        return Error{u"The name after an option is empty."_s};
+    return name;
+}
+
 Result<QString> CheckedIdentifier(const QString &identifier)
 {
     static const QRegularExpression digits(uR"(\A[0-9A-F]{32}\z)"_s);
@@ -68,6 +75,34 @@ constexpr OptionRow rows[] = {
      .valueName = "SECONDS"_L1,
      .help = "how long such a program may take, 60 unless given"_L1,
      .check = CheckedTimeout},
+    {.option = Option::Csv,
+     .name = "csv"_L1,
+     .help = "as a table for spreadsheets (docs/csv.md)"_L1},
+    {.option = Option::Into,
+     .name = "into"_L1,
+     .valueName = "PROJECT"_L1,
+     .help = "the project to append the questions to"_L1,
+     .check = CheckedName},
+    {.option = Option::Question,
+     .name = "question"_L1,
+     .valueName = "N"_L1,
+     .help = "the question, by its place from 1 or its column name"_L1,
+     .check = CheckedName},
+    {.option = Option::From,
+     .name = "from"_L1,
+     .valueName = "FILE"_L1,
+     .help = "a text with an item on each line, or a table: FILE.csv"_L1,
+     .check = CheckedName},
+    {.option = Option::Column,
+     .name = "column"_L1,
+     .valueName = "NAME"_L1,
+     .help = "the column of the table that has the items"_L1,
+     .check = CheckedName},
+    {.option = Option::Append, .name = "append"_L1, .help = "keep the items that are there"_L1},
+    {.option = Option::Sort, .name = "sort"_L1, .help = "sort the items"_L1},
+    {.option = Option::Skip,
+     .name = "skip"_L1,
+     .help = "leave out what is refused and write the rest"_L1},
     {.option = Option::Strict, .name = "strict"_L1, .help = "warnings count as findings"_L1},
     {.option = Option::Quiet,
      .name = "quiet"_L1,

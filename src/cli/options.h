@@ -18,6 +18,14 @@ enum class Option : unsigned {
     Strict = 1U << 5U,
     Quiet = 1U << 6U,
     Json = 1U << 7U,
+    Csv = 1U << 8U,
+    Into = 1U << 9U,
+    Skip = 1U << 10U,
+    Question = 1U << 11U,
+    From = 1U << 12U,
+    Column = 1U << 13U,
+    Append = 1U << 14U,
+    Sort = 1U << 15U,
 };
 Q_DECLARE_FLAGS(Options, Option)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Options)

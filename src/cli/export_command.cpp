@@ -1,0 +1,26 @@
+#include "cli/export_command.h"
+
+#include "cli/inputs.h"
+#include "cli/outputs.h"
+#include "exchange/sheet_writer.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+
+Exit ExportProject(const CommandLine &line, const Console &console)
+{
+    if (!line.Has(Option::Csv))
+        return Refuse(console, Exit::WrongUse, {u"Export as what? Please say --csv."_s});
+    const QString target = line.Value(Option::Output, u"-"_s);
+    if (console.json && target == "-"_L1)
+        return RefuseMixture(console);
+    return ForInput(line, console, [&](const QString &input) -> Ending {
+        const Result<Project> project = ReadProjectInput(input, console);
+        if (!project)
+            return Refuse(console, Exit::Unreadable, project.error());
+        return Deliver(target, WriteSheet(*project), "exported"_L1, console);
+    });
+}
+
+} // namespace vellumo
