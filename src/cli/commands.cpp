@@ -1,10 +1,14 @@
 #include "cli/commands.h"
 
+#include "cli/columns_command.h"
 #include "cli/create_command.h"
+#include "cli/diff_command.h"
 #include "cli/export_command.h"
 #include "cli/import_command.h"
 #include "cli/info_command.h"
 #include "cli/items_command.h"
+#include "cli/merge_command.h"
+#include "cli/new_command.h"
 #include "cli/project_commands.h"
 #include "cli/recover_command.h"
 #include "cli/review_command.h"
@@ -21,6 +25,7 @@ namespace {
 
 constexpr int anyNumber = std::numeric_limits<int>::max();
 constexpr auto whichProject = "Which project? Please name a .vmp file."_L1;
+constexpr auto whichProjects = "Which projects? Please name two .vmp files."_L1;
 constexpr auto whichDatabase = "Which database? Please name a .prc file."_L1;
 constexpr auto whichSheet = "Which sheet? Please name a .csv file."_L1;
 constexpr auto whichFile = "Which file? Please name a .vmp or .prc file."_L1;
@@ -103,6 +108,38 @@ constexpr Command commands[] = {
                .options = Option::Question | Option::From | Option::Column | Option::Append |
                           Option::Sort | Option::Skip | Option::Output},
      .run = SetItems},
+    {.name = "columns"_L1,
+     .synopsis = "PROJECT... [--csv | --markdown]"_L1,
+     .help = "Tells of each question what its column in the collected data holds.\n"_L1,
+     .shape = {.mostInputs = anyNumber,
+               .whichInput = whichProject,
+               .options = Option::Csv | Option::Markdown},
+     .run = TellColumns},
+    {.name = "diff"_L1,
+     .synopsis = "BEFORE AFTER | --git NAMES..."_L1,
+     .help = "Tells in what a project differs from what it was: form information, then\n"
+             "question by question. The exit status is that of diff: 0 where there is no\n"
+             "difference, 1 where there is one, 2 for any trouble; for git it is 0.\n"_L1,
+     .shape = {.mostInputs = 9, .whichInput = whichProjects, .options = Option::Git},
+     .run = TellDifferences},
+    {.name = "merge"_L1,
+     .synopsis = "PROJECT PROJECT... [-o FILE]"_L1,
+     .help = "Writes the first project with the questions of the others behind its own, to\n"
+             "standard output unless FILE is given. A column name that is taken gets a\n"
+             "number, as that of a duplicate does.\n"_L1,
+     .shape = {.fewestInputs = 2,
+               .mostInputs = anyNumber,
+               .whichInput = whichProjects,
+               .options = Option::Output},
+     .run = MergeProjects},
+    {.name = "new"_L1,
+     .synopsis = "NAME [--from EXAMPLE] [-o FILE]"_L1,
+     .help = "Writes a new project of this name, empty or with what is in an example, to\n"
+             "standard output unless FILE is given. A file that is there stays as it is.\n"_L1,
+     .shape = {.mostInputs = 1,
+               .whichInput = "Which name? Please give one to the new Vellsheet."_L1,
+               .options = Option::From | Option::Output},
+     .run = WriteNewProject},
 };
 
 constexpr QLatin1StringView head =

@@ -10,7 +10,7 @@ namespace vellumo {
 
 /// Something that a command has to tell, for a person and for a program.
 struct Notice {
-    QLatin1StringView kind; ///< "result", "finding", "warning", "remark" or "error"
+    QLatin1StringView kind; ///< "result", "finding", "column", "warning", "remark" or "error"
     QLatin1StringView code; ///< what it is, for programs; never changes
     QString text;           ///< what it is, in a sentence
     QString shown = {};     ///< what a person sees instead of the sentence; empty = the sentence

@@ -26,6 +26,8 @@ enum class Option : unsigned {
     Column = 1U << 13U,
     Append = 1U << 14U,
     Sort = 1U << 15U,
+    Markdown = 1U << 16U,
+    Git = 1U << 17U,
 };
 Q_DECLARE_FLAGS(Options, Option)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Options)

@@ -1,5 +1,7 @@
 #include "exchange/codebook_tables.h"
 
+#include "exchange/csv.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -53,13 +55,7 @@ QString MarkdownLine(const QStringList &cells)
 
 QString CsvLine(const QStringList &cells)
 {
-    QStringList written;
-    for (const QString &cell : cells) {
-        const bool quoted =
-            std::ranges::any_of(cell, [](QChar c) { return "\",\r\n"_L1.contains(c); });
-        written += quoted ? u'"' + QString(cell).replace(u'"', "\"\""_L1) + u'"' : cell;
-    }
-    return written.join(u',') + "\r\n"_L1;
+    return QString::fromUtf8(WriteCsv({cells}));
 }
 
 } // namespace

@@ -32,7 +32,8 @@ QSet<QString> Matches(const QString &text, const QString &expression)
 QString Sources()
 {
     QString text;
-    for (const QString &room : {u"cli"_s, u"handheld"_s, u"readback"_s, u"validation"_s}) {
+    for (const QString &room :
+         {u"cli"_s, u"exchange"_s, u"handheld"_s, u"readback"_s, u"validation"_s}) {
         QDirIterator files(QStringLiteral(PROJECT "/src/") + room, {u"*.cpp"_s, u"*.h"_s});
         while (files.hasNext())
             text += QString::fromUtf8(BytesOf(files.next()));
@@ -62,7 +63,7 @@ QSet<QString> InSchema(const QString &definition)
     const QJsonObject schema =
         QJsonDocument::fromJson(TextOf(u"docs/vellumo-output.schema.json"_s).toUtf8()).object();
     QSet<QString> codes;
-    for (const QJsonValue &code :
+    for (const auto &code :
          schema[u"$defs"_s][definition][u"properties"_s][u"code"_s][u"enum"_s].toArray())
         codes += code.toString();
     EXPECT_FALSE(codes.isEmpty()) << definition.toStdString();
@@ -72,7 +73,9 @@ QSet<QString> InSchema(const QString &definition)
 TEST(JsonCodes, AreTheSameInDescriptionAndSchema)
 {
     EXPECT_EQ(Described(u"Results"_s), InSchema(u"result"_s) | InSchema(u"info"_s));
-    EXPECT_EQ(Described(u"Findings"_s) | Described(u"Warnings"_s), InSchema(u"finding"_s));
+    EXPECT_EQ(Described(u"Findings"_s) | Described(u"Warnings"_s),
+              InSchema(u"finding"_s) | InSchema(u"difference"_s));
+    EXPECT_EQ(Described(u"Columns"_s), InSchema(u"column"_s));
     EXPECT_EQ(Described(u"Warnings"_s), InSchema(u"warning"_s));
     EXPECT_EQ(Described(u"Remarks"_s), InSchema(u"remark"_s));
     EXPECT_EQ(Described(u"Errors"_s), InSchema(u"error"_s));
@@ -82,7 +85,7 @@ TEST(JsonCodes, AreThoseOfTheSources)
 {
     QSet<QString> described;
     for (const QString &heading :
-         {u"Results"_s, u"Findings"_s, u"Warnings"_s, u"Remarks"_s, u"Errors"_s})
+         {u"Results"_s, u"Findings"_s, u"Columns"_s, u"Warnings"_s, u"Remarks"_s, u"Errors"_s})
         described |= Described(heading);
     const QString sources = Sources();
     const QSet<QString> literals =
