@@ -1,5 +1,6 @@
 #include "cli/export_command.h"
 
+#include "cli/form_sheet_export.h"
 #include "cli/inputs.h"
 #include "cli/outputs.h"
 #include "exchange/sheet_writer.h"
@@ -10,12 +11,18 @@ namespace vellumo {
 
 Exit ExportProject(const CommandLine &line, const Console &console)
 {
-    if (!line.Has(Option::Csv))
-        return Refuse(console, Exit::WrongUse, {u"Export as what? Please say --csv."_s});
+    if (line.Has(Option::Csv) == line.Has(Option::FormSheet))
+        return Refuse(console, Exit::WrongUse,
+                      {u"Export as what? Please say --csv or --xlsform."_s, u"vellumo"_s});
+    if (line.Has(Option::FormSheet) && !line.Has(Option::Output))
+        return Refuse(console, Exit::WrongUse,
+                      {u"A workbook needs a file: -o FILE.xlsx."_s, u"vellumo"_s});
     const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
     return ForInput(line, console, [&](const QString &input) -> Ending {
+        if (line.Has(Option::FormSheet))
+            return ExportFormSheet(input, target, line, console);
         const Result<Project> project = ReadProjectInput(input, console);
         if (!project)
             return Refuse(console, Exit::Unreadable, project.error());

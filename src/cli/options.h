@@ -28,6 +28,8 @@ enum class Option : unsigned {
     Sort = 1U << 15U,
     Markdown = 1U << 16U,
     Git = 1U << 17U,
+    FormSheet = 1U << 18U,
+    Lossy = 1U << 19U,
 };
 Q_DECLARE_FLAGS(Options, Option)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Options)

@@ -162,7 +162,7 @@ TEST_F(ImportCommand, RefusesWhatCannotBeWritten)
 TEST_F(ImportCommand, RefusesWordsThatMakeNoSense)
 {
     const std::pair<QStringList, QString> words[] = {
-        {{u"export"_s, siteVisit}, u"Export as what? Please say --csv.\n"_s},
+        {{u"export"_s, siteVisit}, u"vellumo: Export as what? Please say --csv or --xlsform.\n"_s},
         {{u"import"_s, u"-"_s, u"--into"_s, u"-"_s},
          u"Standard input, '-', can be read once only.\n"_s},
         {{u"import"_s, u"-"_s, u"--into"_s, u"/dev/stdin"_s},

@@ -1,0 +1,170 @@
+#include "exchange/form_sheet.h"
+
+#include "exchange/sheet_names.h"
+#include "model/question_types.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+/// How a type stands in the sheet.
+struct SheetType {
+    TypeId type;
+    QLatin1StringView name; ///< a list's name follows those that choose
+    QLatin1StringView appearance = {};
+    QLatin1StringView parameters = {};
+    QLatin1StringView hint = {}; ///< what the type means besides
+};
+
+// A photograph of a signature may be smaller than what a camera gives.
+constexpr auto picture = "max-pixels=1600"_L1;
+constexpr auto yesNoList = "yes_no"_L1;
+
+constexpr std::array<SheetType, typeCount> sheetTypes = {{
+    {TypeId::Text, "text"_L1},
+    {TypeId::Numeric, "decimal"_L1},
+    {TypeId::PulldownList, "select_one"_L1, "minimal"_L1},
+    {TypeId::YesNo, "select_one"_L1},
+    {TypeId::Signature, "image"_L1, "signature"_L1, picture},
+    {TypeId::Notes, "image"_L1, "draw"_L1, picture},
+    {TypeId::DateTime, "dateTime"_L1},
+    {TypeId::Currency, "decimal"_L1, {}, {}, "an amount of money"_L1},
+    {TypeId::ScannedBarcode, "barcode"_L1},
+    {TypeId::Checkboxes, "select_multiple"_L1},
+}};
+static_assert(HasRowPerType(sheetTypes));
+
+/// Fills the three tables question by question.
+class Filling
+{
+public:
+    explicit Filling(const Project &project) : m_items(project.source.ItemsById()) {}
+
+    Outcome Add(const QuestionRow &row, int number)
+    {
+        m_number = number;
+        const QuestionType *type = TypeNamed(row.Type);
+        if (!type)
+            return Error{u"question %1 is of the unknown type '%2'"_s.arg(number).arg(row.Type)};
+        if (type->items && m_items.value(row.Id).isEmpty())
+            return Error{u"question %1 has no items"_s.arg(number)};
+        const SheetType &sheet = RowOf(sheetTypes, type->id);
+        const QString name = NameOf(row);
+        m_survey.rows.append({Joined(sheet.name, ListOf(*type, row, name), u" "_s), name,
+                              Shown(row.Question, "question text"_L1),
+                              Joined(Shown(row.Title, "title"_L1), sheet.hint, u": "_s),
+                              sheet.appearance, sheet.parameters});
+        return done;
+    }
+
+    FormSheet Finished(const Project &project)
+    {
+        AddLossesOf(project);
+        SheetTable settings = {u"settings"_s, {u"form_title"_s, u"form_id"_s, u"version"_s}};
+        const QString id = SheetNames().TakeName(project.FormName);
+        if (id != project.FormName)
+            Lose("form-id"_L1, {"form name"_L1}, u"is '%1' where a name has to be valid"_s.arg(id));
+        settings.rows.append({project.FormName, id, project.FormVersion});
+        return {{m_survey, m_choices, settings}, m_losses};
+    }
+
+private:
+    static QString Joined(const QString &one, const QString &other, const QString &between)
+    {
+        return one.isEmpty() || other.isEmpty() ? one + other : one + between + other;
+    }
+
+    void Lose(QLatin1StringView code, const TextPlace &place, const QString &what,
+              bool changes = false)
+    {
+        m_losses.append({code, place, u"%1 %2."_s.arg(Describe(place), what), changes});
+    }
+
+    QString NameOf(const QuestionRow &row)
+    {
+        QString name = m_names.TakeName(row.ColumnName);
+        if (name != row.ColumnName)
+            Lose("name-changed"_L1, {"column name"_L1, m_number},
+                 u"is '%1' in the sheet instead of '%2'"_s.arg(name, row.ColumnName), true);
+        return name;
+    }
+
+    /// A text as the sheet has it: the escape of a line break is one, and nothing refers to another
+    /// question, which is what "${" would do.
+    QString Shown(const QString &text, QLatin1StringView field)
+    {
+        QString shown = QString(text).replace(u"\\n"_s, u"\n"_s);
+        if (shown.contains("${"_L1)) {
+            shown.replace(u"${"_s, u"$ {"_s);
+            Lose("text-changed"_L1, {field, m_number},
+                 u"has \"$ {\" in the sheet instead of \"${\", which would be a reference there"_s,
+                 true);
+        }
+        return shown;
+    }
+
+    /// The name of the list that a question chooses from; empty where it chooses from none.
+    QString ListOf(const QuestionType &type, const QuestionRow &row, const QString &name)
+    {
+        if (type.id == TypeId::YesNo)
+            return YesNoList();
+        if (!type.items)
+            return {};
+        QString list = m_lists.TakeName(name);
+        SheetNames choices;
+        for (const QString &item : m_items.value(row.Id))
+            m_choices.rows.append({list, choices.TakeChoice(item), Shown(item, "item"_L1)});
+        return list;
+    }
+
+    QString YesNoList()
+    {
+        if (!m_hasYesNo)
+            m_choices.rows += {{yesNoList, u"yes"_s, u"Yes"_s}, {yesNoList, u"no"_s, u"No"_s}};
+        m_hasYesNo = true;
+        return yesNoList;
+    }
+
+    void AddLossesOf(const Project &project)
+    {
+        if (!m_survey.rows.isEmpty())
+            m_losses.append(
+                {"title-as-hint"_L1, {"title"_L1}, u"The titles of the questions are hints."_s});
+        if (!project.Description.isEmpty())
+            Lose("not-in-sheet"_L1, {"description"_L1}, u"is not in the sheet"_s);
+        if (!project.FormPath.isEmpty())
+            Lose("not-in-sheet"_L1, {"data folder"_L1}, u"is not in the sheet"_s);
+    }
+
+    const QHash<int, QStringList> m_items;
+    SheetTable m_survey = {
+        u"survey"_s,
+        {u"type"_s, u"name"_s, u"label"_s, u"hint"_s, u"appearance"_s, u"parameters"_s}};
+    SheetTable m_choices = {u"choices"_s, {u"list_name"_s, u"name"_s, u"label"_s}};
+    SheetNames m_names, m_lists = WithYesNo();
+    bool m_hasYesNo = false;
+    int m_number = 0;
+    QList<SheetLoss> m_losses;
+
+    static SheetNames WithYesNo()
+    {
+        SheetNames names;
+        names.TakeName(yesNoList);
+        return names;
+    }
+};
+
+} // namespace
+
+Result<FormSheet> MakeFormSheet(const Project &project)
+{
+    Filling filling(project);
+    int number = 0;
+    for (const QuestionRow &row : project.source.Questions().Rows())
+        if (const Outcome added = filling.Add(row, ++number); !added)
+            return added.error();
+    return filling.Finished(project);
+}
+
+} // namespace vellumo
