@@ -39,6 +39,7 @@ bool RowDragging::eventFilter(QObject *watched, QEvent *event)
     if (!isEscape || !m_line->isVisible())
         return false;
     Stop();
+    m_givenUp = true;
     return true;
 }
 
@@ -49,28 +50,34 @@ bool RowDragging::FollowMouse(QEvent *event)
     case QEvent::MouseButtonPress: {
         const auto *mouse = static_cast<QMouseEvent *>(event);
         Stop();
+        m_givenUp = false;
+        m_pressed = mouse->position().toPoint();
+        m_pressedRow = m_view->indexAt(m_pressed).row();
         if (mouse->button() == Qt::LeftButton && mouse->modifiers() == Qt::NoModifier)
-            Press(mouse->position().toPoint());
+            m_from = m_pressedRow;
         return false;
     }
     case QEvent::MouseMove: {
         const auto *mouse = static_cast<QMouseEvent *>(event);
-        if (m_from < 0 || !(mouse->buttons() & Qt::LeftButton))
-            return false;
-        DragTo(mouse->position().toPoint());
-        return true;
+        if (m_from >= 0 && (mouse->buttons() & Qt::LeftButton))
+            DragTo(mouse->position().toPoint());
+        return mouse->buttons() != Qt::NoButton && (m_from >= 0 || KeepsFromView());
     }
-    case QEvent::MouseButtonRelease:
-        return Release();
+    case QEvent::MouseButtonRelease: {
+        const QPoint place = static_cast<QMouseEvent *>(event)->position().toPoint();
+        const bool isElsewhere = m_view->indexAt(place).row() != m_pressedRow;
+        return Release() || (isElsewhere && KeepsFromView());
+    }
     default:
         return false;
     }
 }
 
-void RowDragging::Press(QPoint place)
+/// Whether the mouse selects nothing but the row that it was pressed on: where one row alone can be
+/// selected, that is the current one, and after a drag that was given up.
+bool RowDragging::KeepsFromView() const
 {
-    m_from = m_view->indexAt(place).row();
-    m_pressed = place;
+    return m_givenUp || m_view->selectionMode() == QAbstractItemView::SingleSelection;
 }
 
 void RowDragging::DragTo(QPoint place)

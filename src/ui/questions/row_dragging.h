@@ -28,7 +28,7 @@ public:
 
 private:
     bool FollowMouse(QEvent *event);
-    void Press(QPoint place);
+    bool KeepsFromView() const;
     void DragTo(QPoint place);
     bool Release();
     void Stop();
@@ -43,6 +43,8 @@ private:
     QTimer m_scrolling;
     int m_from = -1; ///< the row that is held; -1 = none is
     QPoint m_pressed, m_place;
+    int m_pressedRow = -1;  ///< under the mouse at the last press; -1 = none was
+    bool m_givenUp = false; ///< the drag, while the button is still held
 };
 
 } // namespace vellumo

@@ -64,6 +64,15 @@ TEST(QuestionMoving, FollowsTheMouseAsOneStep)
     }
 }
 
+/// The rows that the grid shows as selected.
+QList<int> Selected(const Questions &designer)
+{
+    QList<int> rows;
+    for (const QModelIndex &index : designer.Grid()->selectionModel()->selectedRows())
+        rows += index.row();
+    return rows;
+}
+
 TEST(QuestionMoving, IsGivenUpByEsc)
 {
     const Questions designer(5);
@@ -72,15 +81,34 @@ TEST(QuestionMoving, IsGivenUpByEsc)
     drag.LetGo();
     EXPECT_EQ(designer.ColumnNames(), Names(5));
     EXPECT_FALSE(designer.ProjectChanged());
+    EXPECT_EQ(Selected(designer), QList<int>{0}) << "that of the cursor";
 }
 
-/// The rows that the grid shows as selected.
-QList<int> Selected(const Questions &designer)
+TEST(QuestionSelection, IsThatOfTheCursorHoweverTheMouseIsDragged)
 {
-    QList<int> rows;
-    for (const QModelIndex &index : designer.Grid()->selectionModel()->selectedRows())
-        rows += index.row();
-    return rows;
+    const Questions designer(5, 1);
+    QTableView *grid = designer.Grid();
+    const auto place = [grid](int row) {
+        return grid->visualRect(grid->model()->index(row, 1)).center();
+    };
+    const QPoint below(20, grid->viewport()->height() - 5);
+    const struct {
+        Qt::MouseButton button;
+        Qt::KeyboardModifiers keys;
+        QPoint from;
+    } drags[] = {{Qt::LeftButton, Qt::NoModifier, below},
+                 {Qt::LeftButton, Qt::ControlModifier, place(1)},
+                 {Qt::LeftButton, Qt::ShiftModifier, place(1)},
+                 {Qt::RightButton, Qt::NoModifier, place(1)}};
+    for (const auto &drag : drags) {
+        QTest::mousePress(grid->viewport(), drag.button, drag.keys, drag.from);
+        QMouseEvent move(QEvent::MouseMove, place(3), grid->viewport()->mapToGlobal(place(3)),
+                         Qt::NoButton, drag.button, drag.keys);
+        QApplication::sendEvent(grid->viewport(), &move);
+        QTest::mouseRelease(grid->viewport(), drag.button, drag.keys, place(3));
+        EXPECT_EQ(Selected(designer), QList<int>{grid->currentIndex().row()});
+        EXPECT_EQ(designer.Caption("lblq_num"), u"%1 of 5"_s.arg(grid->currentIndex().row() + 1));
+    }
 }
 
 TEST(QuestionSelection, StaysWhileTheCursorDoes)
