@@ -92,6 +92,8 @@ void FieldBox::Take(const QString &text)
     if (!m_showing) // else the box may have made other line ends of it
         m_shown = text;
     m_document.SetText(m_field, m_shown);
+    if (!m_showing && !m_canUndo()) // by its own undo; what is deleted by hand can be taken back
+        m_document.TypingTakenBack();
 }
 
 } // namespace vellumo

@@ -85,6 +85,12 @@ void ProjectDocument::SetText(FormField field, const QString &text)
     emit TextsChanged();
 }
 
+void ProjectDocument::TypingTakenBack()
+{
+    if (m_steps.isClean())
+        m_changed = false;
+}
+
 void ProjectDocument::Record(const Project &before, Counts counts)
 {
     EndTyping();

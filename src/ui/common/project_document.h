@@ -44,6 +44,9 @@ public:
     /// Takes a text as it is typed; the project counts as changed. What is typed without a break is
     /// one step.
     void SetText(FormField field, const QString &text);
+    /// A box has taken back all that was typed into it: where nothing else was done since the
+    /// saving or opening, the project counts as unchanged again.
+    void TypingTakenBack();
     /// What is typed from now on is another step.
     void EndTyping() { ++m_typing; }
 

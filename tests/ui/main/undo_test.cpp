@@ -124,6 +124,24 @@ TEST(Undo, IsFirstOfAllTheBoxesOwn)
     EXPECT_FALSE(designer.ProjectChanged());
 }
 
+TEST(Undo, OfABoxKnowsTheSavedStateToo)
+{
+    for (const char *box : {"txtAppName", "txtAppDesc"}) {
+        SCOPED_TRACE(box);
+        const Undoing designer(1);
+        auto *widget = designer.Find<QWidget>(box);
+        widget->setFocus();
+        QTest::keyClicks(widget, u"abc"_s);
+        EXPECT_TRUE(designer.ProjectChanged());
+        for (int times = 0; times < 3; ++times)
+            designer.Undo();
+        EXPECT_FALSE(designer.ProjectChanged());
+        QTest::keyClicks(widget, u"a"_s);
+        QTest::keyClick(widget, Qt::Key_Backspace);
+        EXPECT_TRUE(designer.ProjectChanged()) << "typed, whatever it gave";
+    }
+}
+
 TEST(Undo, KnowsTheSavedState)
 {
     Undoing designer(2);
