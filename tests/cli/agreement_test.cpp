@@ -23,7 +23,9 @@ QString Readme()
     const QString all = TextOf(u"README.md"_s);
     const qsizetype start = all.indexOf("\n## The headless command\n"_L1);
     EXPECT_GE(start, 0);
-    return all.mid(start, all.indexOf("\n## "_L1, start + 1) - start);
+    QString section = all.mid(start, all.indexOf("\n## "_L1, start + 1) - start);
+    static const QRegularExpression ofGit(u"`git [^`]*`"_s); // which has options of its own
+    return section.remove(ofGit);
 }
 
 const QString &Page()
