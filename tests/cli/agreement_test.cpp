@@ -118,7 +118,7 @@ TEST(Agreement, NoOtherPageNamesACommandThatThereIsNot)
     QString typed = TextOf(u"README.md"_s);
     const QDir pages(QStringLiteral(PROJECT "/help"));
     for (const QString &name : pages.entryList({u"*.html"_s}))
-        typed += TypedOn(TextOf(u"help/"_s + name));
+        typed += u'\n' + TypedOn(TextOf(u"help/"_s + name));
     EXPECT_EQ(CommandsIn(typed) - helpCommand - AllCommands(), none);
 }
 
