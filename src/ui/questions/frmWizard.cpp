@@ -31,6 +31,16 @@ constexpr quint32 helpOfSteps[] = {HelpContext::questionTypes, HelpContext::ques
                                    HelpContext::questionWizard, HelpContext::questionWizard,
                                    HelpContext::items};
 
+/// What takes the most room on the step with the items.
+QString LongestIntroduction()
+{
+    QString longest;
+    for (const QuestionType &type : questionTypes)
+        if (type.items && type.items->introduction.size() > longest.size())
+            longest = type.items->introduction;
+    return longest;
+}
+
 } // namespace
 
 frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
@@ -61,6 +71,7 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
 
     ConnectControls();
     PlaceTypeLink();
+    ui->lblWiz4_1->setText(LongestIntroduction());
     CentreOnScreen(*this); // first: it is as large as its largest step
     ShowStep();
 }

@@ -1,9 +1,48 @@
 #include "ui/questions/question_grid.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QTableView>
 
 namespace vellumo {
+namespace {
+
+constexpr int questionColumn = 2;
+
+/// The text of a question has what the other columns leave, and is never too narrow to be read:
+/// then the grid scrolls.
+class QuestionWidth : public QObject
+{
+public:
+    explicit QuestionWidth(QTableView &grid) : QObject(&grid), m_grid(grid)
+    {
+        grid.viewport()->installEventFilter(this);
+        Fit();
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
+            Fit();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void Fit()
+    {
+        QHeaderView *header = m_grid.horizontalHeader();
+        const int least = 14 * m_grid.fontMetrics().horizontalAdvance(u'0');
+        const int others = header->length() - header->sectionSize(questionColumn);
+        if (m_grid.viewport()->width() - others >= least)
+            return header->setSectionResizeMode(questionColumn, QHeaderView::Stretch);
+        header->setSectionResizeMode(questionColumn, QHeaderView::Interactive);
+        header->resizeSection(questionColumn, least);
+    }
+
+    QTableView &m_grid;
+};
+
+} // namespace
 
 void LayOutColumns(QTableView &grid)
 {
@@ -13,11 +52,11 @@ void LayOutColumns(QTableView &grid)
     QHeaderView *header = grid.horizontalHeader();
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->setSectionResizeMode(2, QHeaderView::Stretch);
     for (int column = 0; column < grid.model()->columnCount(); ++column)
         if (widths[column] > 0)
             header->resizeSection(column, widths[column] * digits);
     grid.verticalHeader()->hide();
+    new QuestionWidth(grid);
 }
 
 void KeepCurrentRowSelected(QTableView &grid)

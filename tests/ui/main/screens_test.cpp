@@ -1,5 +1,6 @@
 // The windows on screens of many sizes, with small and large text, in both directions. A process
 // has one screen and one scale, so this is run once for each of them: see CMakeLists.txt.
+#include "model/question_types.h"
 #include "support/print.h"
 #include "ui/about/help_browser.h"
 #include "ui/common/scroll_page.h"
@@ -13,6 +14,7 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTabBar>
+#include <QTableView>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -132,6 +134,11 @@ void ExpectWholeTexts(const QWidget &window)
         EXPECT_GE(tree->header()->length(),
                   static_cast<const QTreeView *>(tree)->header()->sectionSizeHint(0))
             << Name(*tree);
+    for (const auto *grid : Shown<QTableView>(window)) {
+        const QHeaderView *header = grid->horizontalHeader();
+        for (int column = 0; column < header->count(); ++column)
+            EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column)) << column;
+    }
     for (const auto *bar : window.findChildren<QTabBar *>())
         EXPECT_EQ(bar->elideMode(), Qt::ElideNone);
 }
@@ -188,6 +195,30 @@ void ExpectFocusSeen(const QWidget &window)
         widget->clearFocus();
         QApplication::processEvents();
         EXPECT_TRUE(with != widget->grab().toImage()) << Name(*widget);
+    }
+}
+
+/// Where the screen has room for all of it, nothing of the wizard scrolls.
+TEST(Screens, HoldTheWizardWhole)
+{
+    const Desktop desktop(9, Qt::LeftToRight);
+    if (QGuiApplication::primaryScreen()->size().height() < 600)
+        return; // it has to scroll
+    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    for (const QuestionType &type : questionTypes) {
+        SCOPED_TRACE(type.name.latin1());
+        frmWizard wizard(const_cast<ProjectDocument &>(designer.window.document()), nullptr);
+        wizard.show();
+        auto *types = wizard.findChild<QListWidget *>(u"lstWiz1_1"_s);
+        types->setCurrentItem(types->findItems(type.name, Qt::MatchExactly).first());
+        wizard.findChild<QPlainTextEdit *>(u"txtWiz3_1"_s)->setPlainText(u"Which?"_s);
+        for (int step = 1; step <= (type.items ? 5 : 4); ++step) {
+            QApplication::processEvents();
+            EXPECT_FALSE(
+                wizard.findChild<QScrollArea *>(u"scrollArea"_s)->verticalScrollBar()->isVisible())
+                << step;
+            wizard.findChild<QAbstractButton *>(u"cmdNav_3"_s)->click();
+        }
     }
 }
 
