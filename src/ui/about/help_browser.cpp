@@ -1,7 +1,9 @@
 #include "ui/about/help_browser.h"
 
 #include "help/html_text.h"
+#include "ui/common/contrast.h"
 
+#include <QEvent>
 #include <QImage>
 
 using namespace Qt::StringLiterals;
@@ -17,11 +19,30 @@ HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
 {
     setOpenLinks(false); // where one leads is for the window to decide
     document()->setDocumentMargin(12);
+    ColourLinks();
 }
 
 void HelpBrowser::ShowPage(const QString &page)
 {
     setSource(AddressOf(page));
+}
+
+void HelpBrowser::changeEvent(QEvent *event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    ColourLinks();
+    if (!source().isEmpty())
+        reload();
+}
+
+/// Of pages that are loaded from now on; the palette's own colour may be hard to read.
+void HelpBrowser::ColourLinks()
+{
+    const QColor ink =
+        Legible(palette().color(QPalette::Link), {palette().color(QPalette::Base)}, textContrast);
+    document()->setDefaultStyleSheet(u"a[href]{color:%1}"_s.arg(ink.name()));
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &url)

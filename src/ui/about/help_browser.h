@@ -27,7 +27,12 @@ public:
     /// What an address means in the help file; empty for one that leads out of it.
     static QString NameIn(const QUrl &address);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void ColourLinks();
+
     const HelpFile *m_file = nullptr;
 };
 

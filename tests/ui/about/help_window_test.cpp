@@ -4,12 +4,14 @@
 #include "support/files.h"
 #include "support/print.h"
 #include "ui/about/help_browser.h"
+#include "ui/common/contrast.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextBlock>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -168,6 +170,26 @@ TEST(HelpWindow, HandsWebAddressesOn)
     viewer.ClickLink(u"CloudpilotEmu is"_s);
     EXPECT_EQ(viewer.opened, QStringList{u"https://cloudpilot-emu.github.io"_s});
     EXPECT_EQ(viewer.window.windowTitle(), title);
+}
+
+TEST(HelpWindow, WritesLinksLegibly)
+{
+    Viewer viewer;
+    for (const QColor &ground :
+         {QColor(255, 255, 255), QColor(61, 61, 61), QColor(127, 127, 127)}) {
+        QPalette palette = viewer.page->palette();
+        palette.setColor(QPalette::Base, ground);
+        viewer.page->setPalette(palette);
+        int links = 0;
+        for (QTextBlock block = viewer.page->document()->begin(); block.isValid();
+             block = block.next())
+            for (const auto &range : block.textFormats())
+                if (range.format.isAnchor() && !range.format.anchorHref().isEmpty()) {
+                    ++links;
+                    EXPECT_GE(Contrast(range.format.foreground().color(), ground), textContrast);
+                }
+        EXPECT_GT(links, 3);
+    }
 }
 
 TEST(HelpWindow, ShowsThePicturesOfAPage)
