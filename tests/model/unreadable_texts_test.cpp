@@ -112,6 +112,18 @@ TEST(UnreadableTexts, ItemsGoByTheFirstQuestionWithTheirId)
                            u"item: \"a]]>b\""_s}));
 }
 
+TEST(UnreadableTexts, AreShownWholeUpToSixtyCharacters)
+{
+    const auto shown = [](const QString &text) {
+        Project project;
+        project.Description = text;
+        return UnreadableNotice(project).section(u'"', -2, -2);
+    };
+    const QString sixty = u"]]>"_s + QString(57, u'x');
+    EXPECT_EQ(shown(sixty), sixty);
+    EXPECT_EQ(shown(sixty + u'x'), sixty + u'\u2026');
+}
+
 TEST(UnreadableTexts, TheNoticeNamesThem)
 {
     const QString begin =
