@@ -25,6 +25,7 @@ Environment RealEnvironment()
 {
     const QString application = ApplicationFolder();
     return {.applicationFolder = application,
+            .dataFolder = DataFolder(),
             .projectsFolder = ProjectsFolder(),
             .helpFile = application + QDir::separator() + "Vellumo_Help.chm"_L1,
             .siteAddress = SiteAddress(),

@@ -4,9 +4,9 @@
 
 namespace vellumo {
 
-// The settings file keeps one preference between runs, in the application folder: whether the
-// start-up chooser is shown. Nothing here ever stops a start; nothing switches the chooser on again
-// but deleting the file.
+// The settings file keeps one preference between runs, in the application folder or what stands
+// in for it: whether the start-up chooser is shown. Nothing here ever stops a start; nothing
+// switches the chooser on again but deleting the file.
 
 inline constexpr QLatin1StringView damagedSettingsFile{"There is a bug with setting file."};
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What loses nothing: a disk that is full when a project is saved, two designers on one file, and an
-# application folder that nobody can write to.
+# application folder that nobody can write to, without and with a folder that stands in for it.
 # trouble_test.sh VELLUMO PROJECT
 set -euo pipefail
 
@@ -69,6 +69,8 @@ await 10 'Yes did not save' holds "$file" First
 quit
 
 file=$work/locked.vmp
+export XDG_DATA_HOME=$work/share
+touch "$XDG_DATA_HOME" # in the way of the folder
 cp "$project" "$file"
 mount --bind "$work/app" "$work/app"
 mount -o remount,bind,ro "$work/app"
@@ -83,6 +85,13 @@ windows 2
 keys Return
 windows 1
 [ -z "$(ls -A "$HOME/Documents/My Vellumo")" ] || fail 'a database was made of nothing'
+rm "$XDG_DATA_HOME"
+keys space
+windows 2
+keys Return
+windows 1
+"$programs/vellumo" verify "$HOME/Documents/My Vellumo/Locked.prc" || fail 'no database was made'
+[ -z "$(ls -A "$XDG_DATA_HOME/vellumo-designer")" ] || fail 'something of the creation stayed'
 keys ctrl+s
 await 10 'nothing was saved' holds "$file" Locked
 quit

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/folders.h"
 #include "platform/tool_runner.h"
 
 #include <QString>
@@ -12,6 +13,7 @@ namespace vellumo {
 /// What the windows need from outside; handed in, so that a test decides all of it.
 struct Environment {
     QString applicationFolder; ///< without a separator at its end
+    QString dataFolder = {};   ///< stands in where the user may not write in that; empty = nothing
     QString projectsFolder;    ///< with a separator at its end
     QString helpFile;          ///< full path; empty = there is none
     QString siteAddress;       ///< of the maker's web site, without a slash at its end
@@ -25,6 +27,9 @@ struct Environment {
     std::function<ToolRun(const ToolCall &call)> runTool;
     /// Opens a file, a folder or a web address with the platform's default action.
     std::function<void(const QString &target)> open;
+
+    /// For the settings file and the script of a Create pass; without a separator at its end.
+    QString FolderToWriteIn() const { return WrittenFolder(applicationFolder, dataFolder); }
 };
 
 } // namespace vellumo

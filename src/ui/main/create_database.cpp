@@ -26,7 +26,7 @@ CreateReport MakeWithWaitCursor(const Project &project, const CreatePlace &place
 
 void CreateDatabase(const Project &project, const Environment &environment, QWidget *window)
 {
-    const BuildFolders folders = {environment.applicationFolder, environment.projectsFolder};
+    const BuildFolders folders = {environment.FolderToWriteIn(), environment.projectsFolder};
     const CreateReport report = MakeWithWaitCursor(
         project, {folders, BuildWithTools(environment.runTool)}, environment.makeIdentifier());
 

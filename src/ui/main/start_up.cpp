@@ -23,7 +23,7 @@ void ShowSplash(const Environment &environment)
 Start AskForProject(const Environment &environment)
 {
     fileOpenForm chooser(environment.projectsFolder,
-                         [&] { HideOpenFormNextTime(environment.applicationFolder); });
+                         [&] { HideOpenFormNextTime(environment.FolderToWriteIn()); });
     chooser.exec();
     const Start chosen = chooser.Chosen();
     return chosen.choice == newProject || chosen.path.isEmpty() ? Start() : chosen;
@@ -60,7 +60,7 @@ Start StartUp(const Environment &environment, const QStringList &arguments, cons
         return {existingProject, named, HintAbout(arguments.join(u' '), named)};
 
     ShowSplash(environment);
-    const ShowOpenForm setting = ReadShowOpenForm(environment.applicationFolder);
+    const ShowOpenForm setting = ReadShowOpenForm(environment.FolderToWriteIn());
     if (!setting.message.isEmpty())
         ShowBox(nullptr, {.text = setting.message, .informative = setting.file});
     return setting.value == 1 ? AskForProject(environment) : Start();

@@ -1,6 +1,7 @@
 #include "ui/main/start_up.h"
 
 #include "support/files.h"
+#include "support/ordinary_user.h"
 #include "support/print.h"
 #include "ui/main/web_server.h"
 #include "ui/support/await_window.h"
@@ -59,6 +60,28 @@ TEST_F(FirstStart, WithAFileChosenAndTheBoxUnticked)
     EXPECT_EQ(start.path, QDir::toNativeSeparators(m_folder.filePath(u"a.vmp"_s)));
     EXPECT_EQ(BytesOf(SettingsFile()),
               "<Vmdesigner>\r\n<ShowOpenForm>0</ShowOpenForm>\r\n</Vmdesigner>\r\n");
+}
+
+TEST_F(FirstStart, KeepsItsSettingsInTheDataFolderOfWhoMayNotWriteBesideTheProgram)
+{
+    QTemporaryDir home;
+    QFile::setPermissions(home.path(), QFile::Permissions(0x7777));
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x5555));
+    m_environment.projectsFolder = home.filePath(u"Documents/My Vellumo/"_s);
+    m_environment.dataFolder = home.filePath(u"share/vellumo-designer"_s);
+    AwaitWindow(u"fileOpenForm"_s, [](QWidget &chooser) {
+        chooser.findChild<QCheckBox *>(u"chkShowThis"_s)->click();
+        chooser.findChild<QPushButton *>(u"Command1"_s)->click();
+    });
+    const QStringList before = NamesIn(m_folder.path());
+    {
+        const AsOrdinaryUser ordinary;
+        EXPECT_EQ(StartedWith({}).choice, u"New"_s);
+    }
+    EXPECT_EQ(BytesOf(m_environment.dataFolder + u"/settings.ini"_s),
+              "<Vmdesigner>\r\n<ShowOpenForm>0</ShowOpenForm>\r\n</Vmdesigner>\r\n");
+    EXPECT_EQ(NamesIn(m_folder.path()), before);
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
 }
 
 TEST_F(FirstStart, TellsOfADamagedSettingsFileInAPlainBox)
