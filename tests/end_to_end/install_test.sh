@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# install_test.sh VELLUMO CMAKE BUILD SOURCE VERSION BIN LIB DOC: installs from the build folder below
-# a temporary root, and under another prefix without one; nothing but what is listed here is there,
-# in the folders BIN, LIB and DOC. The programs then work for an ordinary user who may write to none
+# install_test.sh VELLUMO CMAKE BUILD SOURCE VERSION BIN LIB DOC SHARE: installs from the build folder
+# below a temporary root, and under another prefix without one; nothing but what is listed here is
+# there, in the folders BIN, LIB, DOC and SHARE. The programs then work for an ordinary user who may write to none
 # of it.
 set -euo pipefail
 
 cmake=$2 build=$3 source=$4 version=$5
-bin=$6 lib=$7 doc=$8
+bin=$6 lib=$7 doc=$8 share=$9
 work=$(mktemp -d)
 designer=
 end_designer() {
@@ -21,6 +21,7 @@ umask 022
 expected() {
     printf '%s\n' "$bin"/{vellumo,vellumo-designer} \
         "$lib"/{Vellumo_Help.chm,build-prc,pilrc,vellumo,vellumo-designer} \
+        "$share/mime/packages/vellumo-designer.xml" \
         "$doc"/{CHANGELOG,CONTRIBUTING,README,SECURITY}.md "$doc/LICENSE"
     (cd "$source" && find docs examples -type f -printf "$doc/%p\n")
 }
