@@ -21,6 +21,11 @@ umask 022
 expected() {
     printf '%s\n' "$bin"/{vellumo,vellumo-designer} \
         "$lib"/{Vellumo_Help.chm,build-prc,pilrc,vellumo,vellumo-designer} \
+        "$share/applications/vellumo-designer.desktop" \
+        "$share/icons/hicolor"/{16x16,22x22,24x24,32x32,48x48}/apps/vellumo-designer.png \
+        "$share/icons/hicolor"/{64x64,128x128,256x256,512x512}/apps/vellumo-designer.png \
+        "$share/icons/hicolor/scalable/apps/vellumo-designer.svg" \
+        "$share/metainfo/org.vellumo.Designer.metainfo.xml" \
         "$share/mime/packages/vellumo-designer.xml" \
         "$doc"/{CHANGELOG,CONTRIBUTING,README,SECURITY}.md "$doc/LICENSE"
     (cd "$source" && find docs examples -type f -printf "$doc/%p\n")
