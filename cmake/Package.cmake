@@ -1,0 +1,14 @@
+# What cpack makes of an installation: a package for Debian and an archive to unpack anywhere.
+set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_PACKAGE_NAME vellumo-designer)
+set(CPACK_PACKAGE_CONTACT "The Vellumo Designer developers <developers@vellumo.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL ${VELLUMO_SITE})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_RESOURCE_FILE_LICENSE ${CMAKE_SOURCE_DIR}/LICENSE)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+include(CPack)
