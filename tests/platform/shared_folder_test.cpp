@@ -16,8 +16,8 @@ protected:
         if (geteuid() != 0)
             GTEST_SKIP() << "only root can make the links of others";
         ASSERT_EQ(chmod(QFile::encodeName(m_folder.path()), 0755), 0);
-        QDir(m_folder.path()).mkdir(u"shared"_s);
-        ASSERT_EQ(chmod(Name(u"shared"_s), 01777), 0);
+        QDir(m_folder.path()).mkdir(u"public"_s);
+        ASSERT_EQ(chmod(Name(u"public"_s), 01777), 0);
         ASSERT_TRUE(WriteBytes(InFolder(u"victim"_s), "kept"));
     }
 
@@ -32,9 +32,9 @@ protected:
 
 TEST_F(SharedFolder, ALinkOfSomebodyElseIsNotFollowed)
 {
-    Link("../victim", u"shared/trap"_s, nobody);
-    Link("..", u"shared/way"_s, nobody);
-    for (const QString &name : {u"shared/trap"_s, u"shared/way/victim"_s, u"shared/way/new"_s}) {
+    Link("../victim", u"public/trap"_s, nobody);
+    Link("..", u"public/way"_s, nobody);
+    for (const QString &name : {u"public/trap"_s, u"public/way/victim"_s, u"public/way/new"_s}) {
         SCOPED_TRACE(name.toStdString());
         const Outcome outcome = ReplaceFile(InFolder(name), "taken");
         ASSERT_FALSE(outcome);
@@ -44,26 +44,26 @@ TEST_F(SharedFolder, ALinkOfSomebodyElseIsNotFollowed)
         EXPECT_EQ(outcome.error().file, InFolder(name));
     }
     EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "kept");
-    EXPECT_EQ(Names(), (QStringList{u"shared"_s, u"victim"_s}));
+    EXPECT_EQ(Names(), (QStringList{u"public"_s, u"victim"_s}));
 
-    ASSERT_EQ(symlink("shared/trap", Name(u"own"_s)), 0);
+    ASSERT_EQ(symlink("public/trap", Name(u"own"_s)), 0);
     EXPECT_FALSE(ReplaceFile(InFolder(u"own"_s), "taken")) << "nor one that an own link leads to";
     EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "kept");
 }
 
 TEST_F(SharedFolder, AnOwnLinkIsFollowed)
 {
-    Link("../victim", u"shared/own"_s, 0);
-    EXPECT_TRUE(ReplaceFile(InFolder(u"shared/own"_s), "by the user's own"));
+    Link("../victim", u"public/own"_s, 0);
+    EXPECT_TRUE(ReplaceFile(InFolder(u"public/own"_s), "by the user's own"));
     EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "by the user's own");
 }
 
 TEST_F(SharedFolder, SomebodyElsesFolderIsOneWhateverItsRights)
 {
-    ASSERT_EQ(chown(Name(u"shared"_s), nobody, nobody), 0);
-    ASSERT_EQ(chmod(Name(u"shared"_s), 0755), 0);
-    Link("../victim", u"shared/owners"_s, nobody);
-    EXPECT_FALSE(ReplaceFile(InFolder(u"shared/owners"_s), "taken"));
+    ASSERT_EQ(chown(Name(u"public"_s), nobody, nobody), 0);
+    ASSERT_EQ(chmod(Name(u"public"_s), 0755), 0);
+    Link("../victim", u"public/owners"_s, nobody);
+    EXPECT_FALSE(ReplaceFile(InFolder(u"public/owners"_s), "taken"));
     EXPECT_EQ(BytesOf(InFolder(u"victim"_s)), "kept");
 }
 

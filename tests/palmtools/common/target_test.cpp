@@ -28,11 +28,11 @@ constexpr uid_t root = 0, ordinary = 65534, other = 65533; // the second is who 
 void LayLink(const OwnerRow &row)
 {
     WriteContent("a.ro", "before");
-    fs::create_directory("shared");
-    fs::create_symlink("../a.ro", "shared/link.ro");
-    ASSERT_EQ(lchown("shared/link.ro", row.link, 0), 0);
-    ASSERT_EQ(chown("shared", row.folder, 0), 0);
-    ASSERT_EQ(chmod("shared", row.mode), 0);
+    fs::create_directory("public");
+    fs::create_symlink("../a.ro", "public/link.ro");
+    ASSERT_EQ(lchown("public/link.ro", row.link, 0), 0);
+    ASSERT_EQ(chown("public", row.folder, 0), 0);
+    ASSERT_EQ(chmod("public", row.mode), 0);
 }
 
 const std::string refusal = "cannot be written: the link is neither yours nor root's";
@@ -55,7 +55,7 @@ TEST(Target, OfRootIsNotWhereOthersCouldHaveLaidALink)
         SCOPED_TRACE(row.what);
         const TemporaryFolder folder;
         LayLink(row);
-        const auto error = ReplaceFile("shared/link.ro", "after");
+        const auto error = ReplaceFile("public/link.ro", "after");
         EXPECT_EQ(ContentOf("a.ro"), row.isFollowed ? "after" : "before");
         EXPECT_EQ(error ? error->text : "", row.isFollowed ? "" : refusal);
     }
@@ -81,9 +81,9 @@ TEST(Target, OfAnOrdinaryUserIsNotWhereOthersCouldHaveLaidALink)
         const TemporaryFolder folder;
         LayLink(row);
         const AsOrdinaryUser user;
-        const auto target = TargetOf("shared/link.ro");
+        const auto target = TargetOf("public/link.ro");
         EXPECT_EQ(target ? target->path.string() : target.error().text,
-                  row.isFollowed ? "shared/../a.ro" : refusal);
+                  row.isFollowed ? "public/../a.ro" : refusal);
     }
 }
 
