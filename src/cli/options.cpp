@@ -31,13 +31,6 @@ Result<QString> CheckedIdentifier(const QString &identifier)
     return identifier.toUpper();
 }
 
-Result<QString> CheckedProgram(const QString &path)
-{
-    if (path.isEmpty())
-        return Error{u"A program's path is empty."_s};
-    return path;
-}
-
 Result<QString> CheckedTimeout(const QString &seconds)
 {
     const int number = seconds.toInt(); // 0 where it is no number
@@ -64,12 +57,12 @@ constexpr OptionRow rows[] = {
      .name = "pilrc"_L1,
      .valueName = "PATH"_L1,
      .help = "the program to compile with; vellumo does it itself otherwise"_L1,
-     .check = CheckedProgram},
+     .check = CheckedName},
     {.option = Option::Builder,
      .name = "build-prc"_L1,
      .valueName = "PATH"_L1,
      .help = "the program to build databases with, likewise"_L1,
-     .check = CheckedProgram},
+     .check = CheckedName},
     {.option = Option::Timeout,
      .name = "timeout"_L1,
      .valueName = "SECONDS"_L1,
