@@ -32,6 +32,7 @@ HelpWindow::HelpWindow(HelpFile file, std::function<void(const QString &)> openL
     ui->txtPage->SetFile(m_file);
     SetActions();
     FillContents();
+    ShowFocusAlways(*this);
     CentreOnScreen(*this);
     ShareRoom();
 

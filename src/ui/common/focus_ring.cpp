@@ -38,11 +38,30 @@ protected:
     }
 };
 
+/// The toolkit forgets the wish whenever the window is shown.
+class FocusWish : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *window, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            static_cast<QWidget *>(window)->setAttribute(Qt::WA_KeyboardFocusChange);
+        return false;
+    }
+};
+
 } // namespace
 
 void RingWhenFocused(QWidget *widget)
 {
     new Ring(widget);
+}
+
+void ShowFocusAlways(QWidget &window)
+{
+    window.installEventFilter(new FocusWish(&window));
 }
 
 } // namespace vellumo

@@ -8,4 +8,8 @@ namespace vellumo {
 /// entry alone: one that is empty would not show it.
 void RingWhenFocused(QWidget *widget);
 
+/// Lets every control of a window show the focus from the start. Styles do so of their own accord
+/// only after Tab, but the keys act upon what has it before.
+void ShowFocusAlways(QWidget &window);
+
 } // namespace vellumo

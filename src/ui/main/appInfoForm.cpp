@@ -2,6 +2,7 @@
 
 #include "help/help_topics.h"
 #include "model/project_file.h"
+#include "ui/common/focus_ring.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
 #include "ui/common/stray_input.h"
@@ -45,6 +46,7 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
       m_steps{m_info, m_questions, m_data, m_complete}
 {
     ui->setupUi(this);
+    ShowFocusAlways(*this);
     CentreOnScreen(*this);
     AddSteps();
     ConnectSteps();

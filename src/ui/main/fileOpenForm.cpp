@@ -1,5 +1,6 @@
 #include "ui/main/fileOpenForm.h"
 
+#include "ui/common/focus_ring.h"
 #include "ui/common/screen_centre.h"
 #include "ui_fileOpenForm.h"
 
@@ -22,6 +23,7 @@ fileOpenForm::fileOpenForm(QString projectsFolder, std::function<void()> hideOpe
     ui->imgWelcome->SetPicture(Drawing::Welcome);
     ui->Option1_0->installEventFilter(this);
     ui->Option1_1->installEventFilter(this);
+    ShowFocusAlways(*this);
     CentreOnScreen(*this);
 
     connect(ui->Option1_1, &QRadioButton::toggled, this, &fileOpenForm::ShowFileName);

@@ -6,6 +6,7 @@
 #include "model/question_types.h"
 #include "model/texts.h"
 #include "ui/common/box_names.h"
+#include "ui/common/focus_ring.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
@@ -72,6 +73,7 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     ConnectControls();
     PlaceTypeLink();
     ui->lblWiz4_1->setText(LongestIntroduction());
+    ShowFocusAlways(*this);
     CentreOnScreen(*this); // first: it is as large as its largest step
     ShowStep();
 }

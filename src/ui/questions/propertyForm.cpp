@@ -4,6 +4,7 @@
 #include "help/help_topics.h"
 #include "model/question_types.h"
 #include "ui/common/box_names.h"
+#include "ui/common/focus_ring.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
@@ -78,7 +79,8 @@ propertyForm::~propertyForm() = default;
 void propertyForm::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous())
-        CentreOnScreen(*this);
+        ShowFocusAlways(*this);
+    CentreOnScreen(*this);
     QDialog::showEvent(event);
 }
 

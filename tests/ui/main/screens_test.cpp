@@ -182,7 +182,6 @@ void ExpectLinkOverWords(const QWidget &window)
 
 void ExpectFocusSeen(const QWidget &window)
 {
-    QTest::keyClick(const_cast<QWidget *>(&window), Qt::Key_Tab); // by keys from now on
     for (auto *widget : Shown<QWidget>(window)) {
         if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled() || widget->focusProxy())
             continue;
