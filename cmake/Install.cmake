@@ -19,6 +19,14 @@ foreach(program vellumo vellumo-designer)
     install(FILES ${CMAKE_BINARY_DIR}/links/${program} DESTINATION ${CMAKE_INSTALL_BINDIR})
 endforeach()
 
+install(FILES ${CMAKE_BINARY_DIR}/manual/vellumo.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${CMAKE_BINARY_DIR}/manual/vellumo.bash RENAME vellumo
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${CMAKE_BINARY_DIR}/manual/_vellumo
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${CMAKE_BINARY_DIR}/manual/vellumo.fish
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+
 # As they lie in the source, so that their links hold, too.
 install(FILES CHANGELOG.md CONTRIBUTING.md LICENSE README.md SECURITY.md
     DESTINATION ${document_folder})

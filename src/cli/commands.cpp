@@ -194,6 +194,11 @@ QStringList CommandNames()
     return names;
 }
 
+QString ExitStatuses()
+{
+    return exits;
+}
+
 QString HelpText()
 {
     QString text = head;

@@ -25,6 +25,9 @@ const Command *CommandNamed(const QString &name);
 /// Their names, likewise.
 QStringList CommandNames();
 
+/// What each exit status means, in lines of the help.
+QString ExitStatuses();
+
 /// What --help prints, and what it prints of one command alone.
 QString HelpText();
 QString HelpText(const Command &command);

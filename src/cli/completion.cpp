@@ -1,0 +1,186 @@
+#include "cli/commands.h"
+#include "cli/manual.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+/// The first sentence of a help, on one line.
+QString Brief(const QString &help)
+{
+    return QString(help).replace(u'\n', u' ').section(u". "_s, 0, 0).section(u';', 0, 0).trimmed();
+}
+
+/// Whether the value of an option is the name of a file or folder.
+bool TakesFile(const OptionRow &row)
+{
+    const QString value = row.valueName;
+    return row.option != Option::Column && (value == "NAME"_L1 || value == "PATH"_L1 ||
+                                            value == "PROJECT"_L1 || value == "FILE"_L1);
+}
+
+QStringList Words(const OptionRow &row)
+{
+    QStringList words = {"--"_L1 + row.name};
+    if (!row.letter.isEmpty())
+        words.prepend(u'-' + row.letter);
+    return words;
+}
+
+QList<OptionRow> OptionsOf(const Command &command)
+{
+    QList<OptionRow> rows;
+    for (const OptionRow &row : OptionRows())
+        if ((command.shape.options | everywhere).testFlag(row.option))
+            rows += row;
+    return rows;
+}
+
+/// The words of options whose values are, or are not, names of files.
+QStringList WordsWithValues(bool files)
+{
+    QStringList words;
+    for (const OptionRow &row : OptionRows())
+        if (!row.valueName.isEmpty() && TakesFile(row) == files)
+            words += Words(row);
+    return words;
+}
+
+QString BashCase(const Command &command)
+{
+    QStringList words;
+    for (const OptionRow &row : OptionsOf(command))
+        words += Words(row);
+    return u"    %1:-*) words='%2' ;;\n"_s.arg(command.name, words.join(u' '));
+}
+
+constexpr auto bash = R"(# Completion of vellumo for bash.
+_vellumo()
+{
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local command='' words='' word
+    COMPREPLY=()
+    case $previous in
+    %1) return ;;
+    %2)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+        return
+        ;;
+    esac
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        case $word in
+        %3)
+            command=$word
+            break
+            ;;
+        esac
+    done
+    case $command:$current in
+    :-*) words='--help --version' ;;
+    :* | help:*) words='%4' ;;
+%5    *)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+        return
+        ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+}
+complete -F _vellumo vellumo
+)"_L1;
+
+/// In single quotes of zsh, where a colon ends the name.
+QString ZshText(const QString &text)
+{
+    return QString(text)
+        .replace(u"'"_s, u"'\\''"_s)
+        .replace(u":"_s, u"\\:"_s)
+        .replace(u'[', u"\\["_s)
+        .replace(u']', u"\\]"_s);
+}
+
+QString ZshOptions(const Command &command)
+{
+    QString options;
+    for (const OptionRow &row : OptionsOf(command))
+        for (const QString &word : Words(row)) {
+            const QString value = row.valueName.isEmpty()
+                                      ? QString()
+                                      : u":%1:%2"_s.arg(QString(row.valueName).toLower(),
+                                                        TakesFile(row) ? "_files"_L1 : " "_L1);
+            options +=
+                u" \\\n                '%1[%2]%3'"_s.arg(word, ZshText(Brief(row.help)), value);
+        }
+    return options;
+}
+
+/// In single quotes of fish.
+QString FishText(const QString &text)
+{
+    return QString(text).replace(u'\\', u"\\\\"_s).replace(u"'"_s, u"\\'"_s);
+}
+
+QString FishOption(const Command &command, const OptionRow &row)
+{
+    QString line = u"complete -c vellumo -n '__fish_seen_subcommand_from %1' -l %2"_s.arg(
+        command.name, row.name);
+    if (!row.letter.isEmpty())
+        line += " -s "_L1 + row.letter;
+    if (!row.valueName.isEmpty())
+        line += TakesFile(row) ? " -r -F"_L1 : " -x"_L1;
+    return line + u" -d '%1'\n"_s.arg(FishText(Brief(row.help)));
+}
+
+} // namespace
+
+QByteArray BashCompletion()
+{
+    const QStringList names = CommandNames() + QStringList{u"help"_s};
+    QString cases;
+    for (const Command &command : Commands())
+        cases += BashCase(command);
+    return QString(bash)
+        .arg(WordsWithValues(false).join(" | "_L1), WordsWithValues(true).join(" | "_L1),
+             names.join(" | "_L1), names.join(u' '), cases)
+        .toUtf8();
+}
+
+QByteArray ZshCompletion()
+{
+    QString text = u"#compdef vellumo\n# Completion of vellumo for zsh.\n_vellumo()\n{\n"
+                   "    local -a commands\n    commands=(\n"_s;
+    for (const Command &command : Commands())
+        text += u"        '%1:%2'\n"_s.arg(command.name, ZshText(Brief(command.help)));
+    text += u"        'help:Tells of a command'\n    )\n"
+            "    _arguments -C '--help[tells all commands]' '--version[tells the version]' \\\n"
+            "        '1:command:->command' '*::name:->names'\n"
+            "    case $state in\n    command) _describe command commands ;;\n    names)\n"
+            "        case $words[1] in\n        help) _describe command commands ;;\n"_s;
+    for (const Command &command : Commands())
+        text += u"        %1)\n            _arguments%2 \\\n                '*:name:_files'\n"
+                "            ;;\n"_s.arg(command.name, ZshOptions(command));
+    text += "        esac\n        ;;\n    esac\n}\n_vellumo \"$@\"\n"_L1;
+    return text.toUtf8();
+}
+
+QByteArray FishCompletion()
+{
+    QString text =
+        u"# Completion of vellumo for fish.\n"
+        "complete -c vellumo -n __fish_use_subcommand -f -l help -d 'Tells all commands'\n"
+        "complete -c vellumo -n __fish_use_subcommand -f -l version -d 'Tells the version'\n"
+        "complete -c vellumo -n __fish_use_subcommand -f -a help -d 'Tells of a command'\n"
+        "complete -c vellumo -n '__fish_seen_subcommand_from help' -f -a '%1'\n"_s.arg(
+            CommandNames().join(u' '));
+    for (const Command &command : Commands()) {
+        text += u"complete -c vellumo -n __fish_use_subcommand -f -a %1 -d '%2'\n"_s.arg(
+            command.name, FishText(Brief(command.help)));
+        for (const OptionRow &row : OptionsOf(command))
+            text += FishOption(command, row);
+    }
+    return text.toUtf8();
+}
+
+} // namespace vellumo

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# completion_test.sh VELLUMO MANUAL: asks the shells that are there what they complete after some words,
+# and formats the manual page without a warning. MANUAL is the folder of both.
+set -euo pipefail
+
+vellumo=$1 manual=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+touch 'one form.vmp'
+commands=$("$vellumo" --help | sed -n 's/^  vellumo \([a-z]*\) .*/\1/p')
+
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# after WORD...: what bash completes the last of the words to, a line each.
+after() {
+    COMP_WORDS=(vellumo "$@")
+    COMP_CWORD=$#
+    _vellumo 2>/dev/null # compopt wants a completion that runs
+    printf '%s\n' "${COMPREPLY[@]}"
+}
+# shellcheck disable=SC1091
+. "$manual/vellumo.bash"
+for command in $commands; do
+    after "$command" | grep -qx "$command" || fail "bash does not know $command"
+done
+[ "$(after cr)" = create ] || fail 'bash does not complete cr'
+after create --q | grep -qx -- --quiet || fail 'bash does not complete --q'
+after review --gu | grep -q guid && fail 'bash completes an option that review does not take'
+[ "$(after create on)" = 'one form.vmp' ] || fail 'bash does not complete a name with a blank'
+[ "$(after create --output on)" = 'one form.vmp' ] || fail 'bash does not complete the name after --output'
+
+for shell in zsh fish; do
+    if ! command -v $shell >/dev/null; then
+        echo "Not asked: $shell is not installed."
+    elif [ $shell = fish ]; then
+        [ "$(fish -c "source $manual/vellumo.fish; complete -C 'vellumo cr'" | cut -f 1)" = create ] ||
+            fail 'fish does not complete cr'
+        fish -c "source $manual/vellumo.fish; complete -C 'vellumo review --str'" | grep -q -- --strict ||
+            fail 'fish does not complete --str'
+    else
+        zsh -fn "$manual/_vellumo" || fail 'zsh cannot read its completion'
+    fi
+done
+
+if command -v groff >/dev/null; then
+    warnings=$(groff -man -Tutf8 -ww -z "$manual/vellumo.1" 2>&1)
+    [ -z "$warnings" ] || fail "$warnings"
+    page=$(groff -man -Tascii -P -cbou "$manual/vellumo.1")
+    for command in $commands; do
+        grep -q "^ *vellumo $command" <<<"$page" || fail "the page lacks $command"
+    done
+fi
