@@ -49,6 +49,7 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
 {
     NameComboBoxes(); // first: what a box is to others is settled when it is set up
     ui->setupUi(this);
+    ShowFocusAlways(*this);
     ui->lblSelections->setBuddy(ui->items->List());
     ui->txtQuestion->setFixedHeight(HeightOf(3, *ui->txtQuestion));
     ui->items->Configure(propertyItemList, {.list = u"lstSelection"_s,
@@ -79,8 +80,7 @@ propertyForm::~propertyForm() = default;
 void propertyForm::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous())
-        ShowFocusAlways(*this);
-    CentreOnScreen(*this);
+        CentreOnScreen(*this);
     QDialog::showEvent(event);
 }
 
