@@ -2,6 +2,7 @@
 
 #include "editing/question_columns.h"
 #include "exchange/list_cell.h"
+#include "exchange/storable_text.h"
 #include "model/form_fields.h"
 
 #include <QSet>
@@ -20,6 +21,8 @@ template <FormField field> QString WriteField(const Project &project)
 
 template <FormField field> Outcome TakeField(SheetForm &form, const QString &cell)
 {
+    if (const QString objection = ObjectionToStoring(cell); !objection.isEmpty())
+        return Error{objection};
     form.project.*RowOf(field).text = WithLineFeeds(cell);
     return done;
 }
@@ -51,6 +54,9 @@ Outcome TakeTitles(SheetForm &form, const QString &cell)
     Result<QStringList> titles = ReadList(cell);
     if (!titles)
         return titles.error();
+    for (const QString &title : *titles)
+        if (const QString objection = ObjectionToStoring(title); !objection.isEmpty())
+            return Error{objection};
     if (!titles->isEmpty())
         form.project.TitleList = std::move(*titles);
     return done;

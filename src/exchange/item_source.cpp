@@ -5,6 +5,7 @@
 #include "exchange/csv.h"
 #include "exchange/csv_text.h"
 #include "exchange/list_cell.h"
+#include "exchange/storable_text.h"
 
 #include <algorithm>
 #include <optional>
@@ -94,6 +95,8 @@ QList<Refusal> AddItems(ItemList &items, const ItemRules &rules, const QList<New
     QList<Refusal> refusals;
     for (const auto &[row, text] : added) {
         QString refusal = rules.count.Objection(items.Items().size() + 1);
+        if (refusal.isEmpty())
+            refusal = ObjectionToStoring(text);
         if (refusal.isEmpty())
             refusal = PutItem(items, text);
         if (!refusal.isEmpty())

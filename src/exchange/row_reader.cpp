@@ -3,6 +3,7 @@
 #include "editing/pasted_items.h"
 #include "exchange/form_rows.h"
 #include "exchange/list_cell.h"
+#include "exchange/storable_text.h"
 #include "model/limits.h"
 #include "model/question_types.h"
 
@@ -26,7 +27,7 @@ public:
         m_read.id = Number(idCaption);
         m_read.order = Number(orderCaption);
         m_read.question = {.title = Line(QuestionColumn::Title),
-                           .question = WithLineFeeds(Cell(QuestionColumn::Text)),
+                           .question = WithLineFeeds(Storable(QuestionColumn::Text)),
                            .type = TypeCalled(Cell(QuestionColumn::Type)),
                            .columnName = Line(QuestionColumn::ColumnName)};
         ReadItems();
@@ -54,10 +55,19 @@ private:
         return {};
     }
 
+    /// A text of the project.
+    QString Storable(QuestionColumn column)
+    {
+        QString text = Cell(column);
+        if (const QString objection = ObjectionToStoring(text); !objection.isEmpty())
+            Refuse(CaptionOf(column), objection);
+        return text;
+    }
+
     /// A text that the designer asks for in a box of one line.
     QString Line(QuestionColumn column)
     {
-        QString text = Cell(column);
+        QString text = Storable(column);
         const auto isBreak = [](QChar c) { return lineBreaks.characters.contains(c); };
         if (std::ranges::any_of(text, isBreak))
             Refuse(CaptionOf(column), lineBreaks.message);
@@ -84,7 +94,9 @@ private:
         ItemList list;
         // One more than a list can have is enough for its rule.
         for (const QString &item : items.first(std::min(items.size(), pulldownLimit.most + 1))) {
-            const QString refusal = item.isEmpty() ? u"It is empty."_s : PutItem(list, item);
+            QString refusal = item.isEmpty() ? u"It is empty."_s : ObjectionToStoring(item);
+            if (refusal.isEmpty())
+                refusal = PutItem(list, item);
             if (!refusal.isEmpty())
                 return u"Item %1: "_s.arg(list.Items().size() + 1) + refusal;
         }

@@ -32,10 +32,10 @@ public:
         for (const SheetQuestion &question : questions) {
             if (const QString full = RefusalWhenFull(Source()); !full.isEmpty()) {
                 m_import.refusals.append({question.row, {}, full});
-                m_import.leftOut = questions.size() - m_import.added;
-                break;
+                ++m_import.leftOut;
+            } else {
+                Add(question);
             }
-            Add(question);
         }
         Source().MoveFirst();
         return std::move(m_import);

@@ -94,7 +94,7 @@ TEST_F(ImportCommand, AppendsToAProject)
     EXPECT_EQ(Run({u"import"_s, Sheet(), u"--into"_s, project}), 0);
     EXPECT_EQ(Out(), u"2 questions were imported.\n"_s);
     EXPECT_EQ(Names(project), (QStringList{u"a"_s, u"a(1)"_s, u"b"_s}));
-    EXPECT_EQ(Run({u"import"_s, u"-"_s, u"--into"_s, project}, heading + "a\x01,Text,c,"), 5);
+    EXPECT_EQ(Run({u"import"_s, u"-"_s, u"--into"_s, project}, heading + "a\x01,Text,c,"), 1);
     EXPECT_EQ(Names(project).size(), 3);
 }
 
@@ -149,13 +149,26 @@ TEST_F(ImportCommand, RefusesWhatIsNoSheet)
     EXPECT_EQ(Run({u"export"_s, u"--csv"_s, Sheet()}), 3);
 }
 
+TEST_F(ImportCommand, RefusesCellsThatAProjectCannotHold)
+{
+    const QByteArray rows = heading + "\xCE\xA9?,Text,a,\nWhat?,Text,b,\n]]>?,Text,c,\n"
+                                      "Which?,Checkboxes,d,\"x\ny\x02\"\n";
+    EXPECT_EQ(Import(rows), 1);
+    EXPECT_EQ(Err(),
+              Complaint(u"Row 2, Question: It has the character 'Ω' (U+03A9), which "
+                        "windows-1252 does not have."_s) +
+                  Complaint(u"Row 4, Question: It has \"]]>\", which ends a text in a project "
+                            "file."_s) +
+                  Complaint(u"Row 5, Items: Item 2: It has the control character U+0002, which no "
+                            "project file can have."_s) +
+                  Complaint(u"Nothing was written. With --skip the rest will be."_s));
+    EXPECT_FALSE(QFile::exists(Output()));
+    EXPECT_EQ(Import(rows, {u"--skip"_s}), 0);
+    EXPECT_EQ(Names(Output()), QStringList{u"b"_s});
+}
+
 TEST_F(ImportCommand, RefusesWhatCannotBeWritten)
 {
-    EXPECT_EQ(Import(heading + "\xCE\xA9?,Text,a,\n"), 5);
-    EXPECT_EQ(Err(), Complaint(u"The question text of question 1 has the character 'Ω' (U+03A9), "
-                               "which windows-1252 does not have."_s));
-    EXPECT_EQ(Import(heading + "]]>?,Text,a,\n"), 5);
-    EXPECT_FALSE(QFile::exists(Output()));
     EXPECT_EQ(Import(heading, {u"-o"_s, InFolder(u"no/such/folder"_s)}), 5);
 }
 
