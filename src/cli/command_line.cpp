@@ -17,16 +17,38 @@ bool IsOption(const QString &word)
     return word.startsWith(u'-') && word.size() > 1;
 }
 
+const OptionRow *RowOfLetter(QChar letter)
+{
+    const auto found = std::ranges::find_if(OptionRows(), [letter](const OptionRow &row) {
+        return !row.letter.isEmpty() && letter == row.letter.front();
+    });
+    return found == OptionRows().end() ? nullptr : &*found;
+}
+
+/// The letters of a word such as "-qo"; what follows one that takes a value is that.
+QStringView LettersOf(QStringView word)
+{
+    if (!IsOption(word.toString()) || word.startsWith("--"_L1))
+        return {};
+    const QStringView letters = word.sliced(1);
+    for (qsizetype i = 0; i < letters.size(); ++i)
+        if (const OptionRow *row = RowOfLetter(letters[i]); !row || !row->valueName.isEmpty())
+            return letters.first(row ? i + 1 : i);
+    return letters;
+}
+
 bool Asks(const QString &word, const OptionRow &row)
 {
-    return word == "--"_L1 + row.name || (!row.letter.isEmpty() && word == u'-' + row.letter);
+    return word == "--"_L1 + row.name ||
+           (!row.letter.isEmpty() && LettersOf(word).contains(row.letter));
 }
 
 /// Whether the next word belongs to this one.
 bool TakesNext(const QString &word)
 {
     return std::ranges::any_of(OptionRows(), [&](const OptionRow &row) {
-        return !row.valueName.isEmpty() && Asks(word, row);
+        return !row.valueName.isEmpty() && Asks(word, row) &&
+               (word.startsWith("--"_L1) || word.endsWith(row.letter));
     });
 }
 
@@ -46,7 +68,7 @@ QCommandLineOption ParserOption(const OptionRow &row)
 }
 
 /// What helps somebody whose words are not understood, to stand behind what is wrong with them.
-QString HintFor(const QStringList &words, const QCommandLineParser &parser)
+QString HintFor(const QStringList &words, const QCommandLineParser &parser, Options taken)
 {
     for (const QString &word : words) {
         if (word == "--"_L1)
@@ -56,7 +78,8 @@ QString HintFor(const QStringList &words, const QCommandLineParser &parser)
     }
     QStringList names = {u"help"_s, u"version"_s};
     for (const OptionRow &row : OptionRows())
-        names += row.name;
+        if (taken.testFlag(row.option))
+            names += row.name;
     for (const QString &unknown : parser.unknownOptionNames())
         if (const QString meant = NearMiss(unknown, names); !meant.isEmpty())
             return u" Did you mean '--%1'?"_s.arg(meant);
@@ -105,7 +128,7 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
             parser.addOption(ParserOption(row));
     // The parser takes the first word for the program's name.
     if (!parser.parse(QStringList{u"vellumo"_s} + words))
-        return Error{parser.errorText() + HintFor(words, parser)};
+        return Error{parser.errorText() + HintFor(words, parser, taken)};
 
     CommandLine line = {.inputs = parser.positionalArguments()};
     for (const OptionRow &row : OptionRows()) {

@@ -122,7 +122,8 @@ constexpr Command commands[] = {
              "question by question. The exit status is that of diff: 0 where there is no\n"
              "difference, 1 where there is one, 2 for any trouble; for git it is 0.\n"_L1,
      .shape = {.mostInputs = 9, .whichInput = whichProjects, .options = Option::Git},
-     .run = TellDifferences},
+     .run = TellDifferences,
+     .notWritten = Exit::WrongUse},
     {.name = "merge"_L1,
      .synopsis = "PROJECT PROJECT... [-o FILE]"_L1,
      .help = "Writes the first project with the questions of the others behind its own, to\n"

@@ -14,6 +14,7 @@ struct Command {
     QLatin1StringView help;     ///< what it does, in lines that fit a terminal
     CommandShape shape;
     Exit (*run)(const CommandLine &line, const Console &console);
+    Exit notWritten = Exit::NotWritten; ///< where standard output cannot be
 };
 
 /// In the order in which the help tells of them.

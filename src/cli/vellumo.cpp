@@ -83,9 +83,11 @@ int RunVellumo(const QStringList &words, Console console, const Outcome &typed)
     // What the stream still holds may meet a full disk only now.
     if (console.out.flush())
         return static_cast<int>(exit);
+    const qsizetype at = CommandAt(words);
+    const Command *command = at < 0 ? nullptr : CommandNamed(words[at]);
     console.json = false; // else the complaint would go where nothing can be written
     return static_cast<int>(
-        std::max(exit, Refuse(console, Exit::NotWritten,
+        std::max(exit, Refuse(console, command ? command->notWritten : Exit::NotWritten,
                               {u"Standard output cannot be written."_s, u"vellumo"_s})));
 }
 

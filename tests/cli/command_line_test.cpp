@@ -95,3 +95,22 @@ TEST(CommandLine, TakesOnlyTheOptionsOfTheCommand)
             << RefusalOf(words, nothing).toStdString();
     EXPECT_EQ(RefusalOf({u"a"_s, u"-o"_s}), u"Missing value after '-o'."_s);
 }
+
+TEST(CommandLine, FindsOptionsAmongLettersThatStandTogether)
+{
+    EXPECT_TRUE(AsksFor({u"-q"_s}, Option::Quiet));
+    EXPECT_TRUE(AsksFor({u"-qo"_s, u"out"_s}, Option::Quiet));
+    EXPECT_TRUE(AsksFor({u"-qo"_s, u"out"_s}, Option::Output));
+    EXPECT_FALSE(AsksFor({u"-oq"_s}, Option::Quiet)) << "it is the name";
+    EXPECT_FALSE(AsksFor({u"--"_s, u"-q"_s}, Option::Quiet));
+    EXPECT_EQ(CommandAt({u"-qo"_s, u"out"_s, u"create"_s}), 2);
+    EXPECT_EQ(CommandAt({u"-oout"_s, u"create"_s}), 1);
+}
+
+TEST(CommandLine, SuggestsOnlyWhatTheCommandTakes)
+{
+    const CommandShape nothing = {.whichInput = "Which one?"_L1};
+    EXPECT_EQ(RefusalOf({u"a"_s, u"--strict"_s}, nothing), u"Unknown option 'strict'."_s);
+    EXPECT_EQ(RefusalOf({u"a"_s, u"--jsn"_s}, nothing),
+              u"Unknown option 'jsn'. Did you mean '--json'?"_s);
+}
