@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -118,6 +119,20 @@ ItemList::Change ItemList::Move(const Rows &selection, qsizetype distance)
     const qsizetype place = std::clamp<qsizetype>(row + distance, 0, m_items.size() - 1);
     m_items.move(row, place);
     return {.selection = {place}};
+}
+
+ItemList::Change ItemList::MoveTo(const Rows &selection, qsizetype place)
+{
+    const QSet<qsizetype> leaving(selection.begin(), selection.end());
+    QStringList before;
+    QStringList moved;
+    QStringList after;
+    for (qsizetype row = 0; row < m_items.size(); ++row)
+        (leaving.contains(row) ? moved : row < place ? before : after) += m_items[row];
+    m_items = before + moved + after;
+    Rows rows(moved.size());
+    std::iota(rows.begin(), rows.end(), before.size());
+    return {.selection = rows};
 }
 
 void ItemList::Sort()

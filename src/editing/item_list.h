@@ -56,6 +56,9 @@ public:
     Change Move(const Rows &selection, qsizetype distance);
     Change MoveUp(const Rows &selection) { return Move(selection, -1); }
     Change MoveDown(const Rows &selection) { return Move(selection, +1); }
+    /// Moves the selected entries, in their order, before the one that is now at this place, 0 to
+    /// their number.
+    Change MoveTo(const Rows &selection, qsizetype place);
     void Clear() { m_items.clear(); }
     /// Sorts by character code, the first time upwards, then downwards, and so on in turn. An
     /// empty list takes no turn.

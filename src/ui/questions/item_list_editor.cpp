@@ -31,15 +31,16 @@ ItemListEditor::ItemListEditor(QWidget *parent)
 
     connect(ui->add, &QPushButton::clicked, this, &ItemListEditor::AddItem);
     connect(ui->remove, &QPushButton::clicked, this, &ItemListEditor::RemoveItems);
-    connect(ui->up, &QPushButton::clicked, this, [this] { MoveItem(Selection(), -1); });
-    connect(ui->down, &QPushButton::clicked, this, [this] { MoveItem(Selection(), +1); });
+    connect(ui->up, &QPushButton::clicked, this, [this] { MoveItem(-1); });
+    connect(ui->down, &QPushButton::clicked, this, [this] { MoveItem(+1); });
     connect(ui->cmd_sort, &QPushButton::clicked, this, &ItemListEditor::SortItems);
     connect(ui->cmd_Clear, &QPushButton::clicked, this, &ItemListEditor::ClearItems);
     connect(ui->cmd_AddState, &QPushButton::clicked, this, [this] { AddNames(StateNames()); });
     connect(ui->cmd_AddCountry, &QPushButton::clicked, this, [this] { AddNames(CountryNames()); });
 
     ConnectKeys();
-    new RowDragging(ui->list, [this](int from, int to) { MoveItem({from}, to - from); });
+    new RowDragging(ui->list,
+                    [this](int, int gap) { ShowMoved(m_items.MoveTo(Selection(), gap)); });
 }
 
 ItemListEditor::~ItemListEditor() = default;
@@ -55,7 +56,7 @@ void ItemListEditor::ConnectKeys()
     call({Qt::ALT | Qt::Key_Up}, [this] { ui->up->click(); });
     call({Qt::ALT | Qt::Key_Down}, [this] { ui->down->click(); });
     for (const MoveKey &move : moveKeys)
-        call({move.key}, [this, move] { MoveItem(Selection(), move.distance); });
+        call({move.key}, [this, move] { MoveItem(move.distance); });
     call(QKeySequence::keyBindings(QKeySequence::Copy), [this] { CopyItems(); });
     call(QKeySequence::keyBindings(QKeySequence::Cut), [this] { CutItems(); });
     call(QKeySequence::keyBindings(QKeySequence::Paste), [this] { PasteLines(); });
@@ -116,9 +117,13 @@ void ItemListEditor::RemoveItems()
     ShowAll(change.selection, std::min(std::ranges::min(selection), last));
 }
 
-void ItemListEditor::MoveItem(const ItemList::Rows &rows, qsizetype distance)
+void ItemListEditor::MoveItem(qsizetype distance)
 {
-    const ItemList::Change change = m_items.Move(rows, distance);
+    ShowMoved(m_items.Move(Selection(), distance));
+}
+
+void ItemListEditor::ShowMoved(const ItemList::Change &change)
+{
     if (!change.refusal.isEmpty())
         return ShowRefusal(change.refusal);
     ShowAll(change.selection, change.selection.first());

@@ -46,7 +46,8 @@ private:
     void AddItem();
     void AddNames(const QStringList &names);
     void RemoveItems();
-    void MoveItem(const ItemList::Rows &rows, qsizetype distance);
+    void MoveItem(qsizetype distance);
+    void ShowMoved(const ItemList::Change &change);
     bool CopyItems();
     void CutItems();
     void PasteLines();

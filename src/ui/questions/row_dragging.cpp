@@ -99,10 +99,9 @@ bool RowDragging::Release()
     const bool wasDragged = m_line->isVisible();
     const int from = m_from;
     const int gap = GapAt(m_place);
-    const int to = gap > from ? gap - 1 : gap;
     Stop();
-    if (wasDragged && to != from)
-        m_dropped(from, to);
+    if (wasDragged && gap != from && gap != from + 1)
+        m_dropped(from, gap);
     return wasDragged;
 }
 

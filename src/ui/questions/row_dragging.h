@@ -11,15 +11,16 @@ class QWidget;
 
 namespace vellumo {
 
-/// Lets the rows of a list be dragged with the left mouse button, one at a time. A line shows where
-/// the row would go, Esc gives up, and beyond an edge the list scrolls.
+/// Lets the rows of a list be dragged with the left mouse button. A line shows where they would go,
+/// Esc gives up, and beyond an edge the list scrolls.
 class RowDragging : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The row was let go where it becomes another one; moving it is the receiver's.
-    using Dropped = std::function<void(int from, int to)>;
+    /// The row that was held was let go before that of the number `gap`, and not where it is. What
+    /// moves, and moving it, is the receiver's.
+    using Dropped = std::function<void(int from, int gap)>;
 
     /// Belongs to the view, which has its model by now.
     RowDragging(QAbstractItemView *view, Dropped dropped);

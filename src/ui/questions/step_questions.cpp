@@ -69,10 +69,10 @@ void StepQuestions::ConnectGrid()
             &StepQuestions::FollowGrid);
     connect(ui->DataGrid1, &QTableView::clicked, this, &StepQuestions::RefreshAfterClick);
     connect(ui->DataGrid1, &QTableView::doubleClicked, this, &StepQuestions::Edit);
-    KeepCurrentRowSelected(*ui->DataGrid1);
-    new RowDragging(ui->DataGrid1, [this](int from, int to) {
+    KeepCurrentRowSelectedAndSeen(*ui->DataGrid1);
+    new RowDragging(ui->DataGrid1, [this](int from, int gap) {
         document().source().SetPosition(from);
-        Move(to - from);
+        Move(gap - (gap > from ? from + 1 : from));
     });
     connect(&document(), &ProjectDocument::QuestionsChanged, this,
             &StepQuestions::SelectCurrentRow);

@@ -66,6 +66,30 @@ TEST(ItemListMoving, FollowsTheMouse)
     }
 }
 
+TEST(ItemListMoving, TakesAllThatAreSelected)
+{
+    const struct {
+        const char *what;
+        int from, gap;
+        QString order;
+    } rows[] = {{"down, held at the first", 2, 9, u"0134782569"_s},
+                {"up, held at the last", 6, 1, u"0256134789"_s},
+                {"to where one of them was", 6, 5, u"0134256789"_s},
+                {"among themselves", 5, 4, u"0132564789"_s}};
+    for (const auto &row : rows) {
+        Desk desk(wizard);
+        desk.editor.resize(400, 600);
+        desk.editor.SetItems(Numbered(10));
+        for (const int chosen : {2, 5, 6})
+            desk.Pick(chosen, chosen == 2 ? Qt::NoModifier : Qt::ControlModifier);
+        const Dragging drag(desk.editor.List(), row.from, row.gap);
+        drag.LetGo();
+        EXPECT_EQ(Order(desk), row.order) << row.what;
+        EXPECT_EQ(desk.Selected(), (QStringList{u"Item 2"_s, u"Item 5"_s, u"Item 6"_s}))
+            << row.what;
+    }
+}
+
 TEST(ItemListMoving, IsGivenUpByEsc)
 {
     Desk desk(wizard);
