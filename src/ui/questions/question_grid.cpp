@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTableView>
 
 namespace vellumo {
@@ -59,13 +60,17 @@ void LayOutColumns(QTableView &grid)
     new QuestionWidth(grid);
 }
 
-void KeepCurrentRowSelected(QTableView &grid)
+void KeepCurrentRowSelectedAndSeen(QTableView &grid)
 {
     QItemSelectionModel *selection = grid.selectionModel();
     QObject::connect(selection, &QItemSelectionModel::selectionChanged, &grid, [&grid, selection] {
         if (!selection->hasSelection() && grid.currentIndex().isValid())
             grid.selectRow(grid.currentIndex().row());
     });
+    // What stands below the preview takes some of the grid's height, which it has only afterwards.
+    QObject::connect(
+        grid.verticalScrollBar(), &QScrollBar::rangeChanged, &grid,
+        [&grid] { grid.scrollTo(grid.currentIndex()); }, Qt::QueuedConnection);
 }
 
 } // namespace vellumo

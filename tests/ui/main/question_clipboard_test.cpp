@@ -55,6 +55,18 @@ TEST(QuestionClipboard, GivesTheCopyAFreeName)
     EXPECT_FALSE(designer.ProjectChanged());
 }
 
+TEST(QuestionClipboard, ShowsThePastedRowWhole)
+{
+    const Questions designer(40);
+    Clipboard().setText(u"A\tWhat Ω?\tText\tc"_s); // of which is warned below the preview
+    Press(Qt::Key_V);
+    EXPECT_EQ(designer.Row(), 40);
+    const QTableView &grid = *designer.Grid();
+    const auto place = [&grid] { return grid.visualRect(grid.currentIndex().siblingAtColumn(0)); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return grid.viewport()->rect().contains(place()); }))
+        << place().top() << " to " << place().bottom() << " of " << grid.viewport()->height();
+}
+
 TEST(QuestionClipboard, GoesOutAsATable)
 {
     const Questions designer(2, 1, u"Pulldown List"_s, 2);
@@ -92,8 +104,9 @@ TEST(QuestionClipboard, TellsInOneBoxWhatIsRefused)
     ASSERT_EQ(prompts.boxes().size(), 1u);
     const SeenBox &box = prompts.boxes()[0];
     EXPECT_EQ(box.icon, QMessageBox::Warning);
-    EXPECT_TRUE(box.text.startsWith(u"Not added:\nRow 3: Please enter a question.\nRow 4: "_s));
-    EXPECT_TRUE(box.text.endsWith(u"\nRow 12: Please enter a question.\nand 2 more."_s));
+    EXPECT_TRUE(
+        box.text.startsWith(u"Not added:\nRow 3, Question: Please enter a question.\nRow 4, "_s));
+    EXPECT_TRUE(box.text.endsWith(u"\nRow 12, Question: Please enter a question.\nand 2 more."_s));
     EXPECT_EQ(designer.ColumnNames(), (QStringList{u"q1"_s, u"who"_s}));
 }
 
