@@ -53,7 +53,7 @@ CopiedQuestion QuestionOf(const QStringList &cells, const Places &places)
     QStringList lines;
     for (const QString &item : cell(Items).split(u'|'))
         lines += OneLine(item);
-    copied.objection = PutItems(question.items, LinesOf(lines.join(u'\n')));
+    copied.itemsObjection = PutItems(question.items, LinesOf(lines.join(u'\n')));
     return copied;
 }
 

@@ -20,7 +20,7 @@ QStringList LinesOf(QStringView text);
 struct CopiedQuestion {
     qsizetype row = 0; ///< where it stood in what was copied, from 1
     Question question = {};
-    QString objection = {}; ///< why it cannot be added anywhere, ready to show; empty = it may be
+    QString itemsObjection = {}; ///< why no list can have its items, ready to show; empty = one can
 };
 
 /// The questions as spreadsheets take them: a heading and a row for each, cells apart by tabs,

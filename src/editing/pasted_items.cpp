@@ -24,11 +24,11 @@ QString Shortened(const QString &text)
 
 } // namespace
 
-void Refusals::Add(const QString &what, const QString &reason)
+void Refusals::Add(const QString &refusal)
 {
     constexpr qsizetype most = 10;
     if (++m_count <= most)
-        m_told += what + u": "_s + reason;
+        m_told += refusal;
 }
 
 QString Refusals::Text() const
@@ -55,7 +55,7 @@ QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
         if (refusal.isEmpty())
             refusal = PutItem(items, line);
         if (!refusal.isEmpty())
-            refusals.Add(u'"' + Shortened(line) + u'"', refusal);
+            refusals.Add(u'"' + Shortened(line) + u"\": "_s + refusal);
     }
     return refusals.Text();
 }

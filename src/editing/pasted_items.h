@@ -9,7 +9,7 @@ namespace vellumo {
 class Refusals
 {
 public:
-    void Add(const QString &what, const QString &reason);
+    void Add(const QString &refusal);
     QString Text() const;
 
 private:

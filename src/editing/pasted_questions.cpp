@@ -13,11 +13,21 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-/// What the wizard would say first on its way through the steps.
-QString Objection(Question &question, const clsDataSource &source)
+/// What the wizard would say first on its way through the steps, with the column that it is about;
+/// empty = nothing. Breaks of lines go, which the wizard's boxes of one line do not take.
+QString Objection(CopiedQuestion &copied, const clsDataSource &source)
 {
-    const auto objections = ObjectionsToAdding(question, source, TakenName::Rename);
-    return objections.isEmpty() ? QString() : objections.first().reason;
+    Question &question = copied.question;
+    question.title = OneLine(question.title);
+    question.columnName = OneLine(question.columnName);
+    for (QString &item : question.items)
+        item = OneLine(item);
+    auto objections = ObjectionsToAdding(question, source, TakenName::Rename);
+    if (!copied.itemsObjection.isEmpty())
+        objections = {{QuestionColumn::Items, copied.itemsObjection}};
+    return objections.isEmpty()
+               ? QString()
+               : CaptionOf(objections.first().column) + ": "_L1 + objections.first().reason;
 }
 
 QString NoPlace(int left)
@@ -33,17 +43,15 @@ QString PasteQuestions(clsDataSource &source, const QList<CopiedQuestion> &quest
 {
     clsDataSource trial = source;
     Refusals refusals;
-    for (const CopiedQuestion &copied : questions) {
-        Question question = copied.question;
-        const QString objection =
-            copied.objection.isEmpty() ? Objection(question, trial) : copied.objection;
+    for (CopiedQuestion copied : questions) {
+        const QString objection = Objection(copied, trial);
         if (!objection.isEmpty())
-            refusals.Add(u"Row %1"_s.arg(copied.row), objection);
+            refusals.Add(u"Row %1, "_s.arg(copied.row) + objection);
         else if (!RefusalWhenFull(trial).isEmpty())
             return NoPlace(
                 std::max(static_cast<int>(questionCountLimit.most) - source.QuestionCount(), 0));
         else
-            AppendQuestion(trial, question);
+            AppendQuestion(trial, copied.question);
     }
     source = trial;
     return refusals.Text();

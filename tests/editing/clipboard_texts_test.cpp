@@ -44,7 +44,7 @@ QStringList Told(const QList<CopiedQuestion> &questions)
     for (const CopiedQuestion &one : questions)
         told += u"%1 %2/%3/%4/%5/%6 %7"_s.arg(one.row)
                     .arg(one.question.title, one.question.question, one.question.type,
-                         one.question.columnName, one.question.items.join(u'+'), one.objection)
+                         one.question.columnName, one.question.items.join(u'+'), one.itemsObjection)
                     .trimmed();
     return told;
 }

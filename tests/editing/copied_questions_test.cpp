@@ -21,7 +21,7 @@ TEST(CopiedQuestions, LoseNothing)
     for (qsizetype i = 0; i < questions.size(); ++i) {
         const CopiedQuestion &copied = (*read)[i];
         EXPECT_EQ(copied.row, i + 1);
-        EXPECT_EQ(copied.objection, QString());
+        EXPECT_EQ(copied.itemsObjection, QString());
         EXPECT_EQ(copied.question.title, questions[i].title);
         EXPECT_EQ(copied.question.question, questions[i].question);
         EXPECT_EQ(copied.question.type, questions[i].type);

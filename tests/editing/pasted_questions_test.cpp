@@ -43,42 +43,62 @@ TEST(PastedQuestions, KeepTheRulesOfTheWizard)
         Question question;
         QString reason;
     } rows[] = {
-        {"no type", {u""_s, u"Q"_s, u""_s, u"c"_s}, u"Please select an item."_s},
+        {"no type", {u""_s, u"Q"_s, u""_s, u"c"_s}, u"Type: Please select an item."_s},
         {"a foreign type",
          {u""_s, u"Q"_s, u"Rating"_s, u"c"_s},
-         u"There is no question type of this name."_s},
+         u"Type: There is no question type of this name."_s},
         {"a long title",
          {QString(21, u't'), u"Q"_s, u"Text"_s, u"c"_s},
-         u"Please keep the title length to 20 characters or less."_s},
+         u"Title: Please keep the title length to 20 characters or less."_s},
         {"a quotation mark",
          {u"\""_s, u"Q"_s, u"Text"_s, u"c"_s},
-         u"Double quotes are not allowed."_s},
-        {"no column name", {u""_s, u"Q"_s, u"Text"_s, u" "_s}, u"Please enter a column name."_s},
+         u"Title: Double quotes are not allowed."_s},
+        {"no column name",
+         {u""_s, u"Q"_s, u"Text"_s, u" "_s},
+         u"Column Name: Please enter a column name."_s},
         {"no room for another name",
          {u""_s, u"Q"_s, u"Text"_s, QString(253, u'n')},
-         u"Column Name is too long to copy"_s},
+         u"Column Name: Column Name is too long to copy"_s},
         {"a line break",
          {u""_s, u"Q\nR"_s, u"Text"_s, u"c"_s},
-         u"Carriage returns are not allowed in a question."_s},
-        {"no question", {u""_s, u" "_s, u"Text"_s, u"c"_s}, u"Please enter a question."_s},
-        {"no items", {u""_s, u"Q"_s, u"Checkboxes"_s, u"c"_s}, u"Please enter at least one item"_s},
+         u"Question: Carriage returns are not allowed in a question."_s},
+        {"no question",
+         {u""_s, u" "_s, u"Text"_s, u"c"_s},
+         u"Question: Please enter a question."_s},
+        {"no items",
+         {u""_s, u"Q"_s, u"Checkboxes"_s, u"c"_s},
+         u"Items: Please enter at least one item"_s},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
         clsDataSource source = SourceWith(1);
         Current(source).ColumnName = QString(253, u'n');
         EXPECT_EQ(PasteQuestions(source, {{.row = 4, .question = row.question}, Copied(u"ok"_s)}),
-                  u"Not added:\nRow 4: "_s + row.reason);
+                  u"Not added:\nRow 4, "_s + row.reason);
         EXPECT_EQ(ColumnNames(source).sliced(1), QStringList{u"ok"_s}) << "the others are";
     }
+}
+
+TEST(PastedQuestions, HaveNoBreaksOfLinesWhereABoxTakesNone)
+{
+    clsDataSource source = SourceWith(0);
+    const Question broken = {.title = u"A\nB"_s,
+                             .question = u"Which?"_s,
+                             .type = u"Pulldown List"_s,
+                             .columnName = u"c\r\nd\n"_s,
+                             .items = {u"e\nf"_s, u"g\n"_s}};
+    EXPECT_EQ(PasteQuestions(source, {{.row = 1, .question = broken}}), QString());
+    EXPECT_EQ(Current(source).Title, u"A B"_s);
+    EXPECT_EQ(Current(source).ColumnName, u"c d"_s);
+    EXPECT_EQ(ItemsOf(source, Current(source).Id), (QStringList{u"e f"_s, u"g"_s}));
 }
 
 TEST(PastedQuestions, TellTenRefusalsAndTheNumber)
 {
     clsDataSource source = SourceWith(1);
-    QList<CopiedQuestion> questions(12, CopiedQuestion{.row = 7, .objection = u"No."_s});
+    QList<CopiedQuestion> questions(12, CopiedQuestion{.row = 7, .itemsObjection = u"No."_s});
     const QString text = PasteQuestions(source, questions);
-    EXPECT_EQ(text.count(u"Row 7: No."_s), 10);
+    EXPECT_EQ(text.count(u"Row 7, Items: No."_s), 10);
     EXPECT_TRUE(text.endsWith(u"\nand 2 more."_s));
 }
 
