@@ -40,11 +40,19 @@ public:
                 same = false;
             }
         }
-        same = Tell(CheckDatabase(m_database, project)) && same;
-        return same ? Recreate(project) : Exit::NotPassed;
+        same = Tell(CheckDatabase(InOrder(m_database), project)) && same;
+        const Exit again = same ? Recreate(project) : Exit::NotPassed;
+        return Tell(CheckRecreatedOrder(m_database)) ? again : std::max(again, Exit::NotPassed);
     }
 
 private:
+    /// In the order of the file it need not be held against its project, too.
+    static PalmDatabase InOrder(PalmDatabase database)
+    {
+        database.disorder.clear();
+        return database;
+    }
+
     bool Tell(const QList<Finding> &findings) const
     {
         ComplainOf(findings, m_inputName, m_console);

@@ -62,6 +62,7 @@ QList<Finding> CheckDatabase(const PalmDatabase &database, const Project &projec
     const DeliveredTexts texts = DeliverTexts(project, types, findings);
     const DatabaseContent content = DecodeDatabase(database);
     CheckHeader(database, texts.databaseName, findings);
+    CheckOrder(database, findings);
     CheckCodes(content, texts, findings);
     CheckTexts(content, texts, findings);
     int number = 0;

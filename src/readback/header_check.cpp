@@ -56,6 +56,14 @@ void CheckHeader(const PalmDatabase &database, const QByteArray &expectedName,
                 findings);
 }
 
+void CheckOrder(const PalmDatabase &database, QList<Finding> &findings)
+{
+    if (!database.disorder.isEmpty())
+        findings.append({"resource-order"_L1,
+                         {"resources"_L1},
+                         u"The resource %1, where it does not belong."_s.arg(database.disorder)});
+}
+
 QList<Finding> RemarksOn(const PalmDatabase &database)
 {
     QList<Finding> remarks;
@@ -67,6 +75,14 @@ QList<Finding> RemarksOn(const PalmDatabase &database)
         remarks.append({"backup-bit"_L1,
                         {"database attributes"_L1},
                         u"The database is marked to be backed up."_s});
+    if (database.changes != 0)
+        remarks.append({"modification-number"_L1,
+                        {"modification number"_L1},
+                        u"The handheld's count of changes is %1."_s.arg(database.changes)});
+    if (database.idSeed != 0)
+        remarks.append({"unique-id-seed"_L1,
+                        {"unique id seed"_L1},
+                        u"The handheld's seed of record numbers is %1."_s.arg(database.idSeed)});
     return remarks;
 }
 

@@ -16,8 +16,11 @@ void CheckKind(const PalmDatabase &database, QList<Finding> &findings);
 void CheckHeader(const PalmDatabase &database, const QByteArray &expectedName,
                  QList<Finding> &findings);
 
+/// Appends that its resources stand in another order than that by which they are made.
+void CheckOrder(const PalmDatabase &database, QList<Finding> &findings);
+
 /// What the header of a database says of its life since it was made, and is no fault: the time of
-/// its last backup, and that it is to be backed up.
+/// its last backup, that it is to be backed up, and two numbers that only a handheld writes.
 QList<Finding> RemarksOn(const PalmDatabase &database);
 
 } // namespace vellumo

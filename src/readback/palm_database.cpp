@@ -13,9 +13,9 @@ namespace {
 
 // docs/palm-formats.md, "One layout for both files".
 constexpr qsizetype nameSize = 32;
-constexpr qsizetype typeSize = 4;           // of database, creator and resources
-constexpr qsizetype noInformationSize = 12; // changes, application's and sorting information
-constexpr qsizetype noListSize = 8;         // seed of numbers, next list of entries
+constexpr qsizetype typeSize = 4;          // of database, creator and resources
+constexpr qsizetype noInformationSize = 8; // application's and sorting information
+constexpr qsizetype noListSize = 4;        // next list of entries
 constexpr qsizetype gapSize = 2;
 constexpr qsizetype largestResource = 65535;
 
@@ -40,9 +40,11 @@ void TakeHeader(ByteReader &reader, PalmDatabase &database)
     database.created = reader.TakeNumber(4);
     database.modified = reader.TakeNumber(4);
     database.backedUp = reader.TakeNumber(4);
+    database.changes = reader.TakeNumber(4);
     reader.PassZeros(noInformationSize);
     database.type = reader.Take(typeSize).toByteArray();
     database.creator = reader.Take(typeSize).toByteArray();
+    database.idSeed = reader.TakeNumber(4);
     reader.PassZeros(noListSize);
 }
 
@@ -62,16 +64,24 @@ QList<qsizetype> TakeEntries(ByteReader &reader, PalmDatabase &database)
 }
 
 /// Resources are ordered by the bytes of their type as unsigned values, then by number.
-void CheckOrder(ByteReader &reader, const QList<PalmResource> &resources)
+auto Rank(const PalmResource &resource)
 {
-    const auto rank = [](const PalmResource &resource) {
-        return std::pair(QByteArrayView(resource.type), resource.number);
-    };
-    const auto wrong = std::ranges::adjacent_find(
-        resources, [rank](const auto &one, const auto &next) { return rank(one) >= rank(next); });
-    if (wrong != resources.end())
-        reader.Refuse(u"resource %1 stands after %2"_s.arg(Describe(wrong[1].Key()),
-                                                           Describe(wrong[0].Key())));
+    return std::pair(QByteArrayView(resource.type), resource.number);
+}
+
+/// Puts the resources in their order and notes in what they stood in another one.
+void Arrange(ByteReader &reader, PalmDatabase &database)
+{
+    QList<PalmResource> &resources = database.resources;
+    const auto late = std::ranges::adjacent_find(resources, std::ranges::greater(), Rank);
+    if (late != resources.end()) {
+        database.disorder =
+            u"%1 stands after %2"_s.arg(Describe(late[1].Key()), Describe(late[0].Key()));
+        std::ranges::sort(resources, {}, Rank);
+    }
+    const auto twice = std::ranges::adjacent_find(resources, {}, Rank);
+    if (twice != resources.end())
+        reader.Refuse(u"resource %1 is there twice"_s.arg(Describe(twice->Key())));
 }
 
 /// Each resource reaches from its own offset to that of the next one: sizes are not stored. As
@@ -107,8 +117,8 @@ Result<PalmDatabase> ReadDatabase(const QByteArray &bytes)
     database.size = bytes.size();
     TakeHeader(reader, database);
     const QList<qsizetype> offsets = TakeEntries(reader, database);
-    CheckOrder(reader, database.resources);
     SliceData(reader, database, offsets);
+    Arrange(reader, database);
     reader.PassEnd();
     if (reader.Failed())
         return Error{u"This is no sound Palm database: %1."_s.arg(reader.Fault())};

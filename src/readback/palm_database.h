@@ -39,9 +39,14 @@ struct PalmDatabase {
     quint32 version = 0;
     quint32 created = 0; ///< seconds since 1904 on the clock of the place, as the next ones
     quint32 modified = 0;
-    quint32 backedUp = 0;               ///< 0 = never
-    QList<PalmResource> resources = {}; ///< by type, then number; no two the same
-    qsizetype size = 0;                 ///< bytes of the whole file
+    quint32 backedUp = 0; ///< 0 = never
+    quint32 changes = 0;  ///< that a handheld has counted
+    quint32 idSeed = 0;   ///< from which a handheld numbers records
+    /// By type, then number, in whatever order they stand in the file; no two the same.
+    QList<PalmResource> resources = {};
+    /// Where they stand in another one, such as "'flds' 1000 stands after 'tver' 9"; else empty.
+    QString disorder = {};
+    qsizetype size = 0; ///< bytes of the whole file
 };
 
 /// A resource for a message: 'tFRM' 3.
@@ -49,8 +54,8 @@ QString Describe(const ResourceKey &key);
 
 /// Reads a database whole (docs/palm-formats.md, "One layout for both files"). Fails, with one
 /// sentence, at the first thing that the layout does not allow: an offset outside of the file or
-/// out of order, resources not in their order, a resource larger than a handheld takes, a field or
-/// gap that is not zero. Any bytes may be given.
+/// out of order, a resource that is there twice or larger than a handheld takes, a field or gap
+/// that is not zero. Any bytes may be given.
 ///
 /// The last resource reaches to the end of the file, so that bytes too many or too few there can
 /// only be told from its content.

@@ -62,4 +62,14 @@ QList<Finding> CheckRecreation(const PalmDatabase &recreated, const PalmDatabase
     return findings;
 }
 
+QList<Finding> CheckRecreatedOrder(const PalmDatabase &database)
+{
+    if (database.disorder.isEmpty())
+        return {};
+    return {{"recreated-order"_L1,
+             {"resources"_L1},
+             u"Created again, its bytes differ because the resource %1 in it."_s.arg(
+                 database.disorder)}};
+}
+
 } // namespace vellumo

@@ -65,6 +65,7 @@ QList<Finding> CheckSoundness(const PalmDatabase &database)
     QList<Finding> findings;
     const DatabaseContent content = DecodeDatabase(database);
     CheckKind(database, findings);
+    CheckOrder(database, findings);
     CheckCounts(content, findings);
     CheckDamages(content, findings);
     return findings;

@@ -7,8 +7,9 @@
 
 namespace vellumo {
 
-/// Checks a database by itself: whether it is of the kind that we make, every resource of it can be
-/// decoded, and all of them tell the same number of questions. Empty when nothing is wrong.
+/// Checks a database by itself: whether it is of the kind that we make, its resources stand in
+/// their order, each can be decoded, and all of them tell the same number of questions. Empty when
+/// nothing is wrong.
 QList<Finding> CheckSoundness(const PalmDatabase &database);
 
 } // namespace vellumo

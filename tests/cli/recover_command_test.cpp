@@ -178,6 +178,26 @@ TEST_F(RecoverCommand, TakesADatabaseThatComesFromAHandheld)
     EXPECT_EQ(Err(), Complaint(u"remark: The database was backed up at 1999-09-11 12:48:01."_s) +
                          Complaint(u"remark: The database is marked to be backed up."_s));
     EXPECT_EQ(BytesOf(Output()), expected);
+    EXPECT_EQ(Recover(WithNumber(WithNumber(plain, 48, 4, 3), 68, 4, 9)), 0);
+    EXPECT_EQ(Err(), Complaint(u"remark: The handheld's count of changes is 3."_s) +
+                         Complaint(u"remark: The handheld's seed of record numbers is 9."_s));
+    EXPECT_EQ(BytesOf(Output()), expected);
+}
+
+TEST_F(RecoverCommand, TakesResourcesInAnyOrderAndNamesThatLoss)
+{
+    const QByteArray plain = Golden(u"tentypes"_s);
+    EXPECT_EQ(Recover(plain), 0);
+    const QByteArray expected = BytesOf(Output());
+    QList<PalmResource> resources = Read(plain).resources;
+    resources.move(0, 1);
+    EXPECT_EQ(Recover(WithResources(plain, resources)), 1);
+    EXPECT_EQ(Err(), Complaint(u"Created again, its bytes differ because the resource 'desc' 1003 "
+                               "stands after 'flds' 1000 in it."_s));
+    EXPECT_EQ(BytesOf(Output()), expected);
+    resources.append({"zzzz", 1, "other"});
+    EXPECT_EQ(Recover(WithResources(plain, resources)), 1);
+    EXPECT_EQ(Err().count(u'\n'), 2) << "each loss is named: " << Err().toStdString();
 }
 
 TEST_F(RecoverCommand, WritesAProjectThatCannotBeTried)

@@ -20,8 +20,8 @@ bool IsNoticed(const QByteArray &bytes, const Project &project)
     return !CheckDatabase(*database, project).isEmpty();
 }
 
-/// Where one byte may be another: the three times, the attribute of backups, and the digits of the
-/// identifier.
+/// Where one byte may be another: the three times, the attribute of backups, the number of changes
+/// and the seed that a handheld writes, and the digits of the identifier.
 std::set<qsizetype> FreeBytes(const QByteArray &bytes)
 {
     std::set<qsizetype> free;
@@ -30,7 +30,8 @@ std::set<qsizetype> FreeBytes(const QByteArray &bytes)
             free.insert(start + i);
     };
     add(33, 1);
-    add(36, 12);
+    add(36, 16);
+    add(68, 4);
     qsizetype start = 80 + 10 * Read(bytes).resources.size();
     for (const PalmResource &resource : Read(bytes).resources) {
         if (resource.type == "guid")
@@ -77,7 +78,7 @@ TEST(DamagedBytes, EveryByteCountsButTimesAndIdentifier)
         }
         EXPECT_EQ(unnoticed, FreeBytes(bytes));
         EXPECT_TRUE(IsNoticed(WithTurned(bytes, 33, 0x08 | 0x20), project));
-        EXPECT_EQ(unnoticed.size(), 1u + 12u + 32u);
+        EXPECT_EQ(unnoticed.size(), 1u + 16u + 4u + 32u);
     }
 }
 
@@ -86,7 +87,7 @@ TEST(DamagedBytes, AnyByteOfAllTypesTogetherCounts)
     const Project project = TenTypesProject();
     const QByteArray bytes = Golden(project.FormName);
     const std::set<qsizetype> free = FreeBytes(bytes);
-    EXPECT_EQ(free.size(), 1u + 12u + 32u);
+    EXPECT_EQ(free.size(), 1u + 16u + 4u + 32u);
     std::mt19937 random(20240229);
     for (int i = 0; i < 4000; ++i) {
         const auto offset = static_cast<qsizetype>(random() % static_cast<size_t>(bytes.size()));

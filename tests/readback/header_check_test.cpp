@@ -32,7 +32,7 @@ TEST(HeaderCheck, FindsAnotherHeader)
         ExpectFound(row, TenTypesProject());
 }
 
-TEST(HeaderCheck, RemarksOnBackupsAndFindsNothing)
+TEST(HeaderCheck, RemarksOnWhatAHandheldWritesAndFindsNothing)
 {
     const QString time = u"backup-time [time of the last backup] "_s;
     const QString marked =
@@ -49,6 +49,12 @@ TEST(HeaderCheck, RemarksOnBackupsAndFindsNothing)
          WithNumber(TenTypes(), 44, 4, 1),
          {time + u"The database was backed up at 1904-01-01 00:00:01."_s}},
         {"to be backed up", WithNumber(TenTypes(), 32, 2, 0x0109), {marked}},
+        {"changed",
+         WithNumber(TenTypes(), 48, 4, 12),
+         {u"modification-number [modification number] The handheld's count of changes is 12."_s}},
+        {"numbered",
+         WithNumber(TenTypes(), 68, 4, 0x00A00001),
+         {u"unique-id-seed [unique id seed] The handheld's seed of record numbers is 10485761."_s}},
         {"both",
          WithNumber(backedUp, 32, 2, 0x0109),
          {time + u"The database was backed up at 1999-09-11 12:48:01."_s, marked}},
@@ -63,4 +69,16 @@ TEST(HeaderCheck, RemarksOnBackupsAndFindsNothing)
                  {u"database-attributes [database attributes] "
                   "The database attributes: 0x0001 instead of 0x0101."_s}},
                 TenTypesProject());
+}
+
+TEST(HeaderCheck, FindsResourcesOutOfOrder)
+{
+    QList<PalmResource> resources = Read(TenTypes()).resources;
+    resources.move(0, 1);
+    ExpectFound(
+        {"out of order",
+         WithResources(TenTypes(), resources),
+         {u"resource-order [resources] "
+          "The resource 'desc' 1003 stands after 'flds' 1000, where it does not belong."_s}},
+        TenTypesProject());
 }

@@ -2,6 +2,8 @@
 
 #include "readback/databases.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
@@ -9,7 +11,6 @@ namespace {
 
 constexpr qsizetype entries = 78;
 constexpr qsizetype entrySize = 10;
-constexpr qsizetype entryNumber = 4;
 constexpr qsizetype entryOffset = 6;
 
 /// The error, or "read".
@@ -84,17 +85,13 @@ TEST(PalmDatabase, RefusesWhatTheLayoutDoesNotAllow)
          u"there is something after the end of its name"_s},
         {"a database of records", WithNumber(text, 32, 2, 0x0100),
          u"it is not marked as one of resources"_s},
-        {"a number of changes", WithNumber(text, 48, 4, 1), u"byte 51 is not zero"_s},
         {"application information", WithNumber(text, 52, 4, 0x80), u"byte 55 is not zero"_s},
         {"a next list of entries", WithNumber(text, 72, 4, 0x8000), u"byte 74 is not zero"_s},
         {"a count too large", WithNumber(text, 76, 2, 0xFFFF), u"it ends too early, at byte 703"_s},
         {"a count too small", WithNumber(text, 76, 2, 10), u"byte 178 is not zero"_s},
         {"something in the gap", WithNumber(text, 189, 1, 1), u"byte 189 is not zero"_s},
-        {"numbers out of order",
-         WithNumber(text, first + entryNumber, 2, 9).replace(first, 4, "tver"),
-         u"resource 'flds' 1000 stands after 'tver' 9"_s},
         {"a resource twice", QByteArray(text).replace(second, 6, text.mid(first, 6)),
-         u"resource 'desc' 1003 stands after 'desc' 1003"_s},
+         u"resource 'desc' 1003 is there twice"_s},
         {"data that begin too late", WithNumber(text, first + entryOffset, 4, 191),
          u"resource 'desc' 1003 cannot reach from byte 191 to byte 203"_s},
         {"data in the table", WithNumber(text, first + entryOffset, 4, 78),
@@ -111,6 +108,34 @@ TEST(PalmDatabase, RefusesWhatTheLayoutDoesNotAllow)
         EXPECT_EQ(RefusalOf(row.bytes), u"This is no sound Palm database: %1."_s.arg(row.reason));
     }
     EXPECT_EQ(RefusalOf(text + QByteArray(65531, '\0')), u"read"_s) << "the largest resource";
+}
+
+TEST(PalmDatabase, ReadsWhatAHandheldCounts)
+{
+    const QByteArray text = Golden(u"text"_s);
+    EXPECT_EQ(Read(text).changes, 0u);
+    EXPECT_EQ(Read(text).idSeed, 0u);
+    const PalmDatabase database =
+        Read(WithNumber(WithNumber(text, 48, 4, 0xF0000003), 68, 4, 0xE0000007));
+    EXPECT_EQ(database.changes, 0xF0000003u);
+    EXPECT_EQ(database.idSeed, 0xE0000007u);
+}
+
+TEST(PalmDatabase, PutsResourcesInTheirOrder)
+{
+    const QByteArray text = Golden(u"text"_s);
+    EXPECT_EQ(Read(text).disorder, u""_s);
+    QList<PalmResource> resources = Read(text).resources;
+    std::ranges::reverse(resources);
+    const QByteArray bytes = WithResources(text, resources);
+    ASSERT_NE(bytes, text);
+    const PalmDatabase database = Read(bytes);
+    EXPECT_EQ(WithResources(text, database.resources), text);
+    EXPECT_EQ(database.disorder, u"'tSTL' 1004 stands after 'tver' 1"_s);
+
+    resources.prepend(resources.last());
+    EXPECT_EQ(RefusalOf(WithResources(text, resources)),
+              u"This is no sound Palm database: resource 'desc' 1003 is there twice."_s);
 }
 
 TEST(PalmDatabase, ReadsOneWithoutResources)
