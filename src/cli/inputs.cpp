@@ -72,20 +72,28 @@ QString InputName(const QString &name)
     return IsStream(name) ? u"standard input"_s : name;
 }
 
-Exit ForEachInput(const CommandLine &line, const Console &console,
-                  const std::function<Ending(const QString &input)> &act)
+void TryEachInput(const CommandLine &line, const Console &console,
+                  const std::function<void(const QString &input)> &act)
 {
     const qsizetype count = line.inputs.size();
-    Exit worst = Exit::Fine;
     for (qsizetype i = 0; i < count; ++i) {
         const QString &input = line.inputs[i];
         if (count > 1)
             console.Progress(u"%1 of %2: %3"_s.arg(QString::number(i + 1), QString::number(count),
                                                    InputName(input)));
+        act(input);
+    }
+}
+
+Exit ForEachInput(const CommandLine &line, const Console &console,
+                  const std::function<Ending(const QString &input)> &act)
+{
+    Exit worst = Exit::Fine;
+    TryEachInput(line, console, [&](const QString &input) {
         const Ending ending = act(input);
         Tell(ending, InputName(input), console);
         worst = std::max(worst, ending.exit);
-    }
+    });
     return worst;
 }
 

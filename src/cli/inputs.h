@@ -29,8 +29,10 @@ bool RefusedAsSecond(const QString &first, const QString &second, const Console 
 /// An input's name as messages have it.
 QString InputName(const QString &name);
 
-/// Does the same with each input and tells how that ended, and how far it is where there are
-/// several. Each is tried; the worst exit is returned.
+/// Does the same with each input, and tells how far it is where there are several.
+void TryEachInput(const CommandLine &line, const Console &console,
+                  const std::function<void(const QString &input)> &act);
+/// Likewise, and tells how that ended. Each is tried; the worst exit is returned.
 Exit ForEachInput(const CommandLine &line, const Console &console,
                   const std::function<Ending(const QString &input)> &act);
 /// With the first alone.

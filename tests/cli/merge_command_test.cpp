@@ -85,6 +85,27 @@ TEST_F(MergeCommand, TellsProgramsInJson)
     EXPECT_EQ(Objects()[2][u"file"_s], target);
 }
 
+TEST_F(MergeCommand, TellsWhatWasTakenOnlyWhenAllIsWritten)
+{
+    const QString missing = InFolder(u"missing.vmp"_s), target = InFolder(u"both.vmp"_s);
+    EXPECT_EQ(Run({u"merge"_s, u"--json"_s, siteVisit, missing, waterPoint, u"-o"_s, target}), 3);
+    ASSERT_EQ(Objects().size(), 4) << out.str();
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"error"_s);
+    const QStringList inputs = {siteVisit, missing, waterPoint};
+    const QStringList codes = {u"not-taken"_s, u"failed"_s, u"not-taken"_s};
+    const QList<int> exits = {0, 3, 0};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(Objects()[i + 1][u"input"_s], inputs[i]);
+        EXPECT_EQ(Objects()[i + 1][u"code"_s], codes[i]);
+        EXPECT_EQ(Objects()[i + 1][u"exit"_s], exits[i]);
+    }
+    EXPECT_EQ(Run({u"merge"_s, u"--json"_s, siteVisit, waterPoint, u"-o"_s, m_folder.path()}), 5);
+    ASSERT_EQ(Objects().size(), 3) << out.str();
+    EXPECT_EQ(Objects()[0][u"code"_s], u"not-written"_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"not-taken"_s);
+    EXPECT_EQ(Objects()[2][u"code"_s], u"not-taken"_s);
+}
+
 TEST_F(MergeCommand, RefusesWhatMakesNoSense)
 {
     EXPECT_EQ(Run({u"merge"_s, siteVisit}), 2);
