@@ -42,7 +42,8 @@ constexpr Command commands[] = {
                  "[--pilrc PATH] [--build-prc PATH] [--timeout SECONDS]"_L1,
      .help = "Reviews each project, makes its database, reads that back and prints its\n"
              "path. DIR is \"My Vellumo\" in the documents folder unless given; it is made\n"
-             "where its name ends in a slash. FILE.prc is for a single project.\n"_L1,
+             "where its name ends in a slash. FILE.prc is for a single project, and so is\n"
+             "-, standard output.\n"_L1,
      .shape = {.mostInputs = anyNumber,
                .whichInput = whichProject,
                .options = Option::Output | Option::Strict | Option::Identifier | making},

@@ -2,6 +2,7 @@
 
 #include "cli/checked_database.h"
 #include "cli/inputs.h"
+#include "cli/outputs.h"
 #include "cli/reproducible.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -17,7 +18,8 @@ namespace {
 
 bool NamesAFile(const QString &output)
 {
-    return output.endsWith(".prc"_L1, Qt::CaseInsensitive) && !QFileInfo(output).isDir();
+    return output == "-"_L1 ||
+           (output.endsWith(".prc"_L1, Qt::CaseInsensitive) && !QFileInfo(output).isDir());
 }
 
 /// The folder for databases that have the names of their forms: the user's own, or the named one,
@@ -81,6 +83,8 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
 {
     const QString output = line.Value(Option::Output);
     const bool toFile = NamesAFile(output);
+    if (console.json && output == "-"_L1)
+        return RefuseMixture(console);
     if (toFile && line.inputs.size() > 1)
         return Refuse(console, Exit::WrongUse,
                       {u"-o names one file for several projects; name a folder."_s, u"vellumo"_s});
@@ -93,6 +97,8 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
         const CheckedDatabase database = MakeOne(input, line, console);
         if (database.exit != Exit::Fine)
             return database.exit;
+        if (output == "-"_L1)
+            return Deliver(output, database.bytes, "created"_L1, console);
         const QString target = toFile ? output : QDir(*folder).filePath(database.fileName);
         return PutInPlace(database.bytes, target, InputName(input), console, made);
     });

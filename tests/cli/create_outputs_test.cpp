@@ -46,6 +46,25 @@ TEST_F(CreateOutputs, AreNoOneFileForSeveralProjects)
     EXPECT_FALSE(QFile::exists(file));
 }
 
+TEST_F(CreateOutputs, AreStandardOutput)
+{
+    const QStringList identifier = {u"--guid"_s, QString(32, u'B')};
+    EXPECT_EQ(Run(QStringList{u"create"_s, nestbox, u"-o"_s, u"-"_s} + identifier), 0);
+    EXPECT_EQ(Err(), u""_s);
+    const QByteArray database = QByteArray::fromStdString(out.str());
+    EXPECT_EQ(database, MadeBy(identifier));
+    EXPECT_EQ(Run(QStringList{u"create"_s, u"-"_s, u"-o-"_s} + identifier, BytesOf(nestbox)), 0);
+    EXPECT_EQ(QByteArray::fromStdString(out.str()), database);
+
+    EXPECT_EQ(Run({u"create"_s, nestbox, siteVisit, u"-o"_s, u"-"_s}), 2);
+    EXPECT_EQ(Err(), u"vellumo: -o names one file for several projects; name a folder.\n"_s);
+    EXPECT_EQ(Run({u"create"_s, u"--json"_s, nestbox, u"-o"_s, u"-"_s}), 2);
+    ASSERT_EQ(Objects().size(), 1);
+    EXPECT_EQ(Objects()[0][u"message"_s],
+              u"With --json the output needs a file of its own: -o FILE."_s);
+    EXPECT_FALSE(QFileInfo::exists(u"-"_s));
+}
+
 TEST_F(CreateOutputs, AreAFolderThatIsMade)
 {
     EXPECT_EQ(Run({u"create"_s, nestbox, u"-o"_s, InFolder(u"new/deep/"_s)}), 0)
