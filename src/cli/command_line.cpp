@@ -67,8 +67,9 @@ QCommandLineOption ParserOption(const OptionRow &row)
     return {names, {}, row.valueName};
 }
 
-/// What helps somebody whose words are not understood, to stand behind what is wrong with them.
-QString HintFor(const QStringList &words, const QCommandLineParser &parser, Options taken)
+// What helps somebody whose words are not understood, to stand behind what is wrong with them.
+
+QString HintOfNames(const QStringList &words)
 {
     for (const QString &word : words) {
         if (word == "--"_L1)
@@ -76,6 +77,13 @@ QString HintFor(const QStringList &words, const QCommandLineParser &parser, Opti
         if (IsOption(word) && LooksLikeAName(word))
             return u" If '%1' is a name, put '--' before it."_s.arg(word);
     }
+    return {};
+}
+
+QString HintFor(const QStringList &words, const QCommandLineParser &parser, Options taken)
+{
+    if (const QString hint = HintOfNames(words); !hint.isEmpty())
+        return hint;
     QStringList names = {u"help"_s, u"version"_s};
     for (const OptionRow &row : OptionRows())
         if (taken.testFlag(row.option))
@@ -86,10 +94,12 @@ QString HintFor(const QStringList &words, const QCommandLineParser &parser, Opti
     return {};
 }
 
-Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape)
+Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape,
+                            const QStringList &words)
 {
+    // "-order.vmp" was read as an output of the name "rder.vmp".
     if (line.inputs.size() < shape.fewestInputs)
-        return Error{shape.whichInput};
+        return Error{shape.whichInput + HintOfNames(words)};
     if (line.inputs.size() > shape.mostInputs)
         return Error{u"'%1' is one name too many."_s.arg(line.inputs[shape.mostInputs])};
     if (line.inputs.contains(QString()))
@@ -115,8 +125,13 @@ qsizetype CommandAt(const QStringList &words)
 bool AsksFor(const QStringList &words, Option option)
 {
     const auto row = std::ranges::find(OptionRows(), option, &OptionRow::option);
-    const auto end = std::ranges::find(words, u"--"_s);
-    return std::any_of(words.begin(), end, [&](const QString &word) { return Asks(word, *row); });
+    for (qsizetype i = 0; i < words.size() && words[i] != "--"_L1; ++i) {
+        if (Asks(words[i], *row))
+            return true;
+        if (TakesNext(words[i]))
+            ++i;
+    }
+    return false;
 }
 
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape)
@@ -140,7 +155,7 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
             return checked.error();
         line.options.insert(row.option, *checked);
     }
-    return Checked(line, shape);
+    return Checked(line, shape, words);
 }
 
 } // namespace vellumo

@@ -33,7 +33,8 @@ struct CommandLine {
 /// no option's value. None stands after "--"; then, and where there is none at all, it is -1.
 qsizetype CommandAt(const QStringList &words);
 
-/// Whether an option stands among the words, whatever else is wrong with them.
+/// Whether an option stands among the words and is no option's value, whatever else is wrong with
+/// them.
 bool AsksFor(const QStringList &words, Option option);
 
 /// Reads the words but the command's name. Everything after "--" is an input.

@@ -103,8 +103,21 @@ TEST(CommandLine, FindsOptionsAmongLettersThatStandTogether)
     EXPECT_TRUE(AsksFor({u"-qo"_s, u"out"_s}, Option::Output));
     EXPECT_FALSE(AsksFor({u"-oq"_s}, Option::Quiet)) << "it is the name";
     EXPECT_FALSE(AsksFor({u"--"_s, u"-q"_s}, Option::Quiet));
+    EXPECT_FALSE(AsksFor({u"-o"_s, u"--json"_s}, Option::Json)) << "it is a name, too";
+    EXPECT_TRUE(AsksFor({u"-o"_s, u"--json"_s, u"--json"_s}, Option::Json));
     EXPECT_EQ(CommandAt({u"-qo"_s, u"out"_s, u"create"_s}), 2);
     EXPECT_EQ(CommandAt({u"-oout"_s, u"create"_s}), 1);
+}
+
+TEST(CommandLine, TakesAWordThatBeginsLikeAnOutputForTheNameThatItMayBe)
+{
+    const QString hint = u"Which one? If '-order.vmp' is a name, put '--' before it."_s;
+    EXPECT_EQ(RefusalOf({u"-order.vmp"_s}), hint);
+    EXPECT_EQ(RefusalOf({u"-qorder.vmp"_s, u"--json"_s}),
+              u"Which one? If '-qorder.vmp' is a name, put '--' before it."_s);
+    EXPECT_EQ(RefusalOf({u"--"_s, u"-order.vmp"_s}), u"taken"_s);
+    EXPECT_EQ(RefusalOf({u"-order"_s}), u"Which one?"_s);
+    EXPECT_EQ(RefusalOf({u"-order.vmp"_s, u"a"_s}), u"taken"_s);
 }
 
 TEST(CommandLine, SuggestsOnlyWhatTheCommandTakes)
