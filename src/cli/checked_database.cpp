@@ -88,6 +88,17 @@ private:
         return Refuse(m_console, exit, {reason, m_inputName});
     }
 
+    /// In the words of a tool, which may have several lines.
+    Exit FailOfTool(const QString &fault) const
+    {
+        m_console.Complain({.kind = "error"_L1,
+                            .code = "tool-failed"_L1,
+                            .text = fault,
+                            .shown = VisibleLines(fault),
+                            .file = m_inputName});
+        return Exit::ToolFailed;
+    }
+
     Exit Judge(const CreateReport &report, const QString &folder) const
     {
         switch (report.end) {
@@ -103,7 +114,7 @@ private:
         // The first that failed is the cause: each is run whatever the one before it says.
         for (const ToolRun &run : report.runs)
             if (const QString fault = FaultOf(run, m_line.TimeoutSeconds()); !fault.isEmpty())
-                return Fail(Exit::ToolFailed, fault);
+                return FailOfTool(fault);
         return Exit::Fine;
     }
 

@@ -12,7 +12,7 @@ void WriteLine(std::ostream &stream, const QByteArray &line)
 
 QString ForPerson(const Notice &notice)
 {
-    return notice.shown.isEmpty() ? notice.text : notice.shown;
+    return notice.shown.isEmpty() ? Visible(notice.text) : notice.shown;
 }
 
 bool Wants(const Console &console, const Notice &notice)
@@ -58,13 +58,14 @@ void Console::Complain(const Notice &error) const
     if (json)
         WriteLine(out, ToJson(error));
     else
-        WriteLine(err, Describe(Error{ForPerson(error), error.file, error.line}).toLocal8Bit());
+        WriteLine(err,
+                  Describe(Error{ForPerson(error), Visible(error.file), error.line}).toLocal8Bit());
 }
 
 void Console::Progress(const QString &line) const
 {
     if (showProgress && !quiet)
-        WriteLine(err, line.toLocal8Bit());
+        WriteLine(err, Visible(line).toLocal8Bit());
 }
 
 void Console::Write(const QByteArray &bytes) const

@@ -49,4 +49,11 @@ QString Visible(const QString &text)
     return visible;
 }
 
+QString VisibleLines(const QString &text)
+{
+    QStringList lines = text.split(u'\n');
+    std::ranges::transform(lines, lines.begin(), Visible);
+    return lines.join(u'\n');
+}
+
 } // namespace vellumo

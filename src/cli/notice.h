@@ -13,7 +13,7 @@ struct Notice {
     QLatin1StringView kind; ///< "result", "finding", "column", "warning", "remark" or "error"
     QLatin1StringView code; ///< what it is, for programs; never changes
     QString text;           ///< what it is, in a sentence
-    QString shown = {};     ///< what a person sees instead of the sentence; empty = the sentence
+    QString shown = {};     ///< what a person sees instead, as it is; empty = the visible sentence
     QString file = {};
     int line = 0;     ///< from 1, 0 = none applies
     int step = 0;     ///< of the designer, where it can be mended; 1 to 3, 0 = none applies
@@ -32,5 +32,8 @@ QByteArray ToJson(const Notice &notice);
 /// A text with its control characters made visible, so that it stays on one line and none of them
 /// reaches a terminal.
 QString Visible(const QString &text);
+
+/// The same of each line of a text.
+QString VisibleLines(const QString &text);
 
 } // namespace vellumo

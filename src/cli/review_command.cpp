@@ -20,7 +20,7 @@ Ending Review(const QString &input, const CommandLine &line, const Console &cons
     const std::vector<Notice> notices = ReviewNotices(*project, InputName(input), line);
     for (Notice notice : notices) {
         if (line.inputs.size() > 1)
-            notice.shown.prepend(notice.file + ": "_L1);
+            notice.shown.prepend(Visible(notice.file) + ": "_L1);
         console.Tell(notice);
     }
     const Exit exit = std::ranges::all_of(notices, &Notice::advice) ? Exit::Fine : Exit::NotPassed;
