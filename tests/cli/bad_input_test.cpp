@@ -1,6 +1,6 @@
+#include "every_input.h"
 #include "support/full_disk.h"
 #include "support/ordinary_user.h"
-#include "vellumo_run.h"
 
 #include <random>
 
@@ -12,24 +12,20 @@ namespace {
 const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 
 /// Whatever is wrong with an input, each command says so in one line and writes nothing.
-class BadInput : public VellumoRun
+class BadInput : public EveryInput
 {
 protected:
-    BadInput()
-    {
-        qputenv("PATH", PROGRAMS);
-        QDir(m_folder.path()).mkdir(u"out"_s);
-    }
+    BadInput() { qputenv("PATH", PROGRAMS); }
 
-    void ExpectRefused(const QString &path)
+    /// Any bytes in an encoding are a list of items.
+    void ExpectRefused(const QString &path, bool evenAsItems = true)
     {
-        for (const QString &command : {u"script"_s, u"review"_s, u"create"_s, u"rewrite"_s,
-                                       u"info"_s, u"verify"_s, u"screens"_s}) {
-            SCOPED_TRACE((command + u' ' + path).toStdString());
-            QStringList words = {command, path};
-            if (command == u"create"_s)
-                words += {u"-o"_s, InFolder(u"out"_s)};
-            EXPECT_EQ(Run(words), 3);
+        for (const InputPlace &place : Places()) {
+            if (place.kind == InputKind::Items && !evenAsItems)
+                continue;
+            const QStringList words = place.With(path);
+            SCOPED_TRACE(words.join(u' ').toStdString());
+            EXPECT_EQ(Run(words), place.whenUnreadable);
             EXPECT_EQ(Out(), u""_s);
             EXPECT_EQ(Err().count(u'\n'), 1) << Err().toStdString();
             EXPECT_TRUE(Err().startsWith(path + u':')) << Err().toStdString();
@@ -41,12 +37,21 @@ protected:
     {
         const QString path = InFolder(u"bad.vmp"_s);
         ASSERT_TRUE(WriteBytes(path, bytes));
-        ExpectRefused(path);
+        ExpectRefused(path, false);
         EXPECT_EQ(BytesOf(path), bytes) << "an input is never touched";
     }
 };
 
 } // namespace
+
+TEST_F(BadInput, IsTriedWithEveryCommand)
+{
+    QSet<QString> commands = {u"new"_s}; // which has no input
+    for (const InputPlace &place : Places())
+        commands += place.words.first();
+    const QStringList names = CommandNames();
+    EXPECT_EQ(commands, QSet<QString>(names.begin(), names.end()));
+}
 
 TEST_F(BadInput, AnEmptyFile)
 {
@@ -159,6 +164,7 @@ TEST_F(BadInput, AFullDiskLeavesTheOldFile)
 {
     const QString path = InFolder(u"kept.vmp"_s);
     ASSERT_TRUE(WriteBytes(path, "kept"));
+    const QStringList before = NamesIn(m_folder.path());
     for (const QString &command : {u"rewrite"_s, u"script"_s}) {
         SCOPED_TRACE(command.toStdString());
         const FullDisk full(1000);
@@ -166,7 +172,7 @@ TEST_F(BadInput, AFullDiskLeavesTheOldFile)
         EXPECT_EQ(Err(), path + u": File too large\n"_s);
     }
     EXPECT_EQ(BytesOf(path), "kept");
-    EXPECT_EQ(NamesIn(m_folder.path()), (QStringList{u"kept.vmp"_s, u"out"_s}));
+    EXPECT_EQ(NamesIn(m_folder.path()), before);
 }
 
 TEST_F(BadInput, AFullDiskLeavesTheOldDatabase)

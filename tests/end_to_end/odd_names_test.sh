@@ -18,9 +18,15 @@ refused() {
     [ "$status" -eq 2 ] && [ ! -s printed ]
     grep -qxF "vellumo: The name 'a\\xff.vmp' is not in the encoding of this system." told
 }
-for command in review info verify script rewrite recover; do
+commands=$("$vellumo" --help | sed -n 's/^  vellumo \([a-z]*\) .*/\1/p' | sort -u | grep -vx help)
+[ "$(wc -w <<<"$commands")" -ge 15 ]
+for command in $commands; do
     refused "$command" "$odd"
+    refused "$command" "$project" -o "$odd"
 done
+refused import "$project" --into "$odd"
+refused items "$project" --question 1 --from "$odd"
+refused diff "$project" "$odd"
 refused create -o . "$odd"
 refused rewrite "$project" -o "$odd"
 refused script "$project" --output "$odd"
