@@ -1,47 +1,30 @@
 #include "cli/checked_database.h"
 
 #include "cli/build_in_process.h"
+#include "cli/named_programs.h"
 #include "cli/review_command.h"
 #include "cli/verify_command.h"
 #include "palmgen/build_with_tools.h"
 #include "palmgen/create_messages.h"
 #include "palmgen/create_pass.h"
 #include "platform/files.h"
-#include "platform/folders.h"
 #include "platform/identifier.h"
 #include "platform/work_folder.h"
 #include "readback/palm_database.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
 
-/// The programs that the line wants in place of this process, by the names of those that they are.
-QHash<QString, QString> ProgramsOf(const CommandLine &line)
-{
-    QHash<QString, QString> programs;
-    for (const auto &[option, name] :
-         {std::pair{Option::Compiler, u"pilrc"_s}, std::pair{Option::Builder, u"build-prc"_s}})
-        if (line.Has(option))
-            programs.insert(name, QFileInfo(line.Value(option)).absoluteFilePath());
-    return programs;
-}
-
 /// A private folder in place of application and projects folder, so that a creation runs from a
-/// read-only installation and many times at once. Where one program is named, the other is looked
-/// for as the designer does.
+/// read-only installation and many times at once.
 CreatePlace PrivatePlace(const QString &folder, const CommandLine &line)
 {
-    const ToolLimits limits = {{ApplicationFolder()}, line.TimeoutSeconds()};
-    const auto run = [limits, programs = ProgramsOf(line)](ToolCall call) {
-        call.name = programs.value(call.name, call.name);
-        return RunAndWait(call, limits);
-    };
+    const auto run = [&line](const ToolCall &call) { return RunNamed(call, line); };
     return {{.work = folder, .databases = folder + QDir::separator()}, BuildWithTools(run)};
 }
 
@@ -56,7 +39,7 @@ public:
 
     CheckedDatabase Run()
     {
-        if (ProgramsOf(m_line).isEmpty())
+        if (!NamesPrograms(m_line))
             return Make({{}, BuildInProcess}, {});
         WorkFolder::RemoveLeft();
         const WorkFolder work;

@@ -56,7 +56,8 @@ constexpr OptionRow rows[] = {
     {.option = Option::Compiler,
      .name = "pilrc"_L1,
      .valueName = "PATH"_L1,
-     .help = "the program to compile with; vellumo does it itself otherwise"_L1,
+     .help = "the program to compile with, along PATH where it has no\n"
+             "folder; vellumo does it itself otherwise"_L1,
      .check = CheckedName},
     {.option = Option::Builder,
      .name = "build-prc"_L1,

@@ -76,6 +76,30 @@ TEST_F(CreateCommand, ReportsAToolThatIsMissing)
     EXPECT_TRUE(Err().contains(u"No such file or directory"));
 }
 
+TEST_F(CreateCommand, FindsAToolAlongThePath)
+{
+    PutTool(u"pilrc"_s, "complain 'the one of the path' fail 1");
+    qputenv("PATH", QFile::encodeName(InFolder(u"tools"_s)));
+    for (const QString &option : {u"--pilrc"_s, u"--build-prc"_s}) {
+        m_tools = QStringList{option, u"pilrc"_s};
+        EXPECT_EQ(Create({nestbox}), 4);
+        EXPECT_TRUE(Err().endsWith(u"\nthe one of the path\n")) << Err().toStdString();
+    }
+}
+
+TEST_F(CreateCommand, NamesTheProgramThatItLookedFor)
+{
+    m_tools = QStringList{u"--pilrc"_s, u"no-such-tool"_s};
+    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_TRUE(Err().endsWith(u": no-such-tool, along PATH: No such file or directory\n"))
+        << Err().toStdString();
+    m_tools = QStringList{u"--pilrc"_s, InFolder(u"none/pilrc"_s)};
+    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_TRUE(
+        Err().endsWith(u": %1: No such file or directory\n"_s.arg(InFolder(u"none/pilrc"_s))))
+        << Err().toStdString();
+}
+
 TEST_F(CreateCommand, ReportsToolsThatLeaveNoDatabase)
 {
     UseTools("print fine", "print fine");
