@@ -29,12 +29,13 @@ Ending Review(const QString &input, const CommandLine &line, const Console &cons
     return {exit, "not-passed"_L1, u"The project does not pass."_s};
 }
 
-Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName)
+/// With --strict it is a finding as any other.
+Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName, bool strict)
 {
-    return {.kind = "warning"_L1,
+    return {.kind = strict ? "finding"_L1 : "warning"_L1,
             .code = warning.code,
             .text = Describe(warning),
-            .shown = Visible("warning: "_L1 + Describe(warning)),
+            .shown = Visible((strict ? ""_L1 : "warning: "_L1) + Describe(warning)),
             .file = inputName,
             .step = StepOf(warning.place),
             .question = warning.place.question,
@@ -46,6 +47,7 @@ Notice WarningNotice(const DeliveryWarning &warning, const QString &inputName)
 std::vector<Notice> ReviewNotices(Project &project, const QString &inputName,
                                   const CommandLine &line)
 {
+    const bool strict = line.Has(Option::Strict);
     std::vector<Notice> notices;
     for (const ReviewEntry &entry : ReviewProject(project).entries)
         notices.push_back({.kind = "finding"_L1,
@@ -57,16 +59,11 @@ std::vector<Notice> ReviewNotices(Project &project, const QString &inputName,
                            .field = entry.field});
     // After the review, which takes the blanks off the texts that are judged here.
     for (const DeliveryWarning &warning : FindDeliveryWarnings(project))
-        notices.push_back(WarningNotice(warning, inputName));
+        notices.push_back(WarningNotice(warning, inputName, strict));
     for (const DeliveryWarning &misfit : FindMisfits(project)) {
-        notices.push_back(WarningNotice(misfit, inputName));
-        notices.back().advice = true;
+        notices.push_back(WarningNotice(misfit, inputName, strict));
+        notices.back().advice = !strict;
     }
-    if (line.Has(Option::Strict))
-        for (Notice &notice : notices) {
-            notice.kind = "finding"_L1;
-            notice.advice = false;
-        }
     return notices;
 }
 
