@@ -1,6 +1,7 @@
 #include "exchange/codebook_tables.h"
 
 #include "exchange/csv.h"
+#include "exchange/list_cell.h"
 
 #include <algorithm>
 #include <iterator>
@@ -105,14 +106,15 @@ QString MarkdownText(const QString &text)
 QString CsvHeading(bool namesProject)
 {
     const QStringList heading = Columns() << itemsColumn;
-    return CsvLine(namesProject ? QStringList(u"Project"_s) + heading : heading);
+    return QChar(QChar::ByteOrderMark) +
+           CsvLine(namesProject ? QStringList(u"Project"_s) + heading : heading);
 }
 
 QString CsvRows(const std::vector<CodebookRow> &rows, const QString &project)
 {
     QString text;
     for (const CodebookRow &row : rows) {
-        const QStringList cells = CellsOf(row) << row.items.join(u'|');
+        const QStringList cells = CellsOf(row) << WriteList(row.items);
         text += CsvLine(project.isEmpty() ? cells : QStringList(project) + cells);
     }
     return text;

@@ -17,8 +17,9 @@ QString MarkdownTable(const std::vector<CodebookRow> &rows);
 /// A text as it stands in such a table, and as a heading has it.
 QString MarkdownText(const QString &text);
 
-/// The heading of a table by RFC 4180, and a row for each question; a line ends with CR LF.
-/// Items stand in one cell, apart by '|'. Where a project is named, it is in a first column.
+/// The heading of a table by RFC 4180 behind a byte order mark, and a row for each question; a line
+/// ends with CR LF. Items stand in one cell, a line each (list_cell.h). Where a project is named,
+/// it is in a first column.
 QString CsvHeading(bool namesProject);
 QString CsvRows(const std::vector<CodebookRow> &rows, const QString &project = {});
 

@@ -10,7 +10,13 @@ namespace {
 const QString nestbox = DataFile(u"projects/Nestbox.vmp"_s);
 const QString shelfAudit = DataFile(u"../../examples/ShelfAudit.vmp"_s);
 
-using ColumnsCommand = VellumoRun;
+const QByteArray mark = "\xEF\xBB\xBF";
+
+class ColumnsCommand : public VellumoRun
+{
+protected:
+    QByteArray Bytes() const { return QByteArray::fromStdString(out.str()); }
+};
 
 } // namespace
 
@@ -32,7 +38,8 @@ TEST_F(ColumnsCommand, TellsAPersonInATable)
 TEST_F(ColumnsCommand, WritesCsvInUtf8)
 {
     EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, shelfAudit}), 0);
-    EXPECT_TRUE(Out().startsWith("Number,Column Name,Type,Value,Title,Question,Items\r\n"_L1));
+    EXPECT_TRUE(
+        Bytes().startsWith(mark + "Number,Column Name,Type,Value,Title,Question,Items\r\n"));
     EXPECT_TRUE(Out().contains(
         u"\r\n3,PRICE,Currency,amount of money,Price,Price on the label (in \u20ac),\r\n"_s))
         << out.str();
@@ -69,8 +76,9 @@ TEST_F(ColumnsCommand, NamesEachOfSeveralProjects)
     EXPECT_TRUE(Out().startsWith("file: "_L1 + nestbox + "\nNumber"_L1)) << out.str();
     EXPECT_EQ(Out().count("\nfile: "_L1), 1);
     EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, nestbox, shelfAudit}), 0);
-    EXPECT_TRUE(Out().startsWith("Project,Number,"_L1)) << out.str();
+    EXPECT_TRUE(Bytes().startsWith(mark + "Project,Number,")) << out.str();
     EXPECT_EQ(Out().count("Project,"_L1), 1) << "one table with one heading";
+    EXPECT_EQ(Bytes().count(mark), 1);
     EXPECT_TRUE(Out().contains("\r\n"_L1 + shelfAudit + ",1,SHOP,"_L1)) << out.str();
     const QString odd = InFolder(u"a_b|c.vmp"_s);
     ASSERT_TRUE(QFile::copy(nestbox, odd));
@@ -83,7 +91,7 @@ TEST_F(ColumnsCommand, TriesEachProject)
 {
     const QString missing = InFolder(u"missing.vmp"_s);
     EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, missing, nestbox}), 3);
-    EXPECT_TRUE(Out().startsWith("Project,Number,"_L1)) << out.str();
+    EXPECT_TRUE(Bytes().startsWith(mark + "Project,Number,")) << out.str();
     EXPECT_TRUE(Err().startsWith(missing + u':')) << err.str();
 }
 

@@ -1,5 +1,6 @@
 #include "exchange/codebook_tables.h"
 
+#include "exchange/list_cell.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
@@ -84,19 +85,28 @@ TEST(MarkdownTable, TakesTextsForTexts)
 
 TEST(CsvRows, AreWrittenByRfc4180)
 {
-    EXPECT_EQ(CsvHeading(false), u"Number,Column Name,Type,Value,Title,Question,Items\r\n"_s);
+    EXPECT_EQ(CsvHeading(false), u"\uFEFFNumber,Column Name,Type,Value,Title,Question,Items\r\n"_s);
     EXPECT_EQ(CsvRows(rows), u"1,NAME,Text,text,Your name,Who are you?,\r\n"
                              "2,BIRDS,Checkboxes,several of the items,Birds,Which birds?,"
-                             "Wren|Robin\r\n"_s);
+                             "\"Wren\nRobin\"\r\n"_s);
     EXPECT_EQ(CsvRows({Asks(u"Say \"a, b\""_s), Asks(u"two\nlines"_s), Asks(u"a\rb"_s)}),
               u"1,Q,Text,text,T,\"Say \"\"a, b\"\"\",\r\n"
               "1,Q,Text,text,T,\"two\nlines\",\r\n"
               "1,Q,Text,text,T,\"a\rb\",\r\n"_s);
 }
 
+TEST(CsvRows, KeepItemsApartWhateverIsInThem)
+{
+    const QStringList items = {u"a|b"_s, u"one\\two"_s, u"x\ny"_s, u""_s, u" z"_s};
+    const QString written = CsvRows({Asks(u"x"_s, items)});
+    EXPECT_EQ(written, u"1,Q,Text,text,T,x,\"a|b\none\\\\two\nx\\ny\n\\-\n\\sz\"\r\n"_s);
+    const QString cell = written.mid(written.indexOf(u'"') + 1).chopped(3);
+    EXPECT_EQ(*ReadList(cell), items) << "as those of an exported project";
+}
+
 TEST(CsvRows, NameTheirProjectWhereAsked)
 {
     EXPECT_EQ(CsvHeading(true),
-              u"Project,Number,Column Name,Type,Value,Title,Question,Items\r\n"_s);
+              u"\uFEFFProject,Number,Column Name,Type,Value,Title,Question,Items\r\n"_s);
     EXPECT_EQ(CsvRows({Asks(u"x"_s)}, u"a,b.vmp"_s), u"\"a,b.vmp\",1,Q,Text,text,T,x,\r\n"_s);
 }
