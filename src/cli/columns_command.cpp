@@ -44,8 +44,9 @@ public:
         : m_line(line), m_console(console), m_several(line.inputs.size() > 1)
     {}
 
-    void Write(const std::vector<CodebookRow> &rows, const QString &inputName)
+    void Write(const Project &project, const QString &inputName)
     {
+        const std::vector<CodebookRow> rows = CodebookOf(project);
         const QString name = m_several ? inputName : QString();
         if (m_console.json)
             TellProgram(rows, inputName, m_console);
@@ -53,7 +54,8 @@ public:
             m_console.Write(
                 ((m_first ? CsvHeading(m_several) : QString()) + CsvRows(rows, name)).toUtf8());
         else if (m_line.Has(Option::Markdown))
-            m_console.Write((MarkdownHeading(name) + MarkdownTable(rows)).toUtf8());
+            m_console.Write(
+                (MarkdownHeading(name) + MarkdownForm(project) + MarkdownTable(rows)).toUtf8());
         else
             TellPerson(rows, name, m_console);
         m_first = false;
@@ -86,7 +88,7 @@ Exit TellColumns(const CommandLine &line, const Console &console)
         const Result<Project> project = ReadProjectInput(input, console);
         if (!project)
             return Refuse(console, Exit::Unreadable, project.error());
-        tables.Write(CodebookOf(*project), InputName(input));
+        tables.Write(*project, InputName(input));
         return {Exit::Fine, "columns"_L1, u"Its columns were told."_s};
     });
 }

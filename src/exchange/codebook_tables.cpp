@@ -2,6 +2,7 @@
 
 #include "exchange/csv.h"
 #include "exchange/list_cell.h"
+#include "model/form_fields.h"
 
 #include <algorithm>
 #include <iterator>
@@ -74,6 +75,14 @@ QStringList TerminalTable(const std::vector<CodebookRow> &rows)
             lines += QString(widths.first() + 2, u' ') + row.items.join(" | "_L1);
     }
     return lines;
+}
+
+QString MarkdownForm(const Project &project)
+{
+    QString text;
+    for (const FormFieldRow &row : formFields)
+        text += u"- %1: %2\n"_s.arg(row.name, MarkdownText(project.*row.text));
+    return text + u'\n';
 }
 
 QString MarkdownTable(const std::vector<CodebookRow> &rows)

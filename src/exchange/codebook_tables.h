@@ -11,6 +11,8 @@ namespace vellumo {
 /// a question follow on a line of their own. Control characters are in it as they are.
 QStringList TerminalTable(const std::vector<CodebookRow> &rows);
 
+/// The texts of a form as a list of GitHub's Markdown, with an empty line behind it.
+QString MarkdownForm(const Project &project);
 /// A table of GitHub's Markdown, whose texts are only texts; items and lines stand below each
 /// other in their cell.
 QString MarkdownTable(const std::vector<CodebookRow> &rows);

@@ -48,7 +48,8 @@ TEST_F(ColumnsCommand, WritesCsvInUtf8)
 TEST_F(ColumnsCommand, WritesMarkdown)
 {
     EXPECT_EQ(Run({u"columns"_s, shelfAudit, u"--markdown"_s}), 0);
-    EXPECT_TRUE(Out().startsWith("| Number | Column Name |"_L1)) << out.str();
+    EXPECT_TRUE(Out().startsWith("- form name: ShelfAudit\n- form version: "_L1)) << out.str();
+    EXPECT_TRUE(Out().contains("\n\n| Number | Column Name |"_L1)) << out.str();
     EXPECT_TRUE(Out().contains("| How many packs stand\\\\nin the front row? |"_L1)) << out.str();
 }
 
@@ -84,7 +85,7 @@ TEST_F(ColumnsCommand, NamesEachOfSeveralProjects)
     ASSERT_TRUE(QFile::copy(nestbox, odd));
     EXPECT_EQ(Run({u"columns"_s, u"--markdown"_s, nestbox, odd}), 0);
     EXPECT_TRUE(Out().contains(" |\n\n## "_L1)) << out.str();
-    EXPECT_TRUE(Out().contains("/a\\_b\\|c.vmp\n\n| Number |"_L1)) << out.str();
+    EXPECT_TRUE(Out().contains("/a\\_b\\|c.vmp\n\n- form name: "_L1)) << out.str();
 }
 
 TEST_F(ColumnsCommand, TriesEachProject)

@@ -84,6 +84,7 @@ git commit -qam two
 
 has 'the log has columns' '+| 5 | CREW | Numeric | number | Crew | How many people on site? |  |' \
     git log -p -1 -- site.vmp
+has 'the log has the texts of the form' '+- form version: 1.1' git log -p -1 -- site.vmp
 has 'a commit is shown by differences, too' '@@ question 5, CREW: title @@' git show --ext-diff
 
 git mv site.vmp moved.vmp

@@ -54,6 +54,18 @@ TEST(TerminalTable, OfNothingIsAHeading)
               QStringList(u"Number  Column Name  Type  Value  Title  Question"_s));
 }
 
+TEST(MarkdownForm, HasTheTextsOfTheForm)
+{
+    const Project project = {.FormName = u"Nest_box"_s,
+                             .FormVersion = u"1.0"_s,
+                             .Description = u"Of *all* boxes\nof the park"_s,
+                             .FormPath = u"C:\\Nests"_s};
+    EXPECT_EQ(MarkdownForm(project), u"- form name: Nest\\_box\n"
+                                     "- form version: 1.0\n"
+                                     "- description: Of \\*all\\* boxes<br>of the park\n"
+                                     "- data folder: C:\\\\Nests\n\n"_s);
+}
+
 TEST(MarkdownTable, HasARowForEachQuestion)
 {
     EXPECT_EQ(MarkdownTable(rows),
