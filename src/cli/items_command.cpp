@@ -47,18 +47,23 @@ Result<QList<NewItem>> ReadItems(const CommandLine &line, const Console &console
     return items;
 }
 
+struct NumberedQuestion {
+    QuestionRow row;
+    int number; ///< position from 1
+};
+
 /// The question at this place or of this column name.
-Result<QuestionRow> QuestionCalled(const QString &name, const clsDataSource &source)
+Result<NumberedQuestion> QuestionCalled(const QString &name, const clsDataSource &source)
 {
     const QList<QuestionRow> &rows = source.Questions().Rows();
     bool isNumber = false;
     const qsizetype place = name.toInt(&isNumber);
     if (isNumber && place >= 1 && place <= rows.size())
-        return rows[place - 1];
+        return NumberedQuestion{rows[place - 1], int(place)};
     const auto named = std::ranges::find(rows, name, &QuestionRow::ColumnName);
     if (named == rows.end())
         return Error{u"There is no question '%1'."_s.arg(name)};
-    return *named;
+    return NumberedQuestion{*named, int(named - rows.begin()) + 1};
 }
 
 /// Why a question of these items cannot be finished; empty = it can.
@@ -68,14 +73,18 @@ QString ObjectionTo(const QStringList &items, const QString &type)
     return ObjectionToFinish(5, question);
 }
 
-/// Adds what the file has; Fine = the question can be finished with it.
-Exit Fill(ItemList &items, const QString &type, const CommandLine &line, const Console &console)
+/// Adds what the file has to the items of a question; Fine = it can be finished with it.
+Exit Fill(ItemList &items, const NumberedQuestion &question, const CommandLine &line,
+          const Console &console)
 {
+    const QString &type = question.row.Type;
     const Result<QList<NewItem>> added = ReadItems(line, console);
     if (!added)
         return Refuse(console, Exit::Unreadable, added.error());
     const QString from = InputName(line.Value(Option::From));
-    const QList<Refusal> refusals = AddItems(items, *TypeNamed(type)->items, *added);
+    QList<Refusal> refusals = AddItems(items, *TypeNamed(type)->items, *added);
+    for (Refusal &refusal : refusals)
+        refusal.question = question.number;
     if (!MayWrite(refusals, KindOf(line), from, line, console))
         return Exit::NotPassed;
     if (const QString objection = ObjectionTo(items.Items(), type); !objection.isEmpty())
@@ -83,19 +92,19 @@ Exit Fill(ItemList &items, const QString &type, const CommandLine &line, const C
     return Exit::Fine;
 }
 
-Ending SetItemsOf(const QuestionRow &question, Project &project, const CommandLine &line,
+Ending SetItemsOf(const NumberedQuestion &question, Project &project, const CommandLine &line,
                   const Console &console)
 {
     ItemList items;
     if (line.Has(Option::Append))
-        items.SetItems(project.source.ItemsOf(question.Id));
+        items.SetItems(project.source.ItemsOf(question.row.Id));
     const qsizetype before = items.Items().size();
-    if (const Exit filled = Fill(items, question.Type, line, console); filled != Exit::Fine)
+    if (const Exit filled = Fill(items, question, line, console); filled != Exit::Fine)
         return filled;
     const qsizetype count = items.Items().size() - before;
     if (line.Has(Option::Sort))
         items.Sort();
-    project.source.ReplaceItems(question.Id, items.Items());
+    project.source.ReplaceItems(question.row.Id, items.Items());
 
     const QString input = line.inputs.first(), target = line.Value(Option::Output, input);
     Ending ending = DeliverProject(project, InputName(input), target, "items"_L1, console);
@@ -109,14 +118,15 @@ Ending SetItemsIn(const QString &input, const CommandLine &line, const Console &
     Result<Project> project = ReadProjectInput(input, console);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
-    const Result<QuestionRow> question =
+    const Result<NumberedQuestion> question =
         QuestionCalled(line.Value(Option::Question), project->source);
     if (!question)
         return Refuse(console, Exit::WrongUse, {Visible(question.error().text), InputName(input)});
-    if (!HasItems(question->Type))
-        return Refuse(console, Exit::WrongUse,
-                      {u"A question of the type '%1' has no items."_s.arg(Visible(question->Type)),
-                       InputName(input)});
+    if (!HasItems(question->row.Type))
+        return Refuse(
+            console, Exit::WrongUse,
+            {u"A question of the type '%1' has no items."_s.arg(Visible(question->row.Type)),
+             InputName(input)});
     return SetItemsOf(*question, *project, line, console);
 }
 

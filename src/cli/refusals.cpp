@@ -1,15 +1,32 @@
 #include "cli/refusals.h"
 
+#include "model/form_fields.h"
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
+
+/// The step of the designer that has the text, 0 = none has.
+int StepOf(const Refusal &refusal)
+{
+    if (refusal.question > 0)
+        return StepOf(TextPlace{{}, refusal.question});
+    const auto *row = std::ranges::find_if(formFields, [&](const FormFieldRow &field) {
+        return refusal.column.compare(field.name, Qt::CaseInsensitive) == 0;
+    });
+    return row == formFields.end() ? 0 : row->step;
+}
 
 Notice NoticeOf(const Refusal &refusal, RowsAre rowsAre, bool isLeftOut)
 {
     Notice notice = {.kind = isLeftOut ? "warning"_L1 : "finding"_L1,
                      .code = "refused"_L1,
                      .text = refusal.reason,
+                     .step = StepOf(refusal),
+                     .question = refusal.question,
                      .field = refusal.column,
                      .advice = isLeftOut};
     const int row = static_cast<int>(refusal.row);

@@ -29,12 +29,13 @@ public:
 
     SheetImport Import(const QList<SheetQuestion> &questions)
     {
+        int place = Source().QuestionCount();
         for (const SheetQuestion &question : questions) {
             if (const QString full = RefusalWhenFull(Source()); !full.isEmpty()) {
-                m_import.refusals.append({question.row, {}, full});
+                m_import.refusals.append({question.row, {}, full, ++place});
                 ++m_import.leftOut;
             } else {
-                Add(question);
+                Add(question, ++place);
             }
         }
         Source().MoveFirst();
@@ -44,13 +45,15 @@ public:
 private:
     clsDataSource &Source() { return m_import.project.source; }
 
-    void Add(SheetQuestion question)
+    void Add(SheetQuestion question, int place)
     {
         Refuse(question, ObjectionsToAdding(question.question, Source(), m_takenName));
         if (question.refusals.isEmpty() && question.id)
             ShareItems(question);
         else if (question.refusals.isEmpty())
             PassTakenIds(question);
+        for (Refusal &refusal : question.refusals)
+            refusal.question = place;
         m_import.refusals += question.refusals;
         if (question.refusals.isEmpty())
             Append(question);

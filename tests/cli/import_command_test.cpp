@@ -109,6 +109,8 @@ TEST_F(ImportCommand, TellsProgramsInJson)
                      {u"message"_s, u"Row 2, Type: There is no question type of this name."_s},
                      {u"file"_s, Sheet()},
                      {u"row"_s, 2},
+                     {u"step"_s, 2},
+                     {u"question"_s, 1},
                      {u"field"_s, u"Type"_s}}));
     EXPECT_EQ(Objects()[1][u"code"_s], u"not-passed"_s);
     EXPECT_EQ(Objects()[2][u"code"_s], u"failed"_s);
@@ -128,6 +130,30 @@ TEST_F(ImportCommand, TellsProgramsInJson)
     EXPECT_EQ(Run({u"export"_s, siteVisit, u"--csv"_s, u"--json"_s}), 2);
     EXPECT_EQ(Run({u"export"_s, siteVisit, u"--csv"_s, u"--json"_s, u"-o"_s, Sheet()}), 0);
     EXPECT_EQ(Objects()[0][u"code"_s], u"exported"_s);
+}
+
+TEST_F(ImportCommand, TellsWhereTheDesignerHasWhatIsRefused)
+{
+    const QByteArray rows = "Form name,a,b\nData folder,a,b\nNext Id,x\n" + heading +
+                            "What?,Text,a,\nWhy?,Essay,b,\n,,,\nHow?,Text,,\n";
+    const auto places = [this] {
+        QStringList told;
+        for (const QJsonObject &object : Objects())
+            if (object[u"code"_s] == u"refused"_s)
+                told += u"%1: step %2, question %3"_s.arg(
+                    QString::number(object[u"row"_s].toInt()),
+                    QString::number(object[u"step"_s].toInt()),
+                    QString::number(object[u"question"_s].toInt()));
+        return told;
+    };
+    EXPECT_EQ(Import(rows, {u"--json"_s}), 1);
+    EXPECT_EQ(places(), (QStringList{u"1: step 1, question 0"_s, u"2: step 3, question 0"_s,
+                                     u"3: step 0, question 0"_s, u"6: step 2, question 2"_s,
+                                     u"8: step 2, question 3"_s}));
+    const QString project = InFolder(u"given.vmp"_s);
+    ASSERT_EQ(Import(heading + "What?,Text,a,\n", {u"-o"_s, project}), 0);
+    EXPECT_EQ(Import(heading + "Why?,Essay,b,\n", {u"--json"_s, u"--into"_s, project}), 1);
+    EXPECT_EQ(places(), QStringList{u"2: step 2, question 2"_s}) << "behind those that are there";
 }
 
 TEST_F(ImportCommand, RefusesWhatIsNoSheet)

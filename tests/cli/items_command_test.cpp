@@ -128,6 +128,8 @@ TEST_F(ItemsCommand, UsesStandardStreamsAndJson)
     EXPECT_EQ(Err(), u"1 item was added.\n"_s);
     EXPECT_EQ(Items(u"2"_s, "d\nd", {u"--json"_s}), 1);
     EXPECT_EQ(Objects()[0][u"line"_s], 2);
+    EXPECT_EQ(Objects()[0][u"question"_s], 2);
+    EXPECT_EQ(Objects()[0][u"step"_s], 2);
 }
 
 TEST_F(ItemsCommand, RefusesWhatMakesNoSense)

@@ -14,7 +14,7 @@ const QByteArray heading = "Id,Order,Title,Question,Type,Column Name,Items\n";
 QStringList Told(const SheetImport &import)
 {
     QStringList told;
-    for (const auto &[row, column, reason] : import.refusals)
+    for (const auto &[row, column, reason, question] : import.refusals)
         told += u"%1 %2: "_s.arg(QString::number(row), column) + reason;
     return told;
 }

@@ -147,7 +147,7 @@ TEST(Sheet, GivesRowsWithoutIdsFreshOnes)
               (QList<int>{3, 4}));
     const SheetImport full = Imported(heading + "2147483647,a,Text,a\n,b,Text,b\n");
     EXPECT_EQ(ids(full), (QList<int>{2147483647, 2147483647}));
-    EXPECT_EQ(full.refusals, (QList<Refusal>{{3, u"Id"_s, u"There is no Id left."_s}}));
+    EXPECT_EQ(full.refusals, (QList<Refusal>{{3, u"Id"_s, u"There is no Id left."_s, 2}}));
     EXPECT_EQ(ids(Imported(heading + "-5,a,Text,a\n")), (QList<int>{-5, 1}));
 }
 
