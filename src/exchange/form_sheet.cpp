@@ -65,7 +65,8 @@ public:
         const QString id = SheetNames().TakeName(project.FormName);
         if (id != project.FormName)
             Lose("form-id"_L1, {"form name"_L1}, u"is '%1' where a name has to be valid"_s.arg(id));
-        settings.rows.append({project.FormName, id, project.FormVersion});
+        settings.rows.append(
+            {WithoutReference(project.FormName, {"form name"_L1}), id, project.FormVersion});
         return {{m_survey, m_choices, settings}, m_losses};
     }
 
@@ -94,14 +95,17 @@ private:
     /// question, which is what "${" would do.
     QString Shown(const QString &text, QLatin1StringView field)
     {
-        QString shown = QString(text).replace(u"\\n"_s, u"\n"_s);
-        if (shown.contains("${"_L1)) {
-            shown.replace(u"${"_s, u"$ {"_s);
-            Lose("text-changed"_L1, {field, m_number},
-                 u"has \"$ {\" in the sheet instead of \"${\", which would be a reference there"_s,
-                 true);
-        }
-        return shown;
+        return WithoutReference(QString(text).replace(u"\\n"_s, u"\n"_s), {field, m_number});
+    }
+
+    QString WithoutReference(QString text, const TextPlace &place)
+    {
+        if (!text.contains("${"_L1))
+            return text;
+        Lose("text-changed"_L1, place,
+             u"has \"$ {\" in the sheet instead of \"${\", which would be a reference there"_s,
+             true);
+        return text.replace(u"${"_s, u"$ {"_s);
     }
 
     /// The name of the list that a question chooses from; empty where it chooses from none.
@@ -113,9 +117,26 @@ private:
             return {};
         QString list = m_lists.TakeName(name);
         SheetNames choices;
-        for (const QString &item : m_items.value(row.Id))
-            m_choices.rows.append({list, choices.TakeChoice(item), Shown(item, "item"_L1)});
+        QString other; // the first that has another name
+        for (const QString &item : m_items.value(row.Id)) {
+            const QString choice = choices.TakeChoice(item);
+            m_choices.rows.append({list, choice, Shown(item, "item"_L1)});
+            if (choice != item && other.isEmpty())
+                other = u"such as '%1' for '%2'"_s.arg(choice, item);
+        }
+        LoseChoices(other);
         return list;
+    }
+
+    /// Their labels have the items as they are, so that this changes no text of a question.
+    void LoseChoices(const QString &other)
+    {
+        if (!other.isEmpty())
+            m_losses.append(
+                {"choice-name"_L1,
+                 {"item"_L1, m_number},
+                 u"Items of question %1 have other names in the sheet, "_s.arg(m_number) + other +
+                     u'.'});
     }
 
     QString YesNoList()

@@ -20,7 +20,7 @@ QString SheetNames::TakeChoice(const QString &text)
 {
     static const QRegularExpression blanks(u"[\\s\\p{Z}\\p{Cc}]+"_s,
                                            QRegularExpression::UseUnicodePropertiesOption);
-    const QString name = QString(text).replace(blanks, u"_"_s);
+    const QString name = QString(text).replace(blanks, u"_"_s).replace(u"${"_s, u"$_{"_s);
     return TakeUnique(name.isEmpty() ? u"_"_s : name);
 }
 

@@ -14,7 +14,8 @@ public:
     /// stops, all of ASCII; other characters become underscores.
     QString TakeName(const QString &text);
 
-    /// Likewise for the name of a choice, in which everything stands but white space.
+    /// Likewise for the name of a choice, in which everything stands but white space, and "${",
+    /// which would begin a reference.
     QString TakeChoice(const QString &text);
 
 private:

@@ -84,7 +84,11 @@ TEST(FormSheet, HasARowForEachType)
                                  u"Checkboxes,One_thing,One thing"_s, u"Checkboxes,Two,Two"_s}));
     EXPECT_EQ(Table(*sheet, u"settings"_s).rows,
               (QList<QStringList>{{u"Visit"_s, u"Visit"_s, u"2.1"_s}}));
-    EXPECT_EQ(Codes(*sheet), QStringList{u"title-as-hint"_s});
+    EXPECT_EQ(Codes(*sheet), (QStringList{u"choice-name"_s, u"choice-name"_s, u"title-as-hint"_s}));
+    EXPECT_EQ(sheet->losses[0].text, u"Items of question 3 have other names in the sheet, "
+                                     "such as 'One_thing' for 'One thing'."_s);
+    EXPECT_EQ(sheet->losses[0].place.question, 3);
+    EXPECT_FALSE(sheet->losses[0].changes) << "their labels are the items";
 }
 
 TEST(FormSheet, TellsWhatItDoesNotHave)
@@ -98,8 +102,8 @@ TEST(FormSheet, TellsWhatItDoesNotHave)
     const auto sheet = MakeFormSheet(project);
     ASSERT_TRUE(sheet);
     EXPECT_EQ(Codes(*sheet), (QStringList{u"name-changed"_s, u"text-changed"_s, u"name-changed"_s,
-                                          u"text-changed"_s, u"title-as-hint"_s, u"not-in-sheet"_s,
-                                          u"not-in-sheet"_s, u"form-id"_s}));
+                                          u"text-changed"_s, u"choice-name"_s, u"title-as-hint"_s,
+                                          u"not-in-sheet"_s, u"not-in-sheet"_s, u"form-id"_s}));
     EXPECT_EQ(sheet->losses[0].text,
               u"The column name of question 1 is 'A_B' in the sheet instead of 'A B'."_s);
     EXPECT_TRUE(sheet->losses[0].changes);
@@ -112,8 +116,25 @@ TEST(FormSheet, TellsWhatItDoesNotHave)
     for (const QStringList &row : Table(*sheet, u"choices"_s).rows)
         choices += row[1] + u'=' + row[2];
     EXPECT_EQ(choices, (QStringList{u"yes=Yes"_s, u"no=No"_s, u"a_b=a b"_s, u"a_b_2=a\u00A0 b"_s,
-                                    u"${c}=$ {c}"_s, u"_="_s}));
+                                    u"$_{c}=$ {c}"_s, u"_="_s}));
     EXPECT_EQ(Table(*sheet, u"settings"_s).rows[0][1], u"_1st-visit"_s);
+}
+
+TEST(FormSheet, HasNoReferenceInAnyCell)
+{
+    Project project = {.FormName = u"a${b}"_s};
+    Add(project, {.Title = u"${"_s, .Question = u"${"_s, .Type = u"Text"_s, .ColumnName = u"${"_s});
+    Add(project, {.Question = u"?"_s, .Type = u"Checkboxes"_s, .ColumnName = u"x"_s},
+        {u"${"_s, u"$ {"_s, u"$_{"_s});
+    const auto sheet = MakeFormSheet(project);
+    ASSERT_TRUE(sheet);
+    for (const SheetTable &table : sheet->tables)
+        for (const QStringList &row : table.rows)
+            EXPECT_FALSE(row.join(u'\n').contains("${"_L1)) << row.join(u',').toStdString();
+    EXPECT_EQ(Table(*sheet, u"settings"_s).rows[0][0], u"a$ {b}"_s);
+    EXPECT_EQ(sheet->losses.last().code, "text-changed"_L1);
+    EXPECT_EQ(sheet->losses.last().place.field, "form name"_L1);
+    EXPECT_TRUE(sheet->losses.last().changes);
 }
 
 TEST(FormSheet, IsRefusedWhereAFormToolWouldRefuseIt)
