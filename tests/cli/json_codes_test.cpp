@@ -1,3 +1,4 @@
+#include "cli/commands.h"
 #include "support/files.h"
 #include "support/print.h"
 
@@ -94,6 +95,79 @@ TEST(JsonCodes, AreThoseOfTheSources)
     // Nothing but a code is written in this way, and the name of a tool.
     EXPECT_EQ(Matches(sources, u"\"([a-z]+(?:-[a-z]+)+)\""_s) - described,
               QSet<QString>{u"build-prc"_s});
+}
+
+/// The examples of the description, each an object on a line.
+QList<QJsonObject> Examples()
+{
+    QList<QJsonObject> examples;
+    for (const QString &line : TextOf(u"docs/json.md"_s).split(u'\n'))
+        if (line.startsWith("    {"_L1)) {
+            const auto example = QJsonDocument::fromJson(line.toUtf8());
+            EXPECT_TRUE(example.isObject()) << line.toStdString();
+            examples += example.object();
+        }
+    return examples;
+}
+
+QJsonObject Definitions()
+{
+    return QJsonDocument::fromJson(TextOf(u"docs/vellumo-output.schema.json"_s).toUtf8())
+        .object()[u"$defs"_s]
+        .toObject();
+}
+
+/// Whether kind and code are those of a definition.
+bool Is(const QJsonObject &object, const QJsonObject &properties)
+{
+    return properties[u"kind"_s][u"const"_s] == object[u"kind"_s] &&
+           properties[u"code"_s][u"enum"_s].toArray().contains(object[u"code"_s]);
+}
+
+/// That the members of an object are those that its definition has or requires.
+void ExpectMembers(const QJsonObject &object, const QJsonObject &definition)
+{
+    for (const auto &member : definition[u"required"_s].toArray())
+        EXPECT_TRUE(object.contains(member.toString())) << member.toString().toStdString();
+    for (const QString &member : object.keys())
+        EXPECT_TRUE(definition[u"properties"_s].toObject().contains(member))
+            << member.toStdString();
+}
+
+TEST(JsonExamples, AreThereForEachObjectAndHaveItsMembers)
+{
+    const QList<QJsonObject> examples = Examples();
+    qsizetype known = 0;
+    for (const QJsonObject definitions = Definitions(); const QString &name : definitions.keys()) {
+        const QJsonObject definition = definitions[name].toObject();
+        const QJsonObject properties = definition[u"properties"_s].toObject();
+        if (!properties.contains(u"kind"_s))
+            continue; // it is only a part of an object
+        SCOPED_TRACE(name.toStdString());
+        const qsizetype before = known;
+        for (const QJsonObject &example : examples)
+            if (Is(example, properties)) {
+                ExpectMembers(example, definition);
+                ++known;
+            }
+        EXPECT_GT(known, before) << "it has no example";
+    }
+    EXPECT_EQ(known, examples.size()) << "an example is no object of the schema";
+}
+
+TEST(JsonCodes, HaveEachARowOfTheirOwnWithCommandsThatThereAre)
+{
+    const QStringList commands = vellumo::CommandNames() << u"all"_s;
+    for (const QString &line : TextOf(u"docs/json.md"_s).section(u"\n## "_s, 1).split(u'\n')) {
+        if (!line.startsWith("| `"_L1))
+            continue;
+        const QStringList cells = line.split(u'|');
+        ASSERT_EQ(cells.size(), 6) << line.toStdString();
+        EXPECT_EQ(cells[1].count(u'`'), 2) << line.toStdString();
+        for (const QString &command : cells[2].trimmed().split(u", "_s))
+            EXPECT_TRUE(commands.contains(command)) << line.toStdString();
+        EXPECT_TRUE(cells[4].contains(QRegularExpression(u"\\d"_s))) << line.toStdString();
+    }
 }
 
 } // namespace
