@@ -40,6 +40,15 @@ TEST_F(ReviewCommand, ListsTheEntriesAsTheErrorListShowsThem)
     EXPECT_EQ(Err(), u""_s);
 }
 
+TEST_F(ReviewCommand, WarnsProgramsOfAnUnknownType)
+{
+    const QString path = Changed("<Type><![CDATA[Text]]></Type>", "<Type>Telepathy</Type>");
+    EXPECT_EQ(Run({u"review"_s, u"--json"_s, path}), 1);
+    ASSERT_GE(Objects().size(), 2);
+    EXPECT_EQ(Objects()[0][u"kind"_s], u"warning"_s);
+    EXPECT_EQ(Objects()[0][u"code"_s], u"unknown-type"_s);
+}
+
 TEST_F(ReviewCommand, PutsTheFileInFrontWhereThereAreSeveral)
 {
     const QString good = example, bad = Changed(name, noName);
