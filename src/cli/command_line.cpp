@@ -82,7 +82,7 @@ QString HintOfNames(const QStringList &words)
 
 QString HintFor(const QStringList &words, const QCommandLineParser &parser, Options taken)
 {
-    if (const QString hint = HintOfNames(words); !hint.isEmpty())
+    if (QString hint = HintOfNames(words); !hint.isEmpty())
         return hint;
     QStringList names = {u"help"_s, u"version"_s};
     for (const OptionRow &row : OptionRows())
