@@ -51,7 +51,9 @@ vellumo \- turn projects of Vellumo Designer into Palm databases, without a wind
 .B vellumo help
 [\fICOMMAND\fR]
 .br
-.B vellumo \-\-version
+.B vellumo \-\-help
+|
+.B \-\-version
 .SH DESCRIPTION
 A project (\fI.vmp\fR) is a form for data collection on Palm OS handhelds; its database (\fI.prc\fR) is
 what the handheld's viewer shows. This command does what the designer does with them, and more. A
@@ -80,8 +82,8 @@ where one of these two is looked for when the other is named
 
 QByteArray ManualPage()
 {
-    QString page = u".TH VELLUMO 1 \"\" \"Vellumo Designer %1\" \"User Commands\"\n"_s.arg(
-        QLatin1StringView(VELLUMO_VERSION));
+    QString page = u".TH VELLUMO 1 \"%1\" \"Vellumo Designer %2\" \"User Commands\"\n"_s.arg(
+        QLatin1StringView(VELLUMO_DATE), QLatin1StringView(VELLUMO_VERSION));
     page += before;
     for (const Command &command : Commands())
         page += OfCommand(command);
