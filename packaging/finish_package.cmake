@@ -1,0 +1,23 @@
+# Run by cpack over the files that it is about to pack: gives them the form that their system asks for.
+cmake_minimum_required(VERSION 3.25)
+set(root ${CPACK_TEMPORARY_INSTALL_DIRECTORY})
+
+# put(FOLDER FILES...): readable by everybody, whoever packs.
+function(put folder)
+    file(COPY ${ARGN} DESTINATION ${folder}
+        FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+endfunction()
+
+if(CPACK_GENERATOR STREQUAL "DEB")
+    # Debian has the licence in a file of its own form, and knows changes and pages compressed.
+    set(share ${root}${CPACK_PACKAGING_INSTALL_PREFIX}/share)
+    set(documents ${share}/doc/${CPACK_PACKAGE_NAME})
+    put(${documents} ${CPACK_VELLUMO_PACKAGING}/debian/copyright
+        ${CPACK_VELLUMO_PACKAGING}/debian/changelog)
+    file(REMOVE ${documents}/LICENSE)
+    file(RENAME ${documents}/changelog ${documents}/changelog.Debian)
+    file(RENAME ${documents}/CHANGELOG.md ${documents}/changelog)
+    file(GLOB pages ${share}/man/man*/*)
+    execute_process(COMMAND gzip -9n ${pages} ${documents}/changelog ${documents}/changelog.Debian
+        COMMAND_ERROR_IS_FATAL ANY)
+endif()

@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# make_packages.sh CPACK BUILD FOLDER: what cpack makes of the build folder, as if at one moment.
+set -euo pipefail
+
+for needed in dpkg-deb dpkg-shlibdeps file; do
+    command -v "$needed" >/dev/null || { printf 'skipped: no %s\n' "$needed"; exit 77; }
+done
+rm -rf "$3"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+SOURCE_DATE_EPOCH=1700000000 "$1" --config "$2/CPackConfig.cmake" -B "$3" >"$log" 2>&1 || {
+    cat "$log" >&2
+    exit 1
+}
+rm -r "$3/_CPack_Packages"
