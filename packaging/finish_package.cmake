@@ -20,4 +20,9 @@ if(CPACK_GENERATOR STREQUAL "DEB")
     file(GLOB pages ${share}/man/man*/*)
     execute_process(COMMAND gzip -9n ${pages} ${documents}/changelog ${documents}/changelog.Debian
         COMMAND_ERROR_IS_FATAL ANY)
+elseif(CPACK_GENERATOR STREQUAL "TGZ")
+    file(COPY ${CPACK_VELLUMO_PACKAGING}/archive/install ${CPACK_VELLUMO_PACKAGING}/archive/uninstall
+        DESTINATION ${root}
+        FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+            WORLD_READ WORLD_EXECUTE)
 endif()

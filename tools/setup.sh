@@ -59,5 +59,5 @@ quietly() {
 build_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libchm-dev libcsv-dev
     libexpat1-dev libxlsxwriter-dev)
 test_packages=(appstream desktop-file-utils dpkg-dev file groff libgtest-dev
-    libbenchmark-dev libpalm-pdb-perl lintian mandoc openbox 'p7zip-full|7zip' python3-openpyxl
+    libbenchmark-dev libglib2.0-bin libpalm-pdb-perl lintian mandoc openbox 'p7zip-full|7zip' python3-openpyxl
     shared-mime-info time xdotool xvfb)

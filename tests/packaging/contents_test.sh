@@ -28,7 +28,8 @@ as_debian_has_it() {
         s|^$documents/LICENSE$|$documents/copyright|; \$a $documents/changelog.Debian.gz" | LC_ALL=C sort
 }
 diff <(names "$work/installed" | as_debian_has_it) <(names "$work/package/usr")
-diff <(names "$work/installed") <(names "$work/archive")
+diff <({ names "$work/installed"; printf './%s\n' install uninstall; } | LC_ALL=C sort) \
+    <(names "$work/archive")
 
 documents=$work/package/usr/${documents#./}
 diff <(zcat "$documents/changelog.gz") "$source/CHANGELOG.md"

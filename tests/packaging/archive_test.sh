@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# archive_test.sh PACKAGES VELLUMO PROJECT: the archive, installed by one user in a home with blanks, found
+# and started by a desktop, replaced, and taken back.
+. "$(dirname -- "$0")/packages.sh"
+wants gio desktop-file-validate update-mime-database
+programs=$(dirname -- "$2") project=$3
+. "$(dirname -- "$0")/../end_to_end/screen.sh"
+
+export HOME="$work/a home of \"\$mine\""
+unset XDG_CONFIG_HOME XDG_DATA_HOME
+mkdir -p "$HOME/.local/bin" "$HOME/.local/share/applications" "$work/un packed"
+printf '[Desktop Entry]\nType=Application\nName=Other\nExec=true\n' \
+    >"$HOME/.local/share/applications/other.desktop"
+update-desktop-database "$HOME/.local/share/applications"
+cp "$project" "$HOME/one form.vmp"
+tar -xzf "$archive" -C "$work/un packed" --strip-components=1
+# What a program that a desktop starts writes for itself.
+listed() {
+    (cd "$HOME" && find . \( -path ./.config -o -path ./.cache -o -path ./Documents \) -prune -o -print |
+        LC_ALL=C sort)
+}
+listed >"$work/before"
+run() { "$@" >"$work/told" 2>&1 || { cat "$work/told" >&2; fail "$*"; }; }
+
+# In the user's own folders.
+run "$work/un packed/install"
+grep -qF '.local/bin, where vellumo is' "$work/told" || fail 'nothing was said of PATH'
+rm -r "$work/un packed/lib" # what was installed needs it no more
+entry="$HOME/.local/share/applications/vellumo-designer.desktop"
+desktop-file-validate "$entry"
+[[ $(gio info -a standard::content-type "$HOME/one form.vmp") == *application/x-vellumo-project* ]] ||
+    fail 'the media type'
+[[ $(gio mime application/x-vellumo-project) == *vellumo-designer.desktop* ]] || fail 'nothing opens a project'
+(cd "$work" && "$HOME/.local/bin/vellumo" create -o "$work/made.prc" "$HOME/one form.vmp" >/dev/null)
+"$HOME/.local/bin/vellumo" verify "$work/made.prc" "$project"
+gio launch "$entry" "$HOME/one form.vmp" 2>"$work/designer.log"
+await 20 'no main window' is_main
+keys ctrl+q
+await 10 'the designer does not end' counted 0
+
+# A newer version takes its place; settings are the user's own.
+settings="$HOME/.local/lib/vellumo-designer/settings.ini"
+printf '<Vmdesigner><ShowOpenForm>0</ShowOpenForm></Vmdesigner>' >"$settings"
+tar -xzf "$archive" -C "$work/un packed" --strip-components=1
+run "$work/un packed/install"
+[ -s "$settings" ] || fail 'the settings were lost'
+run "$HOME/.local/lib/vellumo-designer/uninstall"
+grep -qF "$settings" "$work/told" || fail 'nothing was said of the settings'
+[ "$(listed | diff "$work/before" - | sed -n 's/^> //p')" = "./.local/lib
+./.local/lib/vellumo-designer
+./.local/lib/vellumo-designer/settings.ini" ] || fail 'more than the settings was left'
+run "$work/un packed/install" # once more, on what was left
+rm "$settings"
+run "$work/un packed/uninstall"
+listed | diff "$work/before" - | grep -vx '> ./.local/lib' | grep '^[<>]' && fail 'something was left'
+rm -rf "$HOME/.local/lib"
+
+# Elsewhere.
+export XDG_DATA_HOME="$HOME/my data"
+run "$work/un packed/install" "$HOME/my programs"
+[ -s "$XDG_DATA_HOME/mime/mime.cache" ] || fail 'the media types elsewhere'
+[ "$("$HOME/my programs/bin/vellumo" --version)" = "$("$2" --version)" ] || fail 'vellumo elsewhere'
+desktop-file-validate "$XDG_DATA_HOME/applications/vellumo-designer.desktop"
+XDG_DATA_HOME=/elsewhere run "$HOME/my programs/lib/vellumo-designer/uninstall"
+listed | diff "$work/before" - || fail 'something was left elsewhere'
+
+# Never over another program of that name.
+mkdir -p "$HOME/my programs/bin"
+printf 'mine\n' >"$HOME/my programs/bin/vellumo"
+listed >"$work/before"
+! "$work/un packed/install" "$HOME/my programs" 2>"$work/told" || fail 'over another program'
+grep -qF 'is another program' "$work/told" || fail 'nothing was said of another program'
+listed | diff "$work/before" - || fail 'something was changed'
+printf 'passed\n'
