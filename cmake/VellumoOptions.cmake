@@ -28,6 +28,12 @@ if(VELLUMO_SANITIZE)
     target_link_options(vellumo_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What tells a debugger where things are tells it without the folder of the build.
+if(CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo" AND NOT MSVC AND NOT VELLUMO_SANITIZE)
+    target_compile_options(vellumo_options INTERFACE
+        -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
+endif()
+
 if(VELLUMO_HARDEN)
     include(Hardening)
 endif()

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # contents_test.sh PACKAGES CMAKE BUILD SOURCE VERSION DATE: the package and the archive hold what is
-# installed, but for what their systems have in another form; unpacked, their programs work, and the package names
-# the libraries that they need.
+# installed, but for what their systems have in another form, open to everybody; unpacked, their
+# programs work, and the package names the libraries that they need.
 . "$(dirname -- "$0")/packages.sh"
 
 cmake=$2 build=$3 source=$4 version=$5 date=$6
@@ -19,6 +19,9 @@ for library in libqt6svg6 libqt6widgets6 libexpat1; do
     [[ $(dpkg-deb -f "$package" Depends) == *"$library"* ]]
 done
 [ "$(ls "$work/package")" = usr ]
+for folder in package archive; do
+    [ -z "$(find "$work/$folder" -mindepth 1 ! -type l ! -perm -a=r -o -type d ! -perm -a=x)" ]
+done
 
 "$cmake" --install "$build" --prefix "$work/installed" >/dev/null
 names() { (cd "$1" && find . ! -type d | LC_ALL=C sort); }
