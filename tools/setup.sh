@@ -26,10 +26,10 @@ first_offered() {
 }
 
 # install_missing PACKAGE[|PACKAGE...]...: installs the Debian packages that are not there yet; the
-# releases have some under different names. On a system without apt-get it does nothing; the
-# configuration then says what is missing.
+# releases have some under different names. On a system without apt-get it tells how the packages to build
+# are installed there; the configuration then says what is missing.
 install_missing() {
-    command -v apt-get >/dev/null 2>&1 || return 0
+    command -v apt-get >/dev/null 2>&1 || { tell_elsewhere; return 0; }
     local names missing=() packages=()
     for names in "$@"; do
         installed ${names//|/ } || missing+=("$names")
@@ -42,6 +42,20 @@ install_missing() {
     done
     as_root env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -q --no-install-recommends "${packages[@]}" >&2
+}
+
+# tell_elsewhere: the command that installs what is to be had, by the first of its programs that is here.
+tell_elsewhere() {
+    local line
+    for line in "${elsewhere[@]}"; do
+        if command -v "${line%% *}" >/dev/null 2>&1; then
+            [ "${line%% *}" = brew ] || line="sudo $line"
+            say "There is no apt-get here. What the build needs comes with (not tried):"
+            say "    $line"
+            return
+        fi
+    done
+    say "There is no apt-get here; README.md says what the build needs."
 }
 
 # quietly COMMAND...: runs a command and shows what it printed only when it failed.
@@ -58,6 +72,13 @@ quietly() {
 
 build_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libchm-dev libcsv-dev
     libexpat1-dev libxlsxwriter-dev)
+# The same on other systems, where nobody has tried it.
+elsewhere=(
+    'dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtsvg-devel chmlib-devel libcsv-devel expat-devel libxlsxwriter-devel'
+    'zypper install gcc-c++ cmake ninja qt6-base-devel qt6-svg-devel chmlib-devel libcsv-devel libexpat-devel libxlsxwriter-devel'
+    'pacman -S --needed gcc cmake ninja qt6-base qt6-svg chmlib libcsv expat libxlsxwriter'
+    'brew install cmake ninja qt chmlib libcsv expat libxlsxwriter'
+)
 test_packages=(appstream desktop-file-utils dpkg-dev file groff libgtest-dev
     libbenchmark-dev libglib2.0-bin libpalm-pdb-perl lintian mandoc openbox 'p7zip-full|7zip' python3-openpyxl
     shared-mime-info time xdotool xvfb)

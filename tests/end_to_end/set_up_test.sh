@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# set_up_test.sh SETUP: which packages tools/setup.sh asks for, on systems that have and offer
-# different ones. Each of the system's own commands is played by one that only tells.
+# set_up_test.sh SETUP README: which packages tools/setup.sh asks for, on systems that have and offer
+# different ones, and what it tells where there is no apt-get. Each of the system's own commands is
+# played by one that only tells.
 set -euo pipefail
 
 work=$(mktemp -d)
@@ -41,3 +42,27 @@ expect new '' 'old new'
 expect '' 'old' 'new'
 expect '' 'new' ''
 expect new '' '' # and apt-get says that there is none
+
+# told PROGRAM: what is said on a system that has just this one.
+told() {
+    mkdir "$work/$1"
+    ln -s /bin/true "$work/$1/$1"
+    (PATH=$work/$1 && install_missing g++ 2>&1)
+}
+[[ $(told dnf) == *'sudo dnf install gcc-c++ cmake'* ]]
+[[ $(told zypper) == *'sudo zypper install '*qt6-svg-devel* ]]
+[[ $(told pacman) == *'sudo pacman -S '*qt6-svg* ]]
+[[ $(told brew) == *'    brew install cmake'* ]]
+[[ $(told none) == *'README.md says what'* ]]
+
+# The README's table has the same names.
+table=" $(grep '^|' "$2" | tr '`;\n' '   ') "
+in_table() { [[ $table == *" $1 "* ]] || { echo "the README's table lacks $1"; exit 1; }; }
+for line in "${elsewhere[@]}"; do
+    for name in $line; do
+        case $name in -*) ;; *) in_table "$name" ;; esac
+    done
+done
+for name in "${build_packages[@]}"; do
+    in_table "${name%%|*}"
+done
