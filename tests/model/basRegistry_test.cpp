@@ -134,3 +134,16 @@ TEST_F(BasRegistry, SetsAnyValueToZero)
         EXPECT_EQ(BytesOf(File()), "<Vmdesigner><ShowOpenForm>0</ShowOpenForm></Vmdesigner>\r\n");
     }
 }
+
+TEST_F(BasRegistry, ReadsAndWritesTheExamplesOfItsPage)
+{
+    const QByteArray page = BytesOf(DataFile(u"../../docs/settings-file.md"_s));
+    const auto asOnThePage = [](const QByteArray &bytes) {
+        return "\n    " + bytes.trimmed().replace("\r\n", "\n    ") + '\n';
+    };
+    EXPECT_EQ(ReadShowOpenForm(Folder()).value, 1);
+    EXPECT_TRUE(page.contains(asOnThePage(BytesOf(File()))));
+    HideOpenFormNextTime(Folder());
+    EXPECT_EQ(ReadShowOpenForm(Folder()).value, 0);
+    EXPECT_TRUE(page.contains(asOnThePage(BytesOf(File()))));
+}
