@@ -42,19 +42,24 @@ void Place(QWidget &window, const QMargins &frame)
     window.setGeometry(place.marginsRemoved(frame));
 }
 
-/// Waits for a window's frame, for once: where the user moves it later is the user's choice.
+/// Waits for a window's frame, for once: where the user moves it later is the user's choice. Not
+/// every window manager makes an event of having told, so the frame is asked for again and again.
 class FrameWatch : public QObject
 {
 public:
     explicit FrameWatch(QWidget &window) : QObject(&window), m_window(window)
     {
         window.installEventFilter(this);
+        connect(&m_again, &QTimer::timeout, this, &FrameWatch::Look);
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const QEvent::Type type = event->type();
-        if (type == QEvent::Show || type == QEvent::Move || type == QEvent::Resize)
+        constexpr std::chrono::milliseconds pause(50);
+        if (event->type() == QEvent::Show)
+            m_again.start(pause);
+        if (event->type() == QEvent::Show || event->type() == QEvent::Move ||
+            event->type() == QEvent::Resize)
             QTimer::singleShot(0, this, &FrameWatch::Look); // when the event has been handled
         return QObject::eventFilter(watched, event);
     }
@@ -62,9 +67,10 @@ public:
 private:
     void Look()
     {
+        constexpr int mostLooks = 100; // where windows have no frames
         const QMargins frame = KnownFrame(m_window);
         if (frame.isNull() || !m_window.isVisible())
-            return;
+            return ++m_looks < mostLooks ? void() : m_again.stop();
         m_window.removeEventFilter(this);
         deleteLater();
         if (!m_window.screen()->availableGeometry().contains(m_window.frameGeometry()))
@@ -72,6 +78,8 @@ private:
     }
 
     QWidget &m_window;
+    QTimer m_again;
+    int m_looks = 0;
 };
 
 } // namespace

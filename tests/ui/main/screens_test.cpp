@@ -16,6 +16,7 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTreeView>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
@@ -81,8 +82,8 @@ void ExpectOnScreen(const QWidget &window)
     const QRect screen = window.screen()->availableGeometry(), frame = window.frameGeometry();
     EXPECT_GE(frame.top(), screen.top());
     EXPECT_GE(frame.left(), screen.left());
-    EXPECT_LE(frame.width(), screen.width());
-    EXPECT_LE(frame.height(), screen.height());
+    EXPECT_LE(frame.bottom(), screen.bottom());
+    EXPECT_LE(frame.right(), screen.right());
 }
 
 /// Within what it lies in; what scrolls has the bars for it.
@@ -219,6 +220,20 @@ TEST(Screens, HoldTheWizardWhole)
             wizard.findChild<QAbstractButton *>(u"cmdNav_3"_s)->click();
         }
     }
+}
+
+/// A window manager tells late how wide its frames are.
+TEST(Screens, HoldTheFrames)
+{
+    ShowEveryWindow([](const QWidget &window) {
+        const bool isFramed = QGuiApplication::platformName() == u"xcb"_s &&
+                              !(window.windowFlags() & Qt::FramelessWindowHint);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return (!isFramed || !window.windowHandle()->frameMargins().isNull()) &&
+                   window.screen()->availableGeometry().contains(window.frameGeometry());
+        })) << Name(window);
+        ExpectOnScreen(window);
+    });
 }
 
 TEST(Screens, ShowTheFocus)
