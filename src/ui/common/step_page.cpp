@@ -1,6 +1,10 @@
 #include "ui/common/step_page.h"
 
+#include "ui/common/button_line.h"
+#include "ui/common/scroll_page.h"
+
 #include <QBoxLayout>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -32,22 +36,65 @@ void StepPage::Focus(FormField field)
             box->Focus();
 }
 
-void StepPage::PlaceHeading(Heading *heading, QWidget *scrolled)
+void StepPage::PlaceParts(Heading *heading, ScrollPage *page, ButtonLine *buttons)
 {
     m_heading = heading;
-    m_scrolled = scrolled;
+    m_page = page;
+    m_buttons = buttons;
+}
+
+void StepPage::SetLow(bool low, QBoxLayout &foot)
+{
+    if (low == m_isLow)
+        return;
+    m_isLow = low;
+    QWidget *focus = window()->focusWidget(); // which a button loses on its way
+    low ? foot.addWidget(m_buttons) : layout()->addWidget(m_buttons);
+    m_buttons->show();
+    if (focus && m_buttons->isAncestorOf(focus))
+        focus->setFocus();
+    PlaceContent();
 }
 
 void StepPage::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    PlaceContent();
+}
+
+void StepPage::PlaceContent()
+{
+    PlaceHeading();
+    FitContent();
+    GiveHeight();
+}
+
+void StepPage::PlaceHeading()
+{
     constexpr int linesBelow = 5; // the buttons' line among them
     const QMargins margins = layout()->contentsMargins();
     const int width = contentsRect().width() - margins.left() - margins.right();
     const int needed = m_heading->heightForWidth(width) + linesBelow * fontMetrics().lineSpacing();
-    QWidget *home = height() < needed ? m_scrolled : this;
-    if (m_heading->parentWidget() != home)
-        qobject_cast<QBoxLayout *>(home->layout())->insertWidget(0, m_heading);
+    QWidget *home = m_isLow || height() < needed ? m_page->widget() : this;
+    if (m_heading->parentWidget() == home)
+        return;
+    qobject_cast<QBoxLayout *>(home->layout())->insertWidget(0, m_heading);
+    m_heading->show(); // at once, as what is hidden is given no room
+}
+
+/// By what does not depend on the bars, which depend on the height. What scrolls sideways by itself
+/// keeps its bar in view.
+void StepPage::GiveHeight()
+{
+    if (!m_isLow)
+        return m_page->setMinimumHeight(0);
+    const QWidget &content = *m_page->widget();
+    const int least = content.minimumSizeHint().width();
+    const int bar =
+        m_page->width() < least ? m_page->horizontalScrollBar()->sizeHint().height() : 0;
+    const int all = content.heightForWidth(std::max(m_page->width(), least)) + bar;
+    m_page->setMinimumHeight(m_page->widgetResizable() ? all
+                                                       : std::min(all, window()->height() / 2));
 }
 
 QSize StepPage::minimumSizeHint() const

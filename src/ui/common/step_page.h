@@ -11,7 +11,12 @@
 #include <memory>
 #include <vector>
 
+class QBoxLayout;
+
 namespace vellumo {
+
+class ButtonLine;
+class ScrollPage;
 
 /// One of the four steps of the main window: what the window asks of it, and what it asks of the
 /// window.
@@ -39,6 +44,11 @@ public:
 
     QSize minimumSizeHint() const override;
 
+    /// In a low window the buttons stand at its foot, which is handed in, and the step is as high
+    /// as what it has to say: the window scrolls. Else they stand below what scrolls within the
+    /// step.
+    void SetLow(bool low, QBoxLayout &foot);
+
     /// Puts the focus into the box of a field; a step that does not have it does nothing.
     void Focus(FormField field);
 
@@ -51,8 +61,13 @@ signals:
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
-    /// The heading stands above what scrolls, and scrolls along where there is little room.
-    void PlaceHeading(Heading *heading, QWidget *scrolled);
+    /// The step has another size, or its heading another place; for a step that sets the size of
+    /// what scrolls in it.
+    virtual void FitContent() {}
+
+    /// The heading stands above what scrolls, and scrolls along where there is little room; the
+    /// buttons stand below.
+    void PlaceParts(Heading *heading, ScrollPage *page, ButtonLine *buttons);
 
     struct HelpLink {
         LinkLabel *label;
@@ -69,10 +84,16 @@ protected:
     ProjectDocument &document() const { return m_document; }
 
 private:
+    void PlaceContent();
+    void PlaceHeading();
+    void GiveHeight();
+
     ProjectDocument &m_document;
     std::vector<std::unique_ptr<FieldBox>> m_boxes;
     Heading *m_heading = nullptr;
-    QWidget *m_scrolled = nullptr;
+    ScrollPage *m_page = nullptr;
+    ButtonLine *m_buttons = nullptr;
+    bool m_isLow = false;
 };
 
 } // namespace vellumo

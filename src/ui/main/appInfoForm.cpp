@@ -20,6 +20,7 @@
 
 #include <QCloseEvent>
 #include <QShortcut>
+#include <QTabBar>
 
 #include <utility>
 
@@ -228,6 +229,7 @@ void appInfoForm::closeEvent(QCloseEvent *event)
 void appInfoForm::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
+    KeepButtonsInView();
     if (m_formReady)
         LayOutIfLargeEnough();
 }
@@ -238,6 +240,18 @@ void appInfoForm::LayOutIfLargeEnough()
     constexpr int twipsPerPixel = 15;
     if (width() * twipsPerPixel >= 11850 && height() * twipsPerPixel >= 8640)
         m_questions->LayOut();
+}
+
+/// Where toolbar, tabs, buttons and a few lines are more than fits, all but the buttons scrolls.
+void appInfoForm::KeepButtonsInView()
+{
+    constexpr int fewestLines = 8;
+    const int needed = ui->cmdToolbar_0->sizeHint().height() +
+                       ui->SSTab1->tabBar()->sizeHint().height() +
+                       fewestLines * fontMetrics().lineSpacing();
+    const StepPage *shown = m_steps[static_cast<size_t>(m_step - 1)];
+    for (StepPage *page : m_steps)
+        page->SetLow(page == shown && ui->outer->height() < needed, *ui->foot);
 }
 
 void appInfoForm::LeaveForward(int step)
@@ -260,6 +274,7 @@ void appInfoForm::ChangeStep(int tabIndex)
 {
     MarkLeftStep();
     m_step = tabIndex + 1;
+    KeepButtonsInView();
     m_steps[static_cast<size_t>(tabIndex)]->Enter();
     if (m_step == 4) // each visit needs a review of its own
         MarkTab(*ui->SSTab1, 4, false);

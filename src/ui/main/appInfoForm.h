@@ -77,6 +77,7 @@ private:
     void ChangeStep(int tabIndex);
     void MarkLeftStep();
     void LayOutIfLargeEnough();
+    void KeepButtonsInView();
 
     void Review(bool showResults);
     void GoToChange(std::optional<FormField> field);

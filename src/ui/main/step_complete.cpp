@@ -13,7 +13,7 @@ StepComplete::StepComplete(ProjectDocument &document, QWidget *parent)
 {
     ui->setupUi(this);
     RingWhenFocused(ui->lstError);
-    PlaceHeading(ui->lblHeading, ui->contentComplete);
+    PlaceParts(ui->lblHeading, ui->scrollAreaComplete, ui->navigationLine);
     ConnectHelp(
         {{ui->Label17, HelpContext::finalReview}, {ui->lblErrorList, HelpContext::errorList}});
     connect(ui->cmdReviewForm, &QPushButton::clicked, this, &StepComplete::ReviewAsked);

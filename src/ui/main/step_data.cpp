@@ -14,7 +14,7 @@ StepData::StepData(ProjectDocument &document, QWidget *parent)
     : StepPage(document, parent), ui(std::make_unique<Ui::StepData>())
 {
     ui->setupUi(this);
-    PlaceHeading(ui->lblHeading, ui->contentData);
+    PlaceParts(ui->lblHeading, ui->scrollAreaData, ui->navigationLine);
     Bind(FormField::DataFolder, ui->txt3_appDir);
     ConnectHelp({{ui->Label15, HelpContext::uploadingData}, {ui->Label16, HelpContext::csvFile}});
     connect(ui->cmdBrowse, &QPushButton::clicked, this, &StepData::Browse);

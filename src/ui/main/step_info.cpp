@@ -9,7 +9,7 @@ StepInfo::StepInfo(ProjectDocument &document, QWidget *parent)
     : StepPage(document, parent), ui(std::make_unique<Ui::StepInfo>())
 {
     ui->setupUi(this);
-    PlaceHeading(ui->lblHeading, ui->contentInfo);
+    PlaceParts(ui->lblHeading, ui->scrollAreaInfo, ui->navigationLine);
     Bind(FormField::Name, ui->txtAppName);
     Bind(FormField::Version, ui->txtAppVersion);
     Bind(FormField::Description, ui->txtAppDesc);

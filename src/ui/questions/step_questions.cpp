@@ -33,7 +33,7 @@ StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
 {
     ui->setupUi(this);
     RingWhenFocused(ui->DataGrid1);
-    PlaceHeading(ui->lblHeading, ui->content);
+    PlaceParts(ui->lblHeading, ui->scrollArea, ui->navigationLine);
     ui->deliveryArea->viewport()->setAutoFillBackground(false);
     ui->lblDelivery->setAutoFillBackground(false);
     ConnectHelp({{ui->lblAdd, HelpContext::questions},
@@ -281,9 +281,8 @@ void StepQuestions::showEvent(QShowEvent *event)
         LayOut();
 }
 
-void StepQuestions::resizeEvent(QResizeEvent *event)
+void StepQuestions::FitContent()
 {
-    StepPage::resizeEvent(event);
     Fit(ui->content->size()); // the heading may have come to scroll along
 }
 

@@ -32,7 +32,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    void FitContent() override;
 
 private:
     void ConnectButtons();

@@ -11,6 +11,7 @@
 #include "ui/questions/item_list_editor.h"
 #include "ui/questions/propertyForm.h"
 #include "ui/support/designer.h"
+#include "ui/support/every_window.h"
 #include "ui/support/prompt_script.h"
 
 #include <QPalette>
@@ -39,7 +40,7 @@ QPalette DarkPalette()
 
 void Keep(const QWidget &window, const QString &path)
 {
-    QApplication::processEvents();
+    SettleWindows();
     const bool saved = const_cast<QWidget &>(window).grab().save(path);
     std::cout << (saved ? "" : "not saved: ") << path.toStdString() << '\n';
 }

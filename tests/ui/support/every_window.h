@@ -10,6 +10,14 @@
 
 namespace vellumo {
 
+/// Lays everything out: layouts within layouts ask for one another's sizes turn by turn.
+inline void SettleWindows()
+{
+    constexpr int turns = 8;
+    for (int turn = 0; turn < turns; ++turn)
+        QApplication::processEvents();
+}
+
 template <typename Show> void ShowProperties(ProjectDocument &document, const Show &show)
 {
     for (const int row : {0, 2}) {
@@ -71,7 +79,7 @@ template <typename Look> void ShowEveryWindow(const Look &look)
         SCOPED_TRACE(what);
         window.show();
         QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
+        SettleWindows();
         look(window);
     };
     for (int step = 1; step <= 4; ++step) {
