@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QLayout>
 #include <QScrollBar>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -79,10 +80,28 @@ void ScrollPage::showEvent(QShowEvent *event)
     QCoreApplication::sendEvent(this, &bars);
 }
 
-void ScrollPage::BringIntoView(QWidget *focus)
+/// The area's own way ends with another look at the focus, which shows the middle of what is wide.
+bool ScrollPage::focusNextPrevChild(bool next)
 {
-    if (focus && widget() && widget()->isAncestorOf(focus))
-        ensureWidgetVisible(focus);
+    return QWidget::focusNextPrevChild(next);
+}
+
+void ScrollPage::BringIntoView(const QWidget *focus)
+{
+    if (!focus || !widget() || !widget()->isAncestorOf(focus))
+        return;
+    QScrollBar *bar = horizontalScrollBar();
+    const int before = bar->value(), room = viewport()->width();
+    ensureWidgetVisible(const_cast<QWidget *>(focus)); // the height will do
+
+    QRect place = focus->rect();
+    if (place.width() > room && focus->testAttribute(Qt::WA_InputMethodEnabled)) // typed into
+        place = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    place.translate(focus->mapTo(widget(), QPoint()));
+    place = QStyle::visualRect(widget()->layoutDirection(), widget()->rect(), place);
+    const bool isAhead = place.left() < before || place.width() > room;
+    const int ending = place.left() + place.width() - room;
+    bar->setValue(isAhead ? place.left() : std::max(before, ending));
 }
 
 } // namespace vellumo

@@ -18,7 +18,7 @@ public:
 
 /// A part of a window that scrolls where there is no room for it: on the ground of what it lies on,
 /// without a frame, and as large as its content where there is room. What gets the focus in it is
-/// brought into view.
+/// brought into view, from its beginning where it is wider.
 class ScrollPage : public QScrollArea
 {
     Q_OBJECT
@@ -32,10 +32,11 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void showEvent(QShowEvent *event) override;
 
 private:
-    void BringIntoView(QWidget *focus);
+    void BringIntoView(const QWidget *focus);
 };
 
 /// Lets the layouts within a widget that is not shown yet find their sizes anew. A ScrollPage asks

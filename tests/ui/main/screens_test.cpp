@@ -169,6 +169,18 @@ void ExpectMirrored(const QWidget &window)
     EXPECT_EQ(back->x() > next->x(), QApplication::isRightToLeft());
 }
 
+/// A step of the wizard arrives at the beginning of its lines, unless its cursor is elsewhere.
+void ExpectBeginning(const QWidget &window)
+{
+    const auto *wizard = qobject_cast<const frmWizard *>(&window);
+    const QWidget *focus = window.focusWidget();
+    const bool isTyped = focus && focus->testAttribute(Qt::WA_InputMethodEnabled);
+    if (!wizard || (isTyped && window.isRightToLeft()))
+        return;
+    const auto *page = wizard->findChild<ScrollPage *>();
+    EXPECT_LT(page->horizontalScrollBar()->value(), window.fontMetrics().averageCharWidth());
+}
+
 /// The link over a sentence covers the very words.
 void ExpectLinkOverWords(const QWidget &window)
 {
@@ -254,6 +266,7 @@ TEST(Screens, HoldEveryWindow)
                 ExpectWholeTexts(window);
                 ExpectWayOn(window);
                 ExpectMirrored(window);
+                ExpectBeginning(window);
                 ExpectLinkOverWords(window);
             });
         }
