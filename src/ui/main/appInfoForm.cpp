@@ -138,7 +138,7 @@ void appInfoForm::FinishSetUp()
     m_info->Enter(); // also where step 1 was the selected one already
     m_document.SetProjectChanged(false);
     m_formReady = true;
-    LayOutIfLargeEnough();
+    m_questions->LayOutIfLargeEnough();
 }
 
 void appInfoForm::New()
@@ -231,15 +231,7 @@ void appInfoForm::resizeEvent(QResizeEvent *event)
     QMainWindow::resizeEvent(event);
     KeepButtonsInView();
     if (m_formReady)
-        LayOutIfLargeEnough();
-}
-
-void appInfoForm::LayOutIfLargeEnough()
-{
-    // 790 by 576 pixels, in the unit in which the limit was set.
-    constexpr int twipsPerPixel = 15;
-    if (width() * twipsPerPixel >= 11850 && height() * twipsPerPixel >= 8640)
-        m_questions->LayOut();
+        m_questions->LayOutIfLargeEnough();
 }
 
 /// Where toolbar, tabs, buttons and a few lines are more than fits, all but the buttons scrolls.
@@ -278,7 +270,7 @@ void appInfoForm::ChangeStep(int tabIndex)
     m_steps[static_cast<size_t>(tabIndex)]->Enter();
     if (m_step == 4) // each visit needs a review of its own
         MarkTab(*ui->SSTab1, 4, false);
-    LayOutIfLargeEnough();
+    m_questions->LayOutIfLargeEnough();
 }
 
 void appInfoForm::MarkLeftStep()

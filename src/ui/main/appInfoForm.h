@@ -76,7 +76,6 @@ private:
     void SelectStep(int step);
     void ChangeStep(int tabIndex);
     void MarkLeftStep();
-    void LayOutIfLargeEnough();
     void KeepButtonsInView();
 
     void Review(bool showResults);

@@ -5,10 +5,13 @@
 #include <QScrollBar>
 #include <QTableView>
 
+using namespace Qt::StringLiterals;
+
 namespace vellumo {
 namespace {
 
 constexpr int questionColumn = 2;
+const QString questionWidth = u"questionWidth"_s;
 
 /// The text of a question has what the other columns leave, and is never too narrow to be read:
 /// then the grid scrolls.
@@ -17,6 +20,7 @@ class QuestionWidth : public QObject
 public:
     explicit QuestionWidth(QTableView &grid) : QObject(&grid), m_grid(grid)
     {
+        setObjectName(questionWidth);
         grid.viewport()->installEventFilter(this);
         Fit();
     }
@@ -57,6 +61,7 @@ void LayOutColumns(QTableView &grid)
         if (widths[column] > 0)
             header->resizeSection(column, widths[column] * digits);
     grid.verticalHeader()->hide();
+    delete grid.findChild<QObject *>(questionWidth, Qt::FindDirectChildrenOnly); // of last time
     new QuestionWidth(grid);
 }
 

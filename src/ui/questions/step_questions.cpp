@@ -17,6 +17,7 @@
 #include "ui_step_questions.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -255,6 +256,23 @@ void StepQuestions::FollowGrid(const QModelIndex &current)
         RefreshPreview();
 }
 
+bool StepQuestions::IsLargeEnough() const
+{
+    // 790 by 576 pixels, in the unit in which the limit was set.
+    constexpr int twipsPerPixel = 15, leastWidth = 11850, leastHeight = 8640;
+    const auto reaches = [](QSize size) {
+        return size.width() * twipsPerPixel >= leastWidth &&
+               size.height() * twipsPerPixel >= leastHeight;
+    };
+    return reaches(window()->size()) || !reaches(screen()->availableSize());
+}
+
+void StepQuestions::LayOutIfLargeEnough()
+{
+    if (IsLargeEnough())
+        LayOut();
+}
+
 void StepQuestions::LayOut()
 {
     // Of a window that is larger than at the start, the preview takes its share.
@@ -283,7 +301,7 @@ void StepQuestions::showEvent(QShowEvent *event)
 
 void StepQuestions::FitContent()
 {
-    Fit(ui->content->size()); // the heading may have come to scroll along
+    IsLargeEnough() ? LayOut() : Fit(ui->content->size()); // as the heading may scroll along
 }
 
 } // namespace vellumo

@@ -25,8 +25,9 @@ public:
     /// Shows the current question in grid and preview, and puts the focus into the grid.
     void Enter() override;
 
-    /// Fits the controls to the step's size; without it they keep their places.
-    void LayOut();
+    /// Fits the controls to the step's size where the window has 790 by 576 pixels, or the screen
+    /// not as many; in other windows they keep their places.
+    void LayOutIfLargeEnough();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -49,6 +50,8 @@ private:
 
     bool RefusesWithoutSelection();
     void SelectCurrentRow();
+    bool IsLargeEnough() const;
+    void LayOut();
     void Fit(QSize size);
     void RefreshPreview();
     void ShowNotice(const DeliveryNotice &notice);

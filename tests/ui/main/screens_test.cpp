@@ -234,6 +234,26 @@ TEST(Screens, HoldTheWizardWhole)
     }
 }
 
+/// On a screen of any size, step 2 has the window that it is in.
+TEST(Screens, FillStepTwo)
+{
+    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    const QSize size = designer.window.size();
+    designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
+    SettleWindows();
+    designer.window.resize(size * 2 / 3);
+    SettleWindows();
+    designer.window.resize(size);
+    SettleWindows();
+    const auto *content = designer.Find<QWidget>("content");
+    EXPECT_EQ(content->width(),
+              std::max(content->minimumSizeHint().width(),
+                       designer.Find<QScrollArea>("scrollArea")->maximumViewportSize().width()));
+    EXPECT_EQ(
+        designer.Find<QTableView>("DataGrid1")->findChildren<QObject *>(u"questionWidth"_s).size(),
+        1);
+}
+
 /// A window manager tells late how wide its frames are.
 TEST(Screens, HoldTheFrames)
 {

@@ -2,8 +2,11 @@
 #include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QScrollArea>
+#include <QTableView>
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
@@ -192,6 +195,33 @@ TEST(StepFlow, KeepsThePlacesOfStepTwoInASmallWindow)
     EXPECT_EQ(content->size(), atTheLimit) << "a change of steps lays out a large window alone";
     window.resize(1000, 700);
     EXPECT_EQ(content->size(), large);
+}
+
+/// Shows a step while the window is small, and step 2 when it has grown.
+void ExpectFilled(QSize small, int smallStep)
+{
+    Designer designer(sample);
+    designer.window.resize(small);
+    QTest::qWait(0);
+    designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(smallStep - 1);
+    QTest::qWait(0);
+    designer.window.resize(1000, 700);
+    QTest::qWait(0);
+    designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
+    QTest::qWait(0);
+    const auto *area = designer.Find<QScrollArea>("scrollArea");
+    EXPECT_EQ(designer.Find<QWidget>("content")->size(), area->maximumViewportSize());
+    const auto *grid = designer.Find<QTableView>("DataGrid1");
+    EXPECT_EQ(grid->horizontalHeader()->length(), grid->viewport()->width());
+}
+
+TEST(StepFlow, FillsAWindowThatGrew)
+{
+    for (const QSize small : {QSize(300, 170), QSize(500, 400), QSize(789, 575)})
+        for (const int step : {1, 2}) {
+            SCOPED_TRACE(std::to_string(small.width()) + " wide, on step " + std::to_string(step));
+            ExpectFilled(small, step);
+        }
 }
 
 TEST(StepFlow, LeadsToTheHelpOfTheWords)
