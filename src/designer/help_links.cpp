@@ -5,6 +5,17 @@
 #include "ui/main/appInfoForm.h"
 
 namespace vellumo {
+namespace {
+
+void ShowAbout(appInfoForm &window, myHelp &help, const Environment &environment)
+{
+    frmAbout about(environment, &window);
+    QObject::connect(&about, &frmAbout::HelpAsked, &about,
+                     [&] { help.ShowHelp(HH_DISPLAY_TOPIC, 0, &about); });
+    about.exec();
+}
+
+} // namespace
 
 void ConnectHelp(appInfoForm &window, myHelp &help, const Environment &environment)
 {
@@ -16,7 +27,7 @@ void ConnectHelp(appInfoForm &window, myHelp &help, const Environment &environme
     QObject::connect(&window, &appInfoForm::HelpCloseAsked, &window,
                      [&] { help.ShowHelp(HH_CLOSE_ALL, 0, &window); });
     QObject::connect(&window, &appInfoForm::AboutAsked, &window,
-                     [&] { frmAbout(environment, &window).exec(); });
+                     [&] { ShowAbout(window, help, environment); });
 }
 
 } // namespace vellumo

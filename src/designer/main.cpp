@@ -32,10 +32,11 @@ int main(int argc, char *argv[])
                             }));
 
     const Environment environment = RealEnvironment();
-    const Start start =
-        StartUp(environment, QApplication::arguments().mid(1), CheckArguments(argc, argv));
-
     myHelp help(environment);
+    const Start start =
+        StartUp(environment, QApplication::arguments().mid(1), CheckArguments(argc, argv),
+                [&help] { help.ShowHelp(HH_DISPLAY_TOPIC, 0, nullptr); });
+
     appInfoForm window(environment);
     ConnectHelp(window, help, environment);
     if (start.choice == existingProject)

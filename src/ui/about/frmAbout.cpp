@@ -5,6 +5,8 @@
 #include "ui/common/screen_centre.h"
 #include "ui_frmAbout.h"
 
+#include <QShortcut>
+
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
@@ -43,6 +45,7 @@ frmAbout::frmAbout(const Environment &environment, QWidget *parent)
     CentreOnScreen(*this);
     ui->cmdOK->setFocus(); // not on the link, which Enter would follow
 
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmAbout::HelpAsked);
     connect(ui->lblurl, &LinkLabel::Followed, this,
             [open = environment.open, address = environment.siteAddress] { open(address); });
     connect(ui->cmdOK, &QPushButton::clicked, this, &frmAbout::accept);

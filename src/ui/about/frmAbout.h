@@ -20,6 +20,10 @@ public:
     explicit frmAbout(const Environment &environment, QWidget *parent = nullptr);
     ~frmAbout() override;
 
+signals:
+    /// F1 asked for help.
+    void HelpAsked();
+
 private:
     std::unique_ptr<Ui::frmAbout> ui;
 };

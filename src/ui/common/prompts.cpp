@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -90,13 +91,17 @@ QString AskYesNoCancel(QWidget *parent, const QString &message)
     return answer == QMessageBox::Yes ? QStringLiteral("Yes") : QStringLiteral("No");
 }
 
-QString AskText(QWidget *parent, const QString &title, const QString &prompt)
+QString AskText(QWidget *parent, const QString &title, const QString &prompt,
+                const std::function<void()> &showHelp)
 {
     QInputDialog input(parent);
     input.setWindowTitle(title);
     input.setLabelText(prompt);
     input.setTextEchoMode(QLineEdit::Normal); // makes the box
     KeepToOneLine(input.findChild<QLineEdit *>());
+    if (showHelp)
+        QObject::connect(new QShortcut(Qt::Key_F1, &input), &QShortcut::activated, &input,
+                         showHelp);
     if (input.exec() != QDialog::Accepted)
         return {};
     return input.textValue();

@@ -5,6 +5,8 @@
 #include <QMessageBox>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace vellumo {
@@ -44,7 +46,9 @@ QString AskYesNo(QWidget *parent, const QString &message, const QString &informa
 /// "Yes", "No" or "Cancel"; Cancel is the default, and what closing the box means.
 QString AskYesNoCancel(QWidget *parent, const QString &message);
 
-/// A line of text that the user types, as typed; empty when the box was cancelled.
-QString AskText(QWidget *parent, const QString &title, const QString &prompt);
+/// A line of text that the user types, as typed; empty when the box was cancelled. F1 calls the
+/// function, if there is one, while the box is up.
+QString AskText(QWidget *parent, const QString &title, const QString &prompt,
+                const std::function<void()> &showHelp = {});
 
 } // namespace vellumo

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +26,7 @@ fileOpenForm::fileOpenForm(QString projectsFolder, std::function<void()> hideOpe
     ui->Option1_1->installEventFilter(this);
     ShowFocusAlways(*this);
     CentreOnScreen(*this);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &fileOpenForm::HelpAsked);
 
     connect(ui->Option1_1, &QRadioButton::toggled, this, &fileOpenForm::ShowFileName);
     connect(ui->Option1_1, &QRadioButton::clicked, this, &fileOpenForm::ChooseFile);

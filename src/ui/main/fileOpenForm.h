@@ -37,6 +37,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+signals:
+    /// F1 asked for help.
+    void HelpAsked();
+
 private:
     void ChooseFile();
     void ShowFileName();

@@ -20,10 +20,12 @@ void ShowSplash(const Environment &environment)
     logoForm(environment, [&](QWidget *parent) { CheckForUpdate(parent, environment); }).exec();
 }
 
-Start AskForProject(const Environment &environment)
+Start AskForProject(const Environment &environment, const std::function<void()> &showHelp)
 {
     fileOpenForm chooser(environment.projectsFolder,
                          [&] { HideOpenFormNextTime(environment.FolderToWriteIn()); });
+    if (showHelp)
+        QObject::connect(&chooser, &fileOpenForm::HelpAsked, &chooser, showHelp);
     chooser.exec();
     const Start chosen = chooser.Chosen();
     return chosen.choice == newProject || chosen.path.isEmpty() ? Start() : chosen;
@@ -48,7 +50,8 @@ QString ProjectOfCommandLine(const QStringList &arguments, const QString &applic
     return applicationFolder + QDir::separator() + commandLine;
 }
 
-Start StartUp(const Environment &environment, const QStringList &arguments, const Outcome &typed)
+Start StartUp(const Environment &environment, const QStringList &arguments, const Outcome &typed,
+              const std::function<void()> &showHelp)
 {
     QDir().mkpath(environment.projectsFolder);
     if (!typed) {
@@ -63,7 +66,7 @@ Start StartUp(const Environment &environment, const QStringList &arguments, cons
     const ShowOpenForm setting = ReadShowOpenForm(environment.FolderToWriteIn());
     if (!setting.message.isEmpty())
         ShowBox(nullptr, {.text = setting.message, .informative = setting.file});
-    return setting.value == 1 ? AskForProject(environment) : Start();
+    return setting.value == 1 ? AskForProject(environment, showHelp) : Start();
 }
 
 } // namespace vellumo

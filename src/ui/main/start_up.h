@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace vellumo {
 
 /// The path of the project that a command line names, without the program's own name: all of its
@@ -17,10 +19,11 @@ QString ProjectOfCommandLine(const QStringList &arguments, const QString &applic
 /// command line names is the outcome. Without one, shows the splash with its update check and,
 /// where the settings file of the application folder says so, the chooser; an existing project
 /// without a path becomes a new one.
-/// Where the words are not what was typed, nothing is opened, and a box says so.
+/// Where the words are not what was typed, nothing is opened, and a box says so. F1 in the chooser
+/// calls showHelp.
 ///
 /// The caller loads start.path, and reviews it in silence, if start.choice is "Existing".
 Start StartUp(const Environment &environment, const QStringList &arguments,
-              const Outcome &typed = done);
+              const Outcome &typed = done, const std::function<void()> &showHelp = {});
 
 } // namespace vellumo

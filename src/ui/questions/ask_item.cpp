@@ -7,16 +7,16 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 
-QString AskItem(QWidget *parent, const ItemListHost &host)
+QString AskItem(QWidget *parent, const ItemListHost &host, const std::function<void()> &showHelp)
 {
     const QString title = u"New Item"_s;
-    QString text = TrimBlanks(AskText(parent, title, host.firstPrompt)).toString();
+    QString text = TrimBlanks(AskText(parent, title, host.firstPrompt, showHelp)).toString();
     for (;;) {
         const QString objection = ObjectionToItem(text);
         if (objection.isEmpty())
             return text;
         ShowExclamation(parent, objection);
-        text = AskText(parent, title, againPrompt);
+        text = AskText(parent, title, againPrompt, showHelp);
     }
 }
 

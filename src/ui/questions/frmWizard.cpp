@@ -102,6 +102,7 @@ void frmWizard::ConnectControls()
     connect(ui->lstWiz1_1, &QListWidget::itemDoubleClicked, this, &frmWizard::GoNext);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
             [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
+    connect(ui->items, &ItemListEditor::HelpAsked, this, &frmWizard::HelpAsked);
     for (const LinkLabel *link :
          {ui->lblLkWzType, ui->lblLkWzTitle, ui->lblLkWzColumn, ui->lblLkWzText})
         connect(link, &LinkLabel::Followed, this,

@@ -3,6 +3,7 @@
 #include "editing/built_in_names.h"
 #include "editing/clipboard_texts.h"
 #include "editing/pasted_items.h"
+#include "help/help_topics.h"
 #include "model/question_types.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/prompts.h"
@@ -96,7 +97,8 @@ void ItemListEditor::AddItem()
 {
     QString refusal = m_items.RefusalToAdd(*m_host, m_type);
     if (refusal.isEmpty())
-        refusal = m_items.Add(AskItem(this, *m_host));
+        refusal =
+            m_items.Add(AskItem(this, *m_host, [this] { emit HelpAsked(HelpContext::items); }));
     ShowRefusal(refusal);
     ShowAppended();
 }

@@ -41,6 +41,10 @@ public:
 
     QListView *List() const;
 
+signals:
+    /// F1 asked for help where an item is typed; contextId is the number of a help topic.
+    void HelpAsked(quint32 contextId);
+
 private:
     void ConnectKeys();
     void AddItem();

@@ -69,6 +69,8 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
             [this] { emit HelpAsked(HelpContext::questionProperties); });
 
+    connect(ui->items, &ItemListEditor::HelpAsked, this, &propertyForm::HelpAsked);
+
     // Whenever a type is picked, also the same one: that brings back the stored items.
     connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);
     connect(ui->cmdOK, &QPushButton::clicked, this, &propertyForm::SaveUnlessRefused);

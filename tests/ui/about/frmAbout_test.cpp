@@ -32,6 +32,15 @@ struct About {
     std::unique_ptr<frmAbout> box;
 };
 
+TEST(frmAbout, AsksForHelp)
+{
+    const About about;
+    int asked = 0;
+    QObject::connect(about.box.get(), &frmAbout::HelpAsked, [&] { ++asked; });
+    QTest::keyClick(about.box.get(), Qt::Key_F1);
+    EXPECT_EQ(asked, 1);
+}
+
 TEST(frmAbout, SaysWhichProgramItIsAndWhose)
 {
     const About about;

@@ -4,6 +4,7 @@
 #include "ui/questions/propertyForm.h"
 
 #include <QComboBox>
+#include <QInputDialog>
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTabBar>
@@ -139,6 +140,8 @@ TEST(DeskKeys, OpenTheHelpThatFits)
             QTest::mouseClick(wizard.findChild<QWidget *>(u"cmdNav_3"_s), Qt::LeftButton);
             Press(Qt::Key_F1);
         }
+        InDialog<QInputDialog>([](QInputDialog &) { Press(Qt::Key_F1); });
+        Press(Qt::Key_Insert);
     });
     Press(Qt::Key_Insert);
     QList<quint32> pages;
@@ -147,7 +150,7 @@ TEST(DeskKeys, OpenTheHelpThatFits)
     using namespace HelpContext;
     EXPECT_EQ(pages, (QList<quint32>{formInformation, questions, uploadingData, finalReview,
                                      questionProperties, HelpContext::questionTypes, questionWizard,
-                                     questionWizard, questionWizard, items}));
+                                     questionWizard, questionWizard, items, items}));
 }
 
 TEST(DeskKeys, WithAltNeverBecomeText)

@@ -7,6 +7,7 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -72,7 +73,7 @@ protected:
             ++m_choosers;
             use(chooser);
         });
-        return StartUp(m_environment, {});
+        return StartUp(m_environment, {}, done, [this] { ++m_helps; });
     }
 
     /// Chooses the file a.vmp, and then an option.
@@ -88,7 +89,20 @@ protected:
     QTemporaryDir m_folder;
     Environment m_environment;
     int m_choosers = 0;
+    int m_helps = 0;
 };
+
+TEST_F(AStart, ShowsHelpForTheChooser)
+{
+    Settings("1");
+    StartedWithChooser([](QWidget &chooser) {
+        QApplication::setActiveWindow(&chooser);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&chooser));
+        QTest::keyClick(&chooser, Qt::Key_F1);
+        chooser.close();
+    });
+    EXPECT_EQ(m_helps, 1);
+}
 
 TEST_F(AStart, WithAProjectNamedShowsNothing)
 {
