@@ -1,6 +1,6 @@
 #include "ui/about/frmAbout.h"
 
-#include "ui/common/focus_ring.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/pictures.h"
 #include "ui/common/screen_centre.h"
 #include "ui_frmAbout.h"
@@ -41,7 +41,7 @@ frmAbout::frmAbout(const Environment &environment, QWidget *parent)
     ui->lblDescription->setText(TrademarkNotice());
     ui->lblDisclaimer->setText(disclaimer);
     ui->lblurl->setText(environment.siteAddress);
-    ShowFocusAlways(*this);
+    FollowDesktop(*this);
     CentreOnScreen(*this);
     ui->cmdOK->setFocus(); // not on the link, which Enter would follow
 

@@ -1,5 +1,6 @@
 #include "ui/about/help_window.h"
 
+#include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/screen_centre.h"
 #include "ui_help_window.h"
@@ -32,7 +33,7 @@ HelpWindow::HelpWindow(HelpFile file, std::function<void(const QString &)> openL
     ui->txtPage->SetFile(m_file);
     SetActions();
     FillContents();
-    ShowFocusAlways(*this);
+    FollowDesktop(*this);
     CentreOnScreen(*this);
     ShareRoom();
 

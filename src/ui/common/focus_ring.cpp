@@ -1,5 +1,7 @@
 #include "ui/common/focus_ring.h"
 
+#include "ui/common/contrast.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QWidget>
@@ -33,8 +35,12 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        const QColor base = palette().color(QPalette::Base),
+                     page = palette().color(QPalette::Window);
+        const QColor ink =
+            Legible(palette().color(QPalette::Highlight), {base, page}, pictureContrast);
+        painter.setPen(QPen(ink, 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 };
 

@@ -4,8 +4,9 @@ class QWidget;
 
 namespace vellumo {
 
-/// Draws a line around a list or page while it has the focus, which otherwise shows by its current
-/// entry alone: one that is empty would not show it.
+/// Draws a line around a list, page or box of several lines while it has the focus, which otherwise
+/// shows by its current entry or caret alone: one that is empty would not show it. The line is in
+/// the palette's highlight, lighter or darker where that would not be seen.
 void RingWhenFocused(QWidget *widget);
 
 /// Lets every control of a window show the focus from the start. Styles do so of their own accord

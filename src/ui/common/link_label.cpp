@@ -99,9 +99,11 @@ void LinkLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     QPalette inked = palette();
     inked.setColor(QPalette::Link, Ink());
-    style()->drawItemText(&painter, contentsRect(),
-                          static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
-                          inked, isEnabled(), text(), QPalette::Link);
+    style()->drawItemText(
+        &painter, contentsRect(),
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) |
+            (text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight),
+        inked, isEnabled(), text(), QPalette::Link);
     if (!hasFocus())
         return;
     // A label draws no mark of the focus by itself, and some styles draw one after a key alone.

@@ -2,7 +2,7 @@
 
 #include "help/help_topics.h"
 #include "model/project_file.h"
-#include "ui/common/focus_ring.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
 #include "ui/common/stray_input.h"
@@ -47,9 +47,9 @@ appInfoForm::appInfoForm(Environment environment, QWidget *parent)
       m_steps{m_info, m_questions, m_data, m_complete}
 {
     ui->setupUi(this);
-    ShowFocusAlways(*this);
-    CentreOnScreen(*this);
     AddSteps();
+    FollowDesktop(*this);
+    CentreOnScreen(*this);
     ConnectSteps();
     ConnectMenus();
     ConnectToolbar();

@@ -1,6 +1,6 @@
 #include "ui/main/fileOpenForm.h"
 
-#include "ui/common/focus_ring.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/screen_centre.h"
 #include "ui_fileOpenForm.h"
 
@@ -24,7 +24,7 @@ fileOpenForm::fileOpenForm(QString projectsFolder, std::function<void()> hideOpe
     ui->imgWelcome->SetPicture(Drawing::Welcome);
     ui->Option1_0->installEventFilter(this);
     ui->Option1_1->installEventFilter(this);
-    ShowFocusAlways(*this);
+    FollowDesktop(*this);
     CentreOnScreen(*this);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &fileOpenForm::HelpAsked);
 

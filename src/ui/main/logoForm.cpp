@@ -1,7 +1,7 @@
 #include "ui/main/logoForm.h"
 
+#include "ui/common/desktop_manners.h"
 #include "ui/common/environment.h"
-#include "ui/common/focus_ring.h"
 #include "ui/common/screen_centre.h"
 #include "ui_logoForm.h"
 
@@ -23,7 +23,7 @@ logoForm::logoForm(const Environment &environment, Check check, QWidget *parent)
     ui->imgProgram->SetPicture(ProgramPicture);
     ui->lblVersion->setText("Version "_L1 + environment.version);
     ui->lblSite->setText(environment.siteAddress);
-    ShowFocusAlways(*this);
+    FollowDesktop(*this);
     CentreOnScreen(*this);
 
     m_timer->setObjectName(u"Timer1"_s);

@@ -1,6 +1,7 @@
 #include "ui/main/step_info.h"
 
 #include "help/help_topics.h"
+#include "ui/common/focus_ring.h"
 #include "ui_step_info.h"
 
 namespace vellumo {
@@ -10,6 +11,7 @@ StepInfo::StepInfo(ProjectDocument &document, QWidget *parent)
 {
     ui->setupUi(this);
     PlaceParts(ui->lblHeading, ui->scrollAreaInfo, ui->navigationLine);
+    RingWhenFocused(ui->txtAppDesc);
     Bind(FormField::Name, ui->txtAppName);
     Bind(FormField::Version, ui->txtAppVersion);
     Bind(FormField::Description, ui->txtAppDesc);

@@ -6,6 +6,7 @@
 #include "model/question_types.h"
 #include "model/texts.h"
 #include "ui/common/box_names.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
@@ -71,9 +72,10 @@ frmWizard::frmWizard(ProjectDocument &document, QWidget *parent)
     KeepWheelForFocus(ui->cboWiz2_1);
 
     ConnectControls();
+    RingWhenFocused(ui->txtWiz3_1);
     PlaceTypeLink();
     ui->lblWiz4_1->setText(LongestIntroduction());
-    ShowFocusAlways(*this);
+    FollowDesktop(*this);
     CentreOnScreen(*this); // first: it is as large as its largest step
     ShowStep();
 }
@@ -118,7 +120,8 @@ void frmWizard::PlaceTypeLink()
     ui->overQuestion->setContentsMargins(left, 0, 0, 0);
     // The words run from left to right in a mirrored window, too; it has the label at its right.
     ui->lblWiz1_2->setLayoutDirection(Qt::LeftToRight);
-    ui->layoutPictWizard1->setAlignment(ui->lblWiz1_2, Qt::AlignLeading);
+    ui->layoutPictWizard1->setAlignment(ui->lblWiz1_2,
+                                        isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 void frmWizard::changeEvent(QEvent *event)

@@ -4,6 +4,7 @@
 #include "help/help_topics.h"
 #include "model/question_types.h"
 #include "ui/common/box_names.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
@@ -49,8 +50,9 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
 {
     NameComboBoxes(); // first: what a box is to others is settled when it is set up
     ui->setupUi(this);
-    ShowFocusAlways(*this);
+    FollowDesktop(*this);
     ui->lblSelections->setBuddy(ui->items->List());
+    RingWhenFocused(ui->txtQuestion);
     ui->txtQuestion->setFixedHeight(HeightOf(3, *ui->txtQuestion));
     ui->items->Configure(propertyItemList, {.list = u"lstSelection"_s,
                                             .add = u"cmdNew"_s,

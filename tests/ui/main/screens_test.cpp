@@ -9,6 +9,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -160,6 +161,35 @@ void ExpectWayOn(const QWidget &window)
             << Name(*button);
 }
 
+/// Where its words are seen: in the middle of a picture of the label alone.
+int MiddleOfWords(QLabel &label)
+{
+    const QImage picture = label.grab().toImage();
+    const QRgb ground = picture.pixel(0, 0);
+    int first = picture.width(), last = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixel(x, y) != ground) {
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+    return qRound((first + last) / 2 / picture.devicePixelRatio());
+}
+
+/// Labels that have more room than they need are written where lines begin.
+void ExpectLabelsAtBeginning(const QWidget &window)
+{
+    for (auto *label : Shown<QLabel>(window)) {
+        const bool isCentred = label->alignment() & Qt::AlignHCenter;
+        const int spare = label->width() - label->sizeHint().width();
+        if (isCentred || label->text().isEmpty() || label->wordWrap() || spare < 4 ||
+            label->layoutDirection() != window.layoutDirection())
+            continue;
+        EXPECT_EQ(MiddleOfWords(*label) > label->width() / 2, window.isRightToLeft())
+            << Name(*label);
+    }
+}
+
 void ExpectMirrored(const QWidget &window)
 {
     const auto *back = window.findChild<QAbstractButton *>(u"cmdNav_2"_s);
@@ -181,6 +211,15 @@ void ExpectBeginning(const QWidget &window)
     EXPECT_LT(page->horizontalScrollBar()->value(), window.fontMetrics().averageCharWidth());
 }
 
+/// Icons are as high as the text beside them, at least.
+void ExpectIconsAsLargeAsText(const QWidget &window)
+{
+    for (const auto *button : Shown<QAbstractButton>(window)) {
+        const int least = button->icon().isNull() ? 0 : QFontInfo(button->font()).pixelSize();
+        EXPECT_GE(button->iconSize().height(), least) << Name(*button);
+    }
+}
+
 /// The link over a sentence covers the very words.
 void ExpectLinkOverWords(const QWidget &window)
 {
@@ -191,6 +230,8 @@ void ExpectLinkOverWords(const QWidget &window)
     const QString before = label->text().first(label->text().indexOf(link->text()));
     EXPECT_NEAR(link->x(), label->fontMetrics().horizontalAdvance(before), 1);
     EXPECT_LE(label->width(), label->sizeHint().width() + 1);
+    const int behind = label->parentWidget()->width() - label->geometry().right() - 1;
+    EXPECT_EQ(window.isRightToLeft() ? behind : label->x(), 0);
 }
 
 void ExpectFocusSeen(const QWidget &window)
@@ -201,6 +242,8 @@ void ExpectFocusSeen(const QWidget &window)
         const auto *button = qobject_cast<const QPushButton *>(widget);
         if (button && button->isDefault()) // has the look of it also while nothing has the focus
             continue;
+        if (auto *box = qobject_cast<QPlainTextEdit *>(widget)) // not by its caret alone
+            box->setCursorWidth(0);
         widget->setFocus(Qt::TabFocusReason);
         QApplication::processEvents();
         const QImage with = widget->grab().toImage();
@@ -286,7 +329,9 @@ TEST(Screens, HoldEveryWindow)
                 ExpectWholeTexts(window);
                 ExpectWayOn(window);
                 ExpectMirrored(window);
+                ExpectLabelsAtBeginning(window);
                 ExpectBeginning(window);
+                ExpectIconsAsLargeAsText(window);
                 ExpectLinkOverWords(window);
             });
         }
