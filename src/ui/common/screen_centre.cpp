@@ -3,6 +3,7 @@
 #include "ui/common/scroll_page.h"
 
 #include <QEvent>
+#include <QFontInfo>
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
@@ -40,6 +41,21 @@ void Place(QWidget &window, const QMargins &frame)
         {std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
     place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
     window.setGeometry(place.marginsRemoved(frame));
+}
+
+/// A size that was made for the usual text, for text that may be larger.
+QSize Grown(const QWidget &window)
+{
+    constexpr qreal usualText = 12; // pixels
+    return window.size() * std::max(1.0, QFontInfo(window.font()).pixelSize() / usualText);
+}
+
+/// With the scroll bar of a window that is higher than its screen.
+QSize Wanted(const QWidget &window)
+{
+    const QSize hint = window.sizeHint();
+    const bool scrolls = hint.height() > window.screen()->availableSize().height();
+    return hint + QSize(scrolls ? window.style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0, 0);
 }
 
 /// Waits for a window's frame, for once: where the user moves it later is the user's choice. Not
@@ -88,8 +104,7 @@ void CentreOnScreen(QWidget &window)
 {
     SettleLayouts(window);
     // A window that is not shown yet has no size of its own unless it was given one.
-    if (!window.testAttribute(Qt::WA_Resized))
-        window.resize(window.sizeHint());
+    window.resize(window.testAttribute(Qt::WA_Resized) ? Grown(window) : Wanted(window));
     const QMargins frame = KnownFrame(window);
     Place(window, frame.isNull() ? LikelyFrame(window) : frame);
     new FrameWatch(window);

@@ -19,6 +19,8 @@ void SettleLayouts(QWidget &widget)
 {
     QList<QWidget *> within{&widget};
     within += widget.findChildren<QWidget *>();
+    for (const QWidget *each : within)
+        each->ensurePolished(); // boxes keep the size that they tell, as of before it
     std::for_each(within.rbegin(), within.rend(), [](QWidget *each) { // those within others first
         if (QLayout *layout = each->layout()) {
             layout->invalidate();

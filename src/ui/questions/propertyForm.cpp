@@ -18,7 +18,6 @@
 #include <QFontMetricsF>
 #include <QListView>
 #include <QShortcut>
-#include <QShowEvent>
 #include <QtMath>
 
 using namespace Qt::StringLiterals;
@@ -77,16 +76,10 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     connect(ui->cboType, &QComboBox::activated, this, &propertyForm::ShowItemsForType);
     connect(ui->cmdOK, &QPushButton::clicked, this, &propertyForm::SaveUnlessRefused);
     connect(ui->cmdCancel, &QPushButton::clicked, this, &propertyForm::reject);
+    CentreOnScreen(*this);
 }
 
 propertyForm::~propertyForm() = default;
-
-void propertyForm::showEvent(QShowEvent *event)
-{
-    if (!event->spontaneous())
-        CentreOnScreen(*this);
-    QDialog::showEvent(event);
-}
 
 void propertyForm::ShowQuestion()
 {

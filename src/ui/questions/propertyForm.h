@@ -29,9 +29,6 @@ signals:
     /// F1 asked for help; contextId is the number of a help topic.
     void HelpAsked(quint32 contextId);
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     void ShowQuestion();
     void ShowItemsForType();

@@ -18,6 +18,7 @@
 
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -279,7 +280,10 @@ void StepQuestions::LayOut()
     constexpr QSize start(860, 620);
     const QSize more = (window()->size() - start).expandedTo({0, 0});
     ui->previewBox->SetSide(screen::width + std::min(more.width() / 3, more.height()));
-    Fit(ui->scrollArea->maximumViewportSize());
+    const QSize room = ui->scrollArea->maximumViewportSize();
+    Fit(room);
+    if (ui->content->height() > room.height()) // the bar's place is not to scroll sideways for
+        Fit(room - QSize(ui->scrollArea->verticalScrollBar()->sizeHint().width(), 0));
     LayOutColumns(*ui->DataGrid1);
     m_laidOut = true;
 }

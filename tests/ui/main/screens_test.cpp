@@ -289,9 +289,8 @@ TEST(Screens, FillStepTwo)
     designer.window.resize(size);
     SettleWindows();
     const auto *content = designer.Find<QWidget>("content");
-    EXPECT_EQ(content->width(),
-              std::max(content->minimumSizeHint().width(),
-                       designer.Find<QScrollArea>("scrollArea")->maximumViewportSize().width()));
+    const int room = designer.Find<QScrollArea>("scrollArea")->viewport()->width();
+    EXPECT_EQ(content->width(), std::max(content->minimumSizeHint().width(), room));
     EXPECT_EQ(
         designer.Find<QTableView>("DataGrid1")->findChildren<QObject *>(u"questionWidth"_s).size(),
         1);
@@ -308,6 +307,20 @@ TEST(Screens, HoldTheFrames)
                    window.screen()->availableGeometry().contains(window.frameGeometry());
         })) << Name(window);
         ExpectOnScreen(window);
+    });
+}
+
+/// Where the screen has room for it, nothing is to be scrolled sideways, however large the text.
+TEST(Screens, GrowWithTheText)
+{
+    const QSize room = QGuiApplication::primaryScreen()->size();
+    const Desktop desktop(24, Qt::LeftToRight);
+    if (room.width() < 1900 || room.height() < 1000)
+        return; // there is no such room
+    ShowEveryWindow([](const QWidget &window) {
+        for (const auto *bar : window.findChildren<QScrollBar *>())
+            EXPECT_FALSE(bar->isVisible() && bar->orientation() == Qt::Horizontal)
+                << Name(*bar->parentWidget()->parentWidget());
     });
 }
 
