@@ -1,6 +1,6 @@
 // Takes the pictures of the windows that the documentation shows and that a person looks at:
-// take_pictures FOLDER [dark] [right-to-left] [POINTS of text]. QT_SCALE_FACTOR sets the scale,
-// QT_QPA_PLATFORM=offscreen:configfile=FILE the screen (tests/data/screens has some).
+// take_pictures FOLDER [dark|high-contrast] [right-to-left] [POINTS of text]. QT_SCALE_FACTOR sets
+// the scale, QT_QPA_PLATFORM=offscreen:configfile=FILE the screen (tests/data/screens has some).
 #include "ui/about/frmAbout.h"
 #include "ui/about/help_window.h"
 #include "ui/about/myHelp.h"
@@ -12,9 +12,9 @@
 #include "ui/questions/propertyForm.h"
 #include "ui/support/designer.h"
 #include "ui/support/every_window.h"
+#include "ui/support/palettes.h"
 #include "ui/support/prompt_script.h"
 
-#include <QPalette>
 #include <QStyleFactory>
 #include <QTableView>
 
@@ -26,17 +26,6 @@ using namespace vellumo;
 namespace {
 
 const QString example = DataFile(u"../../examples/SiteVisit.vmp"_s);
-
-/// The palette of a dark desktop, from the two colours of its windows and boxes.
-QPalette DarkPalette()
-{
-    QPalette dark(QColor(45, 45, 48), QColor(40, 40, 42));
-    dark.setColor(QPalette::Base, QColor(30, 30, 32));
-    dark.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
-    dark.setColor(QPalette::Link, QColor(110, 170, 250));
-    dark.setColor(QPalette::Highlight, QColor(50, 100, 170));
-    return dark;
-}
 
 void Keep(const QWidget &window, const QString &path)
 {
@@ -144,6 +133,8 @@ int main(int argc, char *argv[])
     const QStringList arguments = QApplication::arguments();
     if (arguments.contains(u"dark"_s))
         QApplication::setPalette(DarkPalette());
+    if (arguments.contains(u"high-contrast"_s))
+        QApplication::setPalette(HighContrastPalette());
     if (arguments.contains(u"right-to-left"_s))
         QApplication::setLayoutDirection(Qt::RightToLeft);
     QFont text = QApplication::font();
