@@ -34,6 +34,8 @@ target_compile_definitions(vellumo_options INTERFACE _GLIBCXX_ASSERTIONS)
 check_cxx_compiler_flag(-fstack-protector-strong VELLUMO_HAS_STACK_PROTECTOR)
 if(VELLUMO_HAS_STACK_PROTECTOR)
     target_compile_options(vellumo_options INTERFACE -fstack-protector-strong)
+    # Where the C library has not got what both call, the linker brings it for this option.
+    target_link_options(vellumo_options INTERFACE -fstack-protector-strong)
 endif()
 
 # All addresses of other libraries are found at the start, and are then read-only.

@@ -2,6 +2,7 @@
 
 #include "palmtools/build_prc/build_prc_call.h"
 #include "palmtools/build_prc/database_builder.h"
+#include "palmtools/common/arguments.h"
 #include "palmtools/common/ascii.h"
 #include "palmtools/common/files.h"
 #include "palmtools/common/tool_texts.h"
@@ -59,7 +60,7 @@ std::optional<Error> CheckEndings(const BuildPrcCall &call)
 /// The database of a resource file; a fault of its resources is told as one of the file.
 Result<Bytes> DatabaseOf(const DatabaseHeader &header, const std::string &path)
 {
-    const auto resourceFile = ReadFile(path);
+    const auto resourceFile = ReadFile(PathOf(path));
     if (!resourceFile)
         return resourceFile.error();
     auto resources = DecodeDatabase(*resourceFile);
@@ -81,7 +82,7 @@ int Build(const BuildPrcCall &call, std::ostream &err)
     const auto database = DatabaseOf(*header, call.input);
     if (!database)
         return Fail(database.error(), err);
-    if (const auto error = ReplaceFile(call.output, *database))
+    if (const auto error = ReplaceFile(PathOf(call.output), *database))
         return Fail(*error, err);
     return 0;
 }

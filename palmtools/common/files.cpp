@@ -103,7 +103,7 @@ std::error_code Write(const Target &target, std::string_view bytes)
 Result<Bytes> ReadFile(const fs::path &path)
 {
     errno = 0;
-    const File file(std::fopen(path.string().c_str(), "rb"));
+    const File file(OpenFile(path, "rb"));
     if (!file)
         return ReadError(Reason(errno), path);
     // Not by its size, which a pipe or a device does not have.

@@ -8,6 +8,12 @@
 
 namespace palmtools {
 
+/// What the last call of the C library failed by.
+std::error_code LastError();
+
+/// As std::fopen(), for every name that a file can have; null where that fails.
+std::FILE *OpenFile(const std::filesystem::path &path, const char *mode);
+
 /// A file that is open for writing, without a buffer of its own. What fails is told by the
 /// platform's code; the code is zero where nothing failed.
 class OutputFile

@@ -1,5 +1,7 @@
 #include "palmtools/common/program.h"
 
+#include "palmtools/common/arguments.h"
+
 #include <csignal>
 #include <iostream>
 
@@ -10,7 +12,7 @@ int RunProgram(Tool tool, int argc, char *argv[])
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
-    return tool({argv + 1, argv + argc}, std::cout, std::cerr);
+    return tool(ArgumentsOf(argc, argv), std::cout, std::cerr);
 }
 
 } // namespace palmtools

@@ -22,6 +22,7 @@ std::string UnguessableName()
 
 UnfinishedFile::~UnfinishedFile()
 {
+    m_file = OutputFile(); // not every system removes a file that is open
     std::error_code ignored;
     if (!m_path.empty())
         fs::remove(m_path, ignored);

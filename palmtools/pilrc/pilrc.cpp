@@ -1,5 +1,6 @@
 #include "palmtools/pilrc/pilrc.h"
 
+#include "palmtools/common/arguments.h"
 #include "palmtools/common/files.h"
 #include "palmtools/common/tool_texts.h"
 #include "palmtools/pilrc/compiler.h"
@@ -39,12 +40,12 @@ std::string Joined(const std::string &folder, const std::string &file)
 /// Where the script is nowhere, the path as given is at fault and not the last one tried.
 Result<Script> FindScript(const PilrcCall &call)
 {
-    auto asGiven = ReadFile(call.script);
+    auto asGiven = ReadFile(PathOf(call.script));
     if (asGiven)
         return Script{call.script, std::move(*asGiven)};
     for (const std::string &folder : call.folders) {
         const std::string path = Joined(folder, call.script);
-        if (auto bytes = ReadFile(path))
+        if (auto bytes = ReadFile(PathOf(path)))
             return Script{path, std::move(*bytes)};
     }
     return asGiven.error();
@@ -64,7 +65,7 @@ std::optional<Error> WriteResourceFile(const std::string &path,
     const auto bytes = EncodeResourceFile(path, resources);
     if (!bytes)
         return bytes.error();
-    return ReplaceFile(path, *bytes);
+    return ReplaceFile(PathOf(path), *bytes);
 }
 
 int Fail(const Error &error, std::ostream &err)

@@ -1,5 +1,6 @@
 #include "palmtools/pilrc/pilrc_call.h"
 
+#include "palmtools/common/arguments.h"
 #include "palmtools/common/ascii.h"
 #include "palmtools/common/files.h"
 
@@ -72,7 +73,7 @@ std::string ResourceFileOf(std::string_view script, std::string_view asked)
     }
     const std::size_t separator = asked.find_last_of("/\\");
     const std::string_view name = separator == asked.npos ? asked : asked.substr(separator + 1);
-    const bool isWhole = name.find('.') != name.npos || IsWrittenInto(asked);
+    const bool isWhole = name.find('.') != name.npos || IsWrittenInto(PathOf(asked));
     return std::string(asked) + (isWhole ? "" : ".ro");
 }
 

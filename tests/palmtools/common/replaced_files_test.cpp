@@ -1,10 +1,11 @@
 #include "palmtools/common/files.h"
 #include "palmtools/support.h"
-#include "support/ordinary_user.h"
 
 #include <gtest/gtest.h>
 
 #ifndef _WIN32
+
+#include "support/ordinary_user.h"
 
 #include <sys/stat.h>
 

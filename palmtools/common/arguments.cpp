@@ -1,0 +1,10 @@
+#include "palmtools/common/arguments.h"
+
+namespace palmtools {
+
+std::filesystem::path PathOf(std::string_view word)
+{
+    return std::u8string(word.begin(), word.end());
+}
+
+} // namespace palmtools
