@@ -17,7 +17,7 @@ inline constexpr int HH_DISPLAY_TOPIC = 0; ///< 0: the default page
 inline constexpr int HH_HELP_CONTEXT = 15; ///< the number of a page
 inline constexpr int HH_CLOSE_ALL = 18;    ///< 0: closes every help window
 
-/// The help of the program. Its windows go when their asker goes, and with this at the latest.
+/// The help of the program. Windows of ours go when their asker goes, and with this at the latest.
 class myHelp
 {
 public:
@@ -34,7 +34,8 @@ public:
     void CloseWindows();
 
 private:
-    void ShowInWindow(int command, quint32 data, QWidget *owner);
+    // In windows of ours, or by the viewer of a platform that has one.
+    void Display(int command, quint32 data, QWidget *owner);
     HelpWindow *WindowOf(const QWidget *owner) const;
 
     const Environment &m_environment;
