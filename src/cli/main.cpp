@@ -12,6 +12,7 @@ using namespace vellumo;
 
 int main(int argc, char *argv[])
 {
+    TakeStreamsAsBytes();
     KeepToolkitQuiet("vellumo", "The program cannot start", 0);
     // Knows the program's folder, and the words as text.
     const QCoreApplication application(argc, argv);

@@ -5,6 +5,16 @@
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
+
+#ifdef _WIN32
+
+Outcome CheckArguments(int, const char *const[])
+{
+    return done; // the toolkit takes the words as characters
+}
+
+#else
+
 namespace {
 
 /// In ASCII, other bytes as \xNN.
@@ -23,15 +33,15 @@ QString Shown(QByteArrayView bytes)
 
 } // namespace
 
-Outcome CheckArguments([[maybe_unused]] int argc, [[maybe_unused]] const char *const argv[])
+Outcome CheckArguments(int argc, const char *const argv[])
 {
-#ifndef _WIN32 // where the toolkit takes the words as characters
     for (const QByteArrayView word : std::span(argv, static_cast<size_t>(argc)))
         if (QString::fromLocal8Bit(word).toLocal8Bit() != word)
             return Error{
                 u"The name '%1' is not in the encoding of this system."_s.arg(Shown(word))};
-#endif
     return done;
 }
+
+#endif
 
 } // namespace vellumo

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
 #else
 #include <unistd.h>
@@ -10,13 +11,28 @@
 
 namespace vellumo {
 
+#ifdef _WIN32
+
 bool StandardErrorIsTerminal()
 {
-#ifdef _WIN32
     return _isatty(_fileno(stderr)) != 0;
-#else
-    return isatty(fileno(stderr)) != 0;
-#endif
 }
+
+void TakeStreamsAsBytes()
+{
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
+#else
+
+bool StandardErrorIsTerminal()
+{
+    return isatty(fileno(stderr)) != 0;
+}
+
+void TakeStreamsAsBytes() {}
+
+#endif
 
 } // namespace vellumo
