@@ -11,6 +11,19 @@
 #include <thread>
 #include <vector>
 
+namespace {
+
+void Crash()
+{
+#ifdef _WIN32
+    std::_Exit(static_cast<int>(0xC0000005)); // what a fault of memory ends with
+#else
+    std::raise(SIGKILL);
+#endif
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
     const std::vector<std::string> orders(argv + 1, argv + argc);
@@ -27,7 +40,7 @@ int main(int argc, char *argv[])
         else if (orders[i] == "fail")
             return std::atoi(orders[++i].c_str());
         else if (orders[i] == "crash")
-            std::raise(SIGKILL);
+            Crash();
         else if (orders[i] == "flood")
             std::cerr << std::string(8'000'000, 'x');
         else if (orders[i] == "hang")
