@@ -1,7 +1,5 @@
 # Sourced by tools/build-windows: builds our own tree, tests it under Wine and packs it.
 
-tree=$windows/tree
-
 # Its documents folder is a link into the home of whoever starts it first.
 start_wine() {
     rm -rf "$WINEPREFIX" "$windows/home"
