@@ -37,8 +37,8 @@ struct Desk {
     {
         document.Replace(
             OfLists(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))), {});
-        step.resize(800, 500);
-        step.LayOut();
+        step.resize(800, 600);
+        step.LayOutIfLargeEnough();
         step.show();
         step.Enter();
         QApplication::processEvents();
