@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QColor>
+#include <QByteArray>
 #include <QPixmap>
 #include <QString>
 #include <QSvgRenderer>
-
-#include <vector>
 
 namespace vellumo {
 
@@ -15,8 +13,8 @@ struct DrawingFile {
     explicit DrawingFile(const QString &path);
 
     QString path;
+    QByteArray text; ///< of the file, SVG in UTF-8
     QSvgRenderer renderer;
-    std::vector<QColor> inks; ///< all its colours but white, which lies on another
 };
 
 /// The drawing in a size in pixels. A sign stands out from the palette's windows and buttons, but

@@ -172,6 +172,23 @@ TEST(Pictures, OfButtonsStandOutOnAnyGround)
     QApplication::setPalette(before);
 }
 
+TEST(Pictures, OfButtonsKeepTheirColoursOnDarkOnes)
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x53, 0x53, 0x53), QColor(0x35, 0x35, 0x35)));
+    const QColor painted(0x66, 0x66, 0x66); // the button, as the style lights it
+    for (const Drawing drawing : buttonDrawings) {
+        SCOPED_TRACE(PicturePath(drawing).toStdString());
+        // Large enough that the thinnest outline covers whole pixels.
+        const std::set<QRgb> drawn = ColoursOf(Picture(drawing).pixmap(640, 640));
+        size_t standing = 0;
+        for (const QRgb pixel : drawn)
+            standing += qAlpha(pixel) == 255 && Contrast(QColor(pixel), painted) >= pictureContrast;
+        EXPECT_GE(standing, ColoursInFile(PicturePath(drawing)).size() - 1) << "all but white";
+    }
+    QApplication::setPalette(before);
+}
+
 TEST(Pictures, OfStepsPointTheWayOfTheWindow)
 {
     const QImage back = Picture(Drawing::StepBack).pixmap(24, 24).toImage();
