@@ -64,6 +64,37 @@ desktop-file-validate "$XDG_DATA_HOME/applications/vellumo-designer.desktop"
 XDG_DATA_HOME=/elsewhere run "$HOME/my programs/lib/vellumo-designer/uninstall"
 listed | diff "$work/before" - || fail 'something was left elsewhere'
 
+# What is broken off can be tried again, or taken back.
+export XDG_DATA_HOME="$HOME/full data"
+mkdir "$XDG_DATA_HOME"
+printf 'in the way\n' >"$XDG_DATA_HOME/mime" # where a folder has to be
+listed >"$work/before"
+! "$work/un packed/install" "$HOME/my programs" >"$work/told" 2>&1 || fail 'a success that was none'
+grep -qF 'broken off' "$work/told" || fail 'nothing was said of what is left'
+run "$work/un packed/uninstall" "$HOME/my programs"
+listed | diff "$work/before" - || fail 'something was left of what was broken off'
+! "$work/un packed/install" "$HOME/my programs" 2>/dev/null >&2 || fail 'a success that was none'
+rm "$XDG_DATA_HOME/mime"
+run "$work/un packed/install" "$HOME/my programs"
+! "$work/un packed/install" "$HOME/other" 2>"$work/told" || fail 'over the menu of another'
+grep -qF 'of another installation' "$work/told" || fail 'nothing was said of another installation'
+run "$HOME/my programs/lib/vellumo-designer/uninstall"
+rmdir "$XDG_DATA_HOME"
+
+# Where the programs do not run, nothing is installed.
+mkdir "$work/cut off"
+cp -a "$work/un packed/." "$work/cut off"
+mv "$work/cut off/lib/vellumo-designer/vellumo" "$work/cut off/lib/vellumo-designer/kept"
+printf '#!/bin/sh\necho "a library is missing" >&2\nexit 127\n' >"$work/cut off/lib/vellumo-designer/vellumo"
+chmod +x "$work/cut off/lib/vellumo-designer/vellumo"
+listed >"$work/before"
+! "$work/cut off/install" 2>"$work/told" || fail 'programs that do not run were installed'
+grep -qF 'a library is missing' "$work/told" || fail 'nothing was said of what is missing'
+listed | diff "$work/before" - || fail 'something was installed'
+
+# Its help is its own.
+[ "$("$work/un packed/install" --help | wc -l)" -le 6 ] || fail 'the help of install'
+
 # Never over another program of that name.
 mkdir -p "$HOME/my programs/bin"
 printf 'mine\n' >"$HOME/my programs/bin/vellumo"
