@@ -15,8 +15,17 @@ if(CPACK_GENERATOR STREQUAL "DEB")
     put(${documents} ${CPACK_VELLUMO_PACKAGING}/debian/copyright
         ${CPACK_VELLUMO_PACKAGING}/debian/changelog)
     file(REMOVE ${documents}/LICENSE)
+    file(MAKE_DIRECTORY ${share}/zsh/vendor-completions) # site-functions is for the machine's owner
+    file(RENAME ${share}/zsh/site-functions/_vellumo ${share}/zsh/vendor-completions/_vellumo)
+    file(REMOVE_RECURSE ${share}/zsh/site-functions)
     file(RENAME ${documents}/changelog ${documents}/changelog.Debian)
     file(RENAME ${documents}/CHANGELOG.md ${documents}/changelog)
+    foreach(page ${documents}/README.md ${documents}/docs/README.md)
+        file(READ ${page} text)
+        string(REPLACE "(LICENSE)" "(copyright)" text "${text}")
+        string(REPLACE "CHANGELOG.md)" "changelog.gz)" text "${text}")
+        file(WRITE ${page} "${text}")
+    endforeach()
     file(GLOB pages ${share}/man/man*/*)
     execute_process(COMMAND gzip -9n ${pages} ${documents}/changelog ${documents}/changelog.Debian
         COMMAND_ERROR_IS_FATAL ANY)

@@ -28,7 +28,7 @@ expected() {
         "$share/metainfo/org.vellumo.Designer.metainfo.xml" \
         "$share/mime/packages/vellumo-designer.xml" \
         "$share/man/man1"/{vellumo,vellumo-designer,pilrc,build-prc}.1 "$share/man/man5/vmp.5" \
-        "$share/bash-completion/completions/vellumo" "$share/zsh/vendor-completions/_vellumo" \
+        "$share/bash-completion/completions/vellumo" "$share/zsh/site-functions/_vellumo" \
         "$share/fish/vendor_completions.d/vellumo.fish" \
         "$doc"/{CHANGELOG,CONTRIBUTING,README,SECURITY}.md "$doc/LICENSE"
     (cd "$source" && find docs examples -type f -printf "$doc/%p\n")

@@ -28,7 +28,7 @@ names() { (cd "$1" && find . ! -type d | LC_ALL=C sort); }
 documents=./share/doc/vellumo-designer
 as_debian_has_it() {
     sed -E "s|^(./share/man/.*)|\1.gz|; s|^$documents/CHANGELOG.md$|$documents/changelog.gz|
-        s|^$documents/LICENSE$|$documents/copyright|; \$a $documents/changelog.Debian.gz" | LC_ALL=C sort
+        s|/zsh/site-functions/|/zsh/vendor-completions/|; s|^$documents/LICENSE$|$documents/copyright|; \$a $documents/changelog.Debian.gz" | LC_ALL=C sort
 }
 diff <(names "$work/installed" | as_debian_has_it) <(names "$work/package/usr")
 diff <({ names "$work/installed"; printf './%s\n' install uninstall; } | LC_ALL=C sort) \
@@ -47,5 +47,12 @@ for prefix in "$work/package/usr" "$work/archive"; do
     "$prefix/bin/vellumo" verify "$work/made/SiteVisit.prc" "$source/examples/SiteVisit.vmp"
     rm "$work/made/SiteVisit.prc"
     [ "$("$prefix/bin/vellumo-designer" --version)" = "vellumo-designer $version" ]
+done
+# No link of the documents leads nowhere.
+for page in "$documents"/*.md "$documents"/docs/*.md; do
+    links=$(grep -oE '\]\([^):#]+' "$page" | sed 's/^](//; /^https\?$/d') || continue # it has none
+    while IFS= read -r link; do
+        [ -e "$(dirname "$page")/$link" ] || { printf '%s: %s leads nowhere\n' "$page" "$link" >&2; exit 1; }
+    done <<<"$links"
 done
 printf 'passed\n'
