@@ -79,6 +79,6 @@ elsewhere=(
     'pacman -S --needed gcc cmake ninja qt6-base qt6-svg chmlib libcsv expat libxlsxwriter'
     'brew install cmake ninja qt chmlib libcsv expat libxlsxwriter'
 )
-test_packages=(appstream aspell aspell-en desktop-file-utils dpkg-dev file groff libgtest-dev
+test_packages=(appstream aspell aspell-en desktop-file-utils dpkg-dev file fish groff libgtest-dev
     libbenchmark-dev libglib2.0-bin libpalm-pdb-perl lintian mandoc openbox 'p7zip-full|7zip' python3-openpyxl
-    shared-mime-info time xdotool xvfb)
+    shared-mime-info time xdotool xvfb zsh)

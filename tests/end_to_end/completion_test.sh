@@ -33,6 +33,20 @@ after review --gu | grep -q guid && fail 'bash completes an option that review d
 [ "$(after create on)" = 'one form.vmp' ] || fail 'bash does not complete a name with a blank'
 [ "$(after create --output on)" = 'one form.vmp' ] || fail 'bash does not complete the name after --output'
 
+# ask_zsh TYPED COMPLETED: what zsh shows on a terminal of its own after TYPED and Tab, once it has
+# COMPLETED in it.
+ask_zsh() {
+    manual=$manual typed=$1 completed=$2 timeout 20 zsh -f <<'END'
+        zmodload zsh/zpty
+        zpty -b asked zsh -f -i
+        zpty -w asked "fpath=(${(q)manual} \$fpath); autoload -Uz compinit; compinit -u -D; echo ready-\$((1 + 1))"
+        zpty -r asked said '*ready-2*'
+        zpty -w -n asked "$typed"$'\t'
+        zpty -r asked said "*$completed*"
+        print -r -- "$said"
+END
+}
+
 for shell in zsh fish; do
     if ! command -v $shell >/dev/null; then
         echo "Not asked: $shell is not installed."
@@ -42,6 +56,7 @@ for shell in zsh fish; do
         fish -c "source $manual/vellumo.fish; complete -C 'vellumo review --str'" | grep -q -- --strict ||
             fail 'fish does not complete --str'
     else
-        zsh -fn "$manual/_vellumo" || fail 'zsh cannot read its completion'
+        [[ $(ask_zsh 'vellumo cr' create) == *create* ]] || fail 'zsh does not complete cr'
+        [[ $(ask_zsh 'vellumo review --str' --strict) == *--strict* ]] || fail 'zsh does not complete --str'
     fi
 done
