@@ -173,7 +173,7 @@ int MiddleOfWords(QLabel &label)
                 first = std::min(first, x);
                 last = std::max(last, x);
             }
-    return qRound((first + last) / 2 / picture.devicePixelRatio());
+    return qRound((first + last) / 2.0 / picture.devicePixelRatio());
 }
 
 /// Labels that have more room than they need are written where lines begin.
