@@ -85,7 +85,7 @@ void ScrollPage::showEvent(QShowEvent *event)
 /// The area's own way ends with another look at the focus, which shows the middle of what is wide.
 bool ScrollPage::focusNextPrevChild(bool next)
 {
-    return QWidget::focusNextPrevChild(next);
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void ScrollPage::BringIntoView(const QWidget *focus)
