@@ -34,11 +34,12 @@ QString PasteFromClipboard(ProjectDocument &document)
     const QList<CopiedQuestion> questions = data ? QuestionsIn(*data) : QList<CopiedQuestion>();
     if (questions.isEmpty())
         return {};
-    const int before = document.source().QuestionCount();
-    QString refused = document.ChangeQuestions(
-        [&](clsDataSource &source) { return PasteQuestions(source, questions); });
-    if (document.source().QuestionCount() > before)
+    clsDataSource after = document.source();
+    QString refused = PasteQuestions(after, questions);
+    if (after.QuestionCount() > document.source().QuestionCount()) {
+        document.ChangeQuestions([&](clsDataSource &source) { source = after; });
         document.SetProjectChanged(true);
+    }
     return refused;
 }
 
