@@ -13,7 +13,7 @@ QString OneLineDelegate::displayText(const QVariant &value, const QLocale &) con
 
 QSize OneLineDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    return {0, FocusFrameDelegate::sizeHint(option, index).height()};
 }
 
 } // namespace vellumo
