@@ -61,6 +61,8 @@ void ItemListEditor::ConnectKeys()
     call(QKeySequence::keyBindings(QKeySequence::Copy), [this] { CopyItems(); });
     call(QKeySequence::keyBindings(QKeySequence::Cut), [this] { CutItems(); });
     call(QKeySequence::keyBindings(QKeySequence::Paste), [this] { PasteLines(); });
+    call(QKeySequence::keyBindings(QKeySequence::Undo), [this] { GoTo(m_before, m_after); });
+    call(QKeySequence::keyBindings(QKeySequence::Redo), [this] { GoTo(m_after, m_before); });
 }
 
 void ItemListEditor::Configure(const ItemListHost &host, const ItemListControls &controls)
@@ -86,6 +88,7 @@ void ItemListEditor::SetItems(const QStringList &items)
 {
     m_items.SetItems(items);
     ShowAll({}, -1);
+    m_before.clear();
 }
 
 QListView *ItemListEditor::List() const
@@ -188,9 +191,32 @@ void ItemListEditor::ShowRefusal(const QString &refusal)
         ShowExclamation(this, refusal);
 }
 
+void ItemListEditor::Remember()
+{
+    if (m_shown.stringList() == m_items.Items())
+        return;
+    m_before += m_shown.stringList();
+    m_after.clear();
+}
+
+void ItemListEditor::GoTo(QList<QStringList> &there, QList<QStringList> &back)
+{
+    if (there.isEmpty())
+        return;
+    const QStringList items = there.takeLast();
+    const QStringList left = m_items.Items();
+    back += left;
+    m_shown.setStringList(items); // no step of its own
+    m_items.SetItems(items);
+    const auto changed = std::ranges::mismatch(items, left).in1 - items.begin();
+    const qsizetype row = std::min(changed, items.size() - 1);
+    ShowAll(row >= 0 ? ItemList::Rows{row} : ItemList::Rows(), row);
+}
+
 /// Keeps the selection and what is current.
 void ItemListEditor::ShowAppended()
 {
+    Remember();
     const QStringList items = m_items.Items();
     const int shown = m_shown.rowCount();
     const int count = static_cast<int>(items.size());
@@ -205,6 +231,7 @@ void ItemListEditor::ShowAppended()
 void ItemListEditor::ShowAll(const ItemList::Rows &selection, qsizetype current)
 {
     const auto indexOf = [this](qsizetype row) { return m_shown.index(static_cast<int>(row)); };
+    Remember();
     m_shown.setStringList(m_items.Items());
     QItemSelectionModel *chosen = ui->list->selectionModel();
     for (const qsizetype row : selection)

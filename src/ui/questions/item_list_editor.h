@@ -35,7 +35,8 @@ public:
     /// The question type decides about the limits, and whether states and countries are offered.
     void SetType(const QString &type);
 
-    /// Nothing is selected then; the direction of the next sort stays.
+    /// Nothing is selected then, and nothing can be taken back; the direction of the next sort
+    /// stays.
     void SetItems(const QStringList &items);
     QStringList Items() const { return m_items.Items(); }
 
@@ -60,6 +61,10 @@ private:
 
     ItemList::Rows Selection() const;
     void ShowRefusal(const QString &refusal);
+    /// What is shown is what was before, until the new items are.
+    void Remember();
+    /// Goes to the items that the one list has last, and lets the other lead back.
+    void GoTo(QList<QStringList> &there, QList<QStringList> &back);
     void ShowAppended();
     /// The current entry is told by its row; a row that does not exist leaves none current.
     void ShowAll(const ItemList::Rows &selection, qsizetype current);
@@ -69,6 +74,7 @@ private:
     QString m_type;
     ItemList m_items;
     QStringListModel m_shown;
+    QList<QStringList> m_before, m_after; ///< each step that can be taken back, or again
 };
 
 } // namespace vellumo
