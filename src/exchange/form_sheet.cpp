@@ -1,6 +1,7 @@
 #include "exchange/form_sheet.h"
 
 #include "exchange/sheet_names.h"
+#include "handheld/arriving_text.h"
 #include "model/question_types.h"
 
 using namespace Qt::StringLiterals;
@@ -47,14 +48,15 @@ public:
         const QuestionType *type = TypeNamed(row.Type);
         if (!type)
             return Error{u"question %1 is of the unknown type '%2'"_s.arg(number).arg(row.Type)};
-        if (type->items && m_items.value(row.Id).isEmpty())
+        const QStringList items = m_items.value(row.Id);
+        if (type->items && ArrivingItems(items).isEmpty())
             return Error{u"question %1 has no items"_s.arg(number)};
         const SheetType &sheet = RowOf(sheetTypes, type->id);
         const QString name = NameOf(row);
-        m_survey.rows.append({Joined(sheet.name, ListOf(*type, row, name), u" "_s), name,
-                              Shown(row.Question, "question text"_L1),
-                              Joined(Shown(row.Title, "title"_L1), sheet.hint, u": "_s),
-                              sheet.appearance, sheet.parameters});
+        const QString list = ListOf(*type, items, name);
+        m_survey.rows.append({Joined(sheet.name, list, u" "_s), name, LabelOf(row),
+                              Joined(HintOf(row), sheet.hint, u": "_s), sheet.appearance,
+                              sheet.parameters});
         return done;
     }
 
@@ -65,8 +67,9 @@ public:
         const QString id = SheetNames().TakeName(project.FormName);
         if (id != project.FormName)
             Lose("form-id"_L1, {"form name"_L1}, u"is '%1' where a name has to be valid"_s.arg(id));
-        settings.rows.append(
-            {WithoutReference(project.FormName, {"form name"_L1}), id, project.FormVersion});
+        const QString version = ArrivingText(project.FormVersion);
+        TellArriving(version, project.FormVersion, {"form version"_L1});
+        settings.rows.append({WithoutReference(project.FormName, {"form name"_L1}), id, version});
         return {{m_survey, m_choices, settings}, m_losses};
     }
 
@@ -84,20 +87,41 @@ private:
 
     QString NameOf(const QuestionRow &row)
     {
-        QString name = m_names.TakeName(row.ColumnName);
+        QString name = m_names.TakeName(ArrivingText(row.ColumnName));
         if (name != row.ColumnName)
             Lose("name-changed"_L1, {"column name"_L1, m_number},
                  u"is '%1' in the sheet instead of '%2'"_s.arg(name, row.ColumnName), true);
         return name;
     }
 
-    /// A text as the sheet has it: the escape of a line break is one, and nothing refers to another
-    /// question, which is what "${" would do.
-    QString Shown(const QString &text, QLatin1StringView field)
+    QString LabelOf(const QuestionRow &row)
     {
-        return WithoutReference(QString(text).replace(u"\\n"_s, u"\n"_s), {field, m_number});
+        const TextPlace place = {"question text"_L1, m_number};
+        const QString text = ArrivingWording(row.Question);
+        // The escape of a line break is typed for just that.
+        if (text != QString(row.Question).replace(u"\\n"_s, u"\n"_s))
+            TellArriving(text, row.Question, place);
+        return WithoutReference(text, place);
     }
 
+    QString HintOf(const QuestionRow &row)
+    {
+        const TextPlace place = {"title"_L1, m_number};
+        const QString text = ArrivingText(row.Title);
+        TellArriving(text, row.Title, place);
+        return WithoutReference(text, place);
+    }
+
+    /// The sheet has texts as the handheld shows them, which takes no text from a question.
+    void TellArriving(const QString &arriving, const QString &typed, const TextPlace &place)
+    {
+        if (arriving != typed)
+            Lose("text-changed"_L1, place,
+                 u"is '%1' in the sheet, as on the handheld, instead of '%2'"_s.arg(arriving,
+                                                                                    typed));
+    }
+
+    /// Nothing refers to another question, which is what "${" would do.
     QString WithoutReference(QString text, const TextPlace &place)
     {
         if (!text.contains("${"_L1))
@@ -109,7 +133,7 @@ private:
     }
 
     /// The name of the list that a question chooses from; empty where it chooses from none.
-    QString ListOf(const QuestionType &type, const QuestionRow &row, const QString &name)
+    QString ListOf(const QuestionType &type, const QStringList &items, const QString &name)
     {
         if (type.id == TypeId::YesNo)
             return YesNoList();
@@ -118,9 +142,11 @@ private:
         QString list = m_lists.TakeName(name);
         SheetNames choices;
         QString other; // the first that has another name
-        for (const QString &item : m_items.value(row.Id)) {
+        for (const QString &item : items)
+            TellArriving(ArrivingItems({item}).join("', '"_L1), item, {"item"_L1, m_number});
+        for (const QString &item : ArrivingItems(items)) {
             const QString choice = choices.TakeChoice(item);
-            m_choices.rows.append({list, choice, Shown(item, "item"_L1)});
+            m_choices.rows.append({list, choice, WithoutReference(item, {"item"_L1, m_number})});
             if (choice != item && other.isEmpty())
                 other = u"such as '%1' for '%2'"_s.arg(choice, item);
         }

@@ -120,6 +120,46 @@ TEST(FormSheet, TellsWhatItDoesNotHave)
     EXPECT_EQ(Table(*sheet, u"settings"_s).rows[0][1], u"_1st-visit"_s);
 }
 
+TEST(FormSheet, HasTheTextsThatTheHandheldShows)
+{
+    Project project = {.FormName = u"Visit"_s, .FormVersion = u"1\\0560"_s};
+    Add(project,
+        {.Title = uR"(x\54y)"_s,
+         .Question = uR"(Say "yes"\\no)"_s,
+         .Type = u"Pulldown List"_s,
+         .ColumnName = u"A\\102"_s},
+        {uR"(5\42 pipe)"_s, u"a,b"_s, u""_s, u"As it is"_s});
+    Add(project, {.Title = u"Plain \"title\""_s,
+                  .Question = uR"(One "line"\nand another)"_s,
+                  .Type = u"Text"_s,
+                  .ColumnName = u"B"_s});
+    const auto sheet = MakeFormSheet(project);
+    ASSERT_TRUE(sheet);
+    const auto &survey = Table(*sheet, u"survey"_s).rows;
+    EXPECT_EQ(survey[0][1], u"AB"_s);
+    EXPECT_EQ(survey[0][2], uR"(Say "yes"\no)"_s);
+    EXPECT_EQ(survey[0][3], u"x,y"_s);
+    EXPECT_EQ(survey[1][2], u"One \"line\"\nand another"_s);
+    EXPECT_EQ(survey[1][3], u"Plain \"title\""_s);
+    QStringList labels;
+    for (const QStringList &row : Table(*sheet, u"choices"_s).rows)
+        labels += row[2];
+    EXPECT_EQ(labels, (QStringList{u"5\" pipe"_s, u"a"_s, u"b"_s, u""_s, u"As it is"_s}));
+    EXPECT_EQ(Table(*sheet, u"settings"_s).rows[0][2], u"1.0"_s);
+    QStringList told;
+    for (const SheetLoss &loss : sheet->losses)
+        if (loss.code == "text-changed"_L1 && !loss.changes)
+            told += loss.text;
+    const QString instead = u" in the sheet, as on the handheld, instead of "_s;
+    EXPECT_EQ(told, (QStringList{uR"(The item of question 1 is '5" pipe')"_s + instead +
+                                     uR"('5\42 pipe'.)"_s,
+                                 u"The item of question 1 is 'a', 'b'"_s + instead + u"'a,b'."_s,
+                                 uR"(The question text of question 1 is 'Say "yes"\no')"_s +
+                                     instead + uR"('Say "yes"\\no'.)"_s,
+                                 u"The title of question 1 is 'x,y'"_s + instead + uR"('x\54y'.)"_s,
+                                 u"The form version is '1.0'"_s + instead + uR"('1\0560'.)"_s}));
+}
+
 TEST(FormSheet, HasNoReferenceInAnyCell)
 {
     Project project = {.FormName = u"a${b}"_s};
@@ -146,6 +186,8 @@ TEST(FormSheet, IsRefusedWhereAFormToolWouldRefuseIt)
     Add(noItems, {.Type = u"Text"_s, .ColumnName = u"a"_s});
     Add(noItems, {.Type = u"Checkboxes"_s, .ColumnName = u"b"_s});
     EXPECT_EQ(MakeFormSheet(noItems).error().text, u"question 2 has no items"_s);
+    noItems.source.ReplaceItems(noItems.source.Questions().Rows().last().Id, {u""_s});
+    EXPECT_EQ(MakeFormSheet(noItems).error().text, u"question 2 has no items"_s) << "none arrives";
 }
 
 TEST(SheetNames, AreValidAndUniqueWhateverTheyAreMadeOf)
