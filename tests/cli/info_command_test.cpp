@@ -67,6 +67,20 @@ TEST_F(InfoCommand, TellsProgramsAllTextsOfTheQuestions)
     EXPECT_EQ(Objects()[0][u"questionList"_s].toArray(), ofProject);
 }
 
+TEST_F(InfoCommand, TellsTitlesAsTheFileHasThemAndQuestionsAsAProjectHasThem)
+{
+    const QString project = InFolder(u"a.vmp"_s), database = InFolder(u"a.prc"_s);
+    WriteBytes(project,
+               BytesOf(DataFile(u"projects/Nestbox.vmp"_s)).replace("[Species]", R"([x\54\42y])"));
+    EXPECT_EQ(Run({u"create"_s, u"-o"_s, database, project}), 0) << Err().toStdString();
+    EXPECT_EQ(Run({u"info"_s, u"--json"_s, project, database}), 0);
+    const QJsonObject ofProject = Objects()[0], ofDatabase = Objects()[1];
+    EXPECT_EQ(ofProject[u"titles"_s][1], uR"(x\54\42y)"_s);
+    EXPECT_EQ(ofProject[u"questionList"_s][1][u"title"_s], uR"(x\54\42y)"_s);
+    EXPECT_EQ(ofDatabase[u"titles"_s][1], u"x,\"y"_s);
+    EXPECT_EQ(ofDatabase[u"questionList"_s][1][u"title"_s].toString(), uR"(x,\42y)"_s);
+}
+
 TEST_F(InfoCommand, TellsOfSeveralFilesOneAfterTheOther)
 {
     const QString one = DataFile(u"palm/text.prc"_s), none = InFolder(u"none.vmp"_s);
