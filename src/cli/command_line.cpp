@@ -1,6 +1,7 @@
 #include "cli/command_line.h"
 
-#include "cli/near_miss.h"
+#include "cli/option_words.h"
+#include "cli/word_hints.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -12,52 +13,6 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-bool IsOption(const QString &word)
-{
-    return word.startsWith(u'-') && word.size() > 1;
-}
-
-const OptionRow *RowOfLetter(QChar letter)
-{
-    const auto found = std::ranges::find_if(OptionRows(), [letter](const OptionRow &row) {
-        return !row.letter.isEmpty() && letter == row.letter.front();
-    });
-    return found == OptionRows().end() ? nullptr : &*found;
-}
-
-/// The letters of a word such as "-qo"; what follows one that takes a value is that.
-QStringView LettersOf(QStringView word)
-{
-    if (!IsOption(word.toString()) || word.startsWith("--"_L1))
-        return {};
-    const QStringView letters = word.sliced(1);
-    for (qsizetype i = 0; i < letters.size(); ++i)
-        if (const OptionRow *row = RowOfLetter(letters[i]); !row || !row->valueName.isEmpty())
-            return letters.first(row ? i + 1 : i);
-    return letters;
-}
-
-bool Asks(const QString &word, const OptionRow &row)
-{
-    return word == "--"_L1 + row.name ||
-           (!row.letter.isEmpty() && LettersOf(word).contains(row.letter));
-}
-
-/// Whether the next word belongs to this one.
-bool TakesNext(const QString &word)
-{
-    return std::ranges::any_of(OptionRows(), [&](const OptionRow &row) {
-        return !row.valueName.isEmpty() && Asks(word, row) &&
-               (word.startsWith("--"_L1) || word.endsWith(row.letter));
-    });
-}
-
-bool LooksLikeAName(const QString &word)
-{
-    return word.endsWith(".vmp"_L1, Qt::CaseInsensitive) ||
-           word.endsWith(".prc"_L1, Qt::CaseInsensitive) || QFileInfo::exists(word);
-}
-
 /// Without a description: --help is made from the rows.
 QCommandLineOption ParserOption(const OptionRow &row)
 {
@@ -65,19 +20,6 @@ QCommandLineOption ParserOption(const OptionRow &row)
     if (!row.letter.isEmpty())
         names.prepend(row.letter);
     return {names, {}, row.valueName};
-}
-
-// What helps somebody whose words are not understood, to stand behind what is wrong with them.
-
-QString HintOfNames(const QStringList &words)
-{
-    for (const QString &word : words) {
-        if (word == "--"_L1)
-            break;
-        if (IsOption(word) && LooksLikeAName(word))
-            return u" If '%1' is a name, put '--' before it."_s.arg(word);
-    }
-    return {};
 }
 
 QString HintFor(const QStringList &words, const QCommandLineParser &parser, Options taken)
@@ -89,9 +31,37 @@ QString HintFor(const QStringList &words, const QCommandLineParser &parser, Opti
         if (taken.testFlag(row.option))
             names += row.name;
     for (const QString &unknown : parser.unknownOptionNames())
-        if (const QString meant = NearMiss(unknown, names); !meant.isEmpty())
-            return u" Did you mean '--%1'?"_s.arg(meant);
+        if (QString hint = HintOfOption(unknown, names); !hint.isEmpty())
+            return hint;
     return {};
+}
+
+/// The word of options and a value that is the name of a file, too; empty = there is none.
+QString AmbiguousWord(const QStringList &words)
+{
+    for (const qsizetype place : PlacesOfWords(words)) {
+        const QString &word = words[place];
+        const qsizetype letters = LettersOf(word).size();
+        if (letters > 0 && word.size() > 1 + letters && QFileInfo::exists(word))
+            return word;
+    }
+    return {};
+}
+
+/// An option as it is most shortly typed.
+QString Typed(const OptionRow &row)
+{
+    return row.letter.isEmpty() ? "--"_L1 + row.name : "-"_L1 + row.letter;
+}
+
+/// The value of an option that is given, as commands use it.
+Result<QString> ValueOf(const OptionRow &row, const QCommandLineParser &parser)
+{
+    const QStringList values = parser.values(row.name);
+    if (values.size() > 1)
+        return Error{u"%1 is given more than once."_s.arg(Typed(row))};
+    const QString value = values.value(0);
+    return row.check ? row.check(value) : value;
 }
 
 Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape,
@@ -111,29 +81,6 @@ Result<CommandLine> Checked(const CommandLine &line, const CommandShape &shape,
 
 } // namespace
 
-qsizetype CommandAt(const QStringList &words)
-{
-    for (qsizetype i = 0; i < words.size() && words[i] != "--"_L1; ++i) {
-        if (!IsOption(words[i]))
-            return i;
-        if (TakesNext(words[i]))
-            ++i;
-    }
-    return -1;
-}
-
-bool AsksFor(const QStringList &words, Option option)
-{
-    const auto row = std::ranges::find(OptionRows(), option, &OptionRow::option);
-    for (qsizetype i = 0; i < words.size() && words[i] != "--"_L1; ++i) {
-        if (Asks(words[i], *row))
-            return true;
-        if (TakesNext(words[i]))
-            ++i;
-    }
-    return false;
-}
-
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape)
 {
     const Options taken = shape.options | everywhere;
@@ -145,15 +92,19 @@ Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShap
     if (!parser.parse(QStringList{u"vellumo"_s} + words))
         return Error{parser.errorText() + HintFor(words, parser, taken)};
 
+    // "-order.vmp" would be an output of the name "rder.vmp".
+    if (const QString word = AmbiguousWord(words); !word.isEmpty())
+        return Error{u"'%1' is a file, and would be taken for options."_s.arg(word) +
+                     HintOfNames({word})};
+
     CommandLine line = {.inputs = parser.positionalArguments()};
     for (const OptionRow &row : OptionRows()) {
         if (!taken.testFlag(row.option) || !parser.isSet(row.name))
             continue;
-        const QString value = parser.value(row.name);
-        const Result<QString> checked = row.check ? row.check(value) : value;
-        if (!checked)
-            return checked.error();
-        line.options.insert(row.option, *checked);
+        const Result<QString> value = ValueOf(row, parser);
+        if (!value)
+            return value.error();
+        line.options.insert(row.option, *value);
     }
     return Checked(line, shape, words);
 }

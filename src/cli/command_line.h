@@ -29,14 +29,6 @@ struct CommandLine {
     int TimeoutSeconds() const { return Value(Option::Timeout, QStringLiteral("60")).toInt(); }
 };
 
-/// Where in the words of the whole line the command's name stands: the first that is no option and
-/// no option's value. None stands after "--"; then, and where there is none at all, it is -1.
-qsizetype CommandAt(const QStringList &words);
-
-/// Whether an option stands among the words and is no option's value, whatever else is wrong with
-/// them.
-bool AsksFor(const QStringList &words, Option option);
-
 /// Reads the words but the command's name. Everything after "--" is an input.
 Result<CommandLine> ParseCommandLine(const QStringList &words, const CommandShape &shape);
 

@@ -2,6 +2,8 @@
 
 #include "cli/commands.h"
 #include "cli/near_miss.h"
+#include "cli/option_words.h"
+#include "cli/word_hints.h"
 
 #include <algorithm>
 
@@ -62,7 +64,7 @@ Exit Run(QStringList words, const Console &console, const Outcome &typed)
     if (HasOption(words, u"--help"_s) || HasOption(words, u"-h"_s))
         return Help(at < 0 ? QStringList() : QStringList{name}, console);
     if (at < 0)
-        return RefuseUse(console, u"Which command?"_s);
+        return RefuseUse(console, u"Which command?"_s + HintWithoutCommand(words));
     const Command *command = CommandNamed(name);
     if (!command)
         return RefuseCommand(console, name);

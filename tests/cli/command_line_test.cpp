@@ -1,5 +1,6 @@
 #include "cli/command_line.h"
-
+#include "cli/option_words.h"
+#include "support/files.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
@@ -77,6 +78,11 @@ TEST(CommandLine, RefusesWhatMakesNoSense)
         {{u"a"_s, u"--timeout"_s, u"0"_s}, seconds},
         {{u"a"_s, u"--timeout"_s, u"86401"_s}, seconds},
         {{u"a"_s, u"--timeout"_s, u"soon"_s}, seconds},
+        {{u"a"_s, u"-o"_s, u"b"_s, u"--output=c"_s}, u"-o is given more than once."_s},
+        {{u"a"_s, u"-ob"_s, u"-ob"_s}, u"-o is given more than once."_s},
+        {{u"a"_s, u"--timeout"_s, u"5"_s, u"--timeout"_s, u"5"_s},
+         u"--timeout is given more than once."_s},
+        {{u"a"_s, u"--json"_s, u"--json"_s}, u"taken"_s},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.words.join(u' ').toStdString());
@@ -120,10 +126,29 @@ TEST(CommandLine, TakesAWordThatBeginsLikeAnOutputForTheNameThatItMayBe)
     EXPECT_EQ(RefusalOf({u"-order.vmp"_s, u"a"_s}), u"taken"_s);
 }
 
+TEST(CommandLine, RefusesAWordThatIsAFileWhereItWouldBeOptions)
+{
+    const QString before = QDir::currentPath();
+    QTemporaryDir folder;
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    ASSERT_TRUE(WriteBytes(u"-order.vmp"_s, "") && WriteBytes(u"-qoo"_s, ""));
+    const QString refusal = u"'%1' is a file, and would be taken for options. "
+                            "If '%1' is a name, put '--' before it."_s;
+    EXPECT_EQ(RefusalOf({u"-order.vmp"_s, u"a"_s}), refusal.arg(u"-order.vmp"_s));
+    EXPECT_EQ(RefusalOf({u"a"_s, u"-order.vmp"_s}), refusal.arg(u"-order.vmp"_s));
+    EXPECT_EQ(RefusalOf({u"a"_s, u"-qoo"_s}), refusal.arg(u"-qoo"_s));
+    EXPECT_EQ(RefusalOf({u"a"_s, u"-orderly.vmp"_s}), u"taken"_s) << "no file";
+    EXPECT_EQ(RefusalOf({u"a"_s, u"-o"_s, u"-order.vmp"_s}), u"taken"_s) << "a value";
+    EXPECT_EQ(RefusalOf({u"--"_s, u"a"_s, u"-order.vmp"_s}), u"taken"_s);
+    QDir::setCurrent(before);
+}
+
 TEST(CommandLine, SuggestsOnlyWhatTheCommandTakes)
 {
     const CommandShape nothing = {.whichInput = "Which one?"_L1};
     EXPECT_EQ(RefusalOf({u"a"_s, u"--strict"_s}, nothing), u"Unknown option 'strict'."_s);
     EXPECT_EQ(RefusalOf({u"a"_s, u"--jsn"_s}, nothing),
               u"Unknown option 'jsn'. Did you mean '--json'?"_s);
+    EXPECT_EQ(RefusalOf({u"a"_s, u"-V"_s}, nothing),
+              u"Unknown option 'V'. Did you mean '--version'?"_s);
 }

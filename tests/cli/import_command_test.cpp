@@ -17,8 +17,13 @@ protected:
 
     int Import(const QByteArray &sheet, const QStringList &words = {})
     {
+        return ImportTo(Output(), sheet, words);
+    }
+
+    int ImportTo(const QString &output, const QByteArray &sheet, const QStringList &words = {})
+    {
         WriteBytes(Sheet(), sheet);
-        return Run(QStringList{u"import"_s, Sheet(), u"-o"_s, Output()} + words);
+        return Run(QStringList{u"import"_s, Sheet(), u"-o"_s, output} + words);
     }
 
     QStringList Names(const QString &path) const
@@ -86,7 +91,7 @@ TEST_F(ImportCommand, LeavesOutWhatIsRefusedWhereThatIsAskedFor)
 TEST_F(ImportCommand, AppendsToAProject)
 {
     const QString project = InFolder(u"given.vmp"_s);
-    ASSERT_EQ(Import(heading + "What?,Text,a,\n", {u"-o"_s, project}), 0);
+    ASSERT_EQ(ImportTo(project, heading + "What?,Text,a,\n"), 0);
     WriteBytes(Sheet(), heading + "What?,Text,a,\nWhy?,Text,b,\n");
     EXPECT_EQ(Run({u"import"_s, Sheet(), u"--into"_s, project, u"-o"_s, Output()}), 0);
     EXPECT_EQ(Names(project), QStringList{u"a"_s});
@@ -151,7 +156,7 @@ TEST_F(ImportCommand, TellsWhereTheDesignerHasWhatIsRefused)
                                      u"3: step 0, question 0"_s, u"6: step 2, question 2"_s,
                                      u"8: step 2, question 3"_s}));
     const QString project = InFolder(u"given.vmp"_s);
-    ASSERT_EQ(Import(heading + "What?,Text,a,\n", {u"-o"_s, project}), 0);
+    ASSERT_EQ(ImportTo(project, heading + "What?,Text,a,\n"), 0);
     EXPECT_EQ(Import(heading + "Why?,Essay,b,\n", {u"--json"_s, u"--into"_s, project}), 1);
     EXPECT_EQ(places(), QStringList{u"2: step 2, question 2"_s}) << "behind those that are there";
 }
@@ -195,7 +200,7 @@ TEST_F(ImportCommand, RefusesCellsThatAProjectCannotHold)
 
 TEST_F(ImportCommand, RefusesWhatCannotBeWritten)
 {
-    EXPECT_EQ(Import(heading, {u"-o"_s, InFolder(u"no/such/folder"_s)}), 5);
+    EXPECT_EQ(ImportTo(InFolder(u"no/such/folder"_s), heading), 5);
 }
 
 TEST_F(ImportCommand, RefusesWordsThatMakeNoSense)

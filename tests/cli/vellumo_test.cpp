@@ -52,6 +52,11 @@ TEST_F(Vellumo, SuggestsWhatMayBeMeant)
         {{u"help"_s, u"creat"_s}, u"There is no command 'creat'. Did you mean 'create'?"_s},
         {{u"make"_s}, u"There is no command 'make'."_s},
         {{u"create"_s, u"--giud"_s, u"x"_s}, u"Unknown option 'giud'. Did you mean '--guid'?"_s},
+        {{u"-dash.vmp"_s}, u"Which command? If '-dash.vmp' is a name, put '--' before it."_s},
+        {{u"--versio"_s}, u"Which command? Did you mean '--version'?"_s},
+        {{u"-V"_s}, u"Which command? Did you mean '--version'?"_s},
+        {{u"-q"_s, u"--jsn"_s}, u"Which command? Did you mean '--json'?"_s},
+        {{u"-q"_s, u"-o"_s, u"-V"_s}, u"Which command?"_s},
     };
     for (const auto &row : rows) {
         EXPECT_EQ(Run(row.words), 2);
