@@ -20,4 +20,10 @@ void Tell(const Ending &ending, const QString &inputName, const Console &console
                   .more = more});
 }
 
+void TellOfFile(Ending ending, const QString &file, const Console &console)
+{
+    ending.made = file;
+    Tell(ending, {}, console);
+}
+
 } // namespace vellumo

@@ -26,4 +26,7 @@ struct Ending {
 /// messages have it; it is empty where several inputs had one output.
 void Tell(const Ending &ending, const QString &inputName, const Console &console);
 
+/// Tells of the file that was, or was to be, made of several inputs or of none.
+void TellOfFile(Ending ending, const QString &file, const Console &console);
+
 } // namespace vellumo

@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
+constexpr auto drawn = "drawn"_L1;
+
 /// The bytes of the database in an input, or of that which is made of the project in it.
 CheckedDatabase DatabaseIn(const QString &input, const CommandLine &line, const Console &console)
 {
@@ -40,8 +42,19 @@ Ending AppendScreens(QList<DatabaseScreens> &all, const QString &input, const Co
         return Refuse(console, Exit::Unreadable, {database.error().text, InputName(input)});
     all.append(ScreensOf(*database));
     ComplainOf(all.last().findings, InputName(input), console);
-    return {all.last().findings.isEmpty() ? Exit::Fine : Exit::NotPassed, "drawn"_L1,
+    return {all.last().findings.isEmpty() ? Exit::Fine : Exit::NotPassed, drawn,
             u"Its screens were drawn."_s};
+}
+
+/// What became of each input; that is known only when the page of all is written.
+void TellOf(const QStringList &inputs, QList<Ending> endings, bool written, const Console &console)
+{
+    for (qsizetype i = 0; i < inputs.size(); ++i) {
+        if (!written && endings[i].code == drawn)
+            endings[i] = {endings[i].exit, "not-drawn"_L1,
+                          u"Its screens could be drawn, and nothing was written."_s};
+        Tell(endings[i], InputName(inputs[i]), console);
+    }
 }
 
 } // namespace
@@ -52,14 +65,16 @@ Exit DrawScreens(const CommandLine &line, const Console &console)
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
     QList<DatabaseScreens> all;
-    const Exit drawn = ForEachInput(line, console, [&](const QString &input) {
-        return AppendScreens(all, input, line, console);
+    QList<Ending> endings;
+    TryEachInput(line, console, [&](const QString &input) {
+        endings.append(AppendScreens(all, input, line, console));
     });
-    if (all.isEmpty())
-        return drawn;
-    const Ending ending = Deliver(target, ScreensPage(all), "screens"_L1, console);
-    Tell(ending, {}, console);
-    return std::max(drawn, ending.exit);
+    const Exit worst = std::ranges::max(endings, {}, &Ending::exit).exit;
+    const Ending page =
+        all.isEmpty() ? Ending(worst) : Deliver(target, ScreensPage(all), "screens"_L1, console);
+    TellOf(line.inputs, endings, page.code == "screens"_L1, console);
+    TellOfFile(page, target, console);
+    return std::max(worst, page.exit);
 }
 
 } // namespace vellumo

@@ -114,6 +114,26 @@ TEST_F(ScreensCommand, TellsProgramsInJson)
     EXPECT_EQ(Objects()[0][u"code"_s], u"resource-damaged"_s);
     EXPECT_EQ(Objects().last()[u"code"_s], u"screens"_s);
     EXPECT_EQ(Objects().last()[u"file"_s], page);
+    EXPECT_EQ(Objects().at(Objects().size() - 2)[u"code"_s], u"drawn"_s);
     EXPECT_EQ(Run({u"screens"_s, tenTypes, u"--json"_s}), 2)
         << "a page and an object would get mixed";
+}
+
+TEST_F(ScreensCommand, TellsWhatWasDrawnOnlyWhenThePageIsWritten)
+{
+    const QString page = InFolder(u"none/page.html"_s), none = InFolder(u"none.prc"_s);
+    EXPECT_EQ(Run({u"screens"_s, tenTypes, none, u"-o"_s, page, u"--json"_s}), 5);
+    ASSERT_EQ(Objects().size(), 5) << out.str();
+    EXPECT_EQ(Objects()[0][u"code"_s], u"unreadable"_s);
+    EXPECT_EQ(Objects()[1][u"code"_s], u"not-written"_s);
+    EXPECT_EQ(Objects()[2][u"code"_s], u"not-drawn"_s);
+    EXPECT_EQ(Objects()[2][u"input"_s], tenTypes);
+    EXPECT_EQ(Objects()[2][u"exit"_s], 0);
+    EXPECT_EQ(Objects()[3][u"code"_s], u"failed"_s);
+    EXPECT_EQ(Objects()[3][u"input"_s], none);
+    EXPECT_EQ(Objects()[4], (QJsonObject{{u"kind"_s, u"result"_s},
+                                         {u"code"_s, u"failed"_s},
+                                         {u"file"_s, page},
+                                         {u"exit"_s, 5},
+                                         {u"message"_s, u"It failed."_s}}));
 }
