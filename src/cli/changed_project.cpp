@@ -35,13 +35,14 @@ Ending DeliverProject(const Project &project, const QString &inputName, const QS
     return Deliver(target, *bytes, code, console);
 }
 
-Ending Said(const Ending &ending, const QString &text, const QString &target,
-            const Console &console)
+Ending Said(const Ending &ending, const QString &text, const QJsonObject &more,
+            const QString &target, const Console &console)
 {
     if (ending.exit != Exit::Fine)
         return ending;
     Ending said = ending;
     said.text = text;
+    said.more = more;
     if (target == "-"_L1)
         console.Complain({.kind = "result"_L1, .code = ending.code, .text = text});
     else

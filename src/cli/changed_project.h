@@ -18,9 +18,9 @@ Exit CheckTarget(const QString &given, const CommandLine &line, const Console &c
 Ending DeliverProject(const Project &project, const QString &inputName, const QString &target,
                       QLatin1StringView code, const Console &console);
 
-/// The ending, if it is a good one, with a sentence of what became of the project. A person is told
-/// beside it where it went to standard output.
-Ending Said(const Ending &ending, const QString &text, const QString &target,
-            const Console &console);
+/// The ending, if it is a good one, with a sentence of what became of the project, and what else a
+/// program is told of that. A person is told beside it where it went to standard output.
+Ending Said(const Ending &ending, const QString &text, const QJsonObject &more,
+            const QString &target, const Console &console);
 
 } // namespace vellumo

@@ -81,8 +81,7 @@ private:
 Exit TellColumns(const CommandLine &line, const Console &console)
 {
     if (line.Has(Option::Csv) + line.Has(Option::Markdown) + line.Has(Option::Json) > 1)
-        return Refuse(console, Exit::WrongUse,
-                      {u"Only one of --csv, --markdown and --json can be had."_s, u"vellumo"_s});
+        return RefuseUse(console, u"Only one of --csv, --markdown and --json can be had."_s);
     Tables tables(line, console);
     return ForEachInput(line, console, [&](const QString &input) -> Ending {
         const Result<Project> project = ReadProjectInput(input, console);

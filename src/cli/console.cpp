@@ -83,4 +83,9 @@ Exit Refuse(const Console &console, Exit exit, const Error &error)
     return exit;
 }
 
+Exit RefuseUse(const Console &console, const QString &reason)
+{
+    return Refuse(console, Exit::WrongUse, {reason, u"vellumo"_s});
+}
+
 } // namespace vellumo

@@ -40,4 +40,7 @@ struct Console {
 /// Complains of an error and passes the exit on. The exit gives the notice its code.
 Exit Refuse(const Console &console, Exit exit, const Error &error);
 
+/// Complains that the command line makes no sense, whatever the inputs are: nothing is tried.
+Exit RefuseUse(const Console &console, const QString &reason);
+
 } // namespace vellumo

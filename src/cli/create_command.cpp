@@ -64,7 +64,7 @@ CheckedDatabase MakeOne(const QString &input, const CommandLine &line, const Con
         return {Refuse(console, Exit::Unreadable, project.error())};
     const auto reproduction = ReproductionOf(bytes, line);
     if (!reproduction)
-        return {Refuse(console, Exit::WrongUse, {reproduction.error().text, u"vellumo"_s})};
+        return {RefuseUse(console, reproduction.error().text)};
     if (!*reproduction)
         return MakeCheckedDatabase(*project, InputName(input), line, console);
 
@@ -86,8 +86,7 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
     if (console.json && output == "-"_L1)
         return RefuseMixture(console);
     if (toFile && line.inputs.size() > 1)
-        return Refuse(console, Exit::WrongUse,
-                      {u"-o names one file for several projects; name a folder."_s, u"vellumo"_s});
+        return RefuseUse(console, u"-o names one file for several projects; name a folder."_s);
     Result<QString> folder = QString();
     if (!toFile && !(folder = DatabaseFolder(output)))
         return Refuse(console, Exit::NotWritten, folder.error());

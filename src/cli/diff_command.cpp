@@ -126,8 +126,7 @@ Exit TellGit(const QStringList &names, const Console &console)
         return Exit::Fine;
     }
     if (names.size() != 7 && names.size() != 9)
-        return Refuse(console, Exit::WrongUse,
-                      {u"Git gives an external diff one name, seven or nine."_s, u"vellumo"_s});
+        return RefuseUse(console, u"Git gives an external diff one name, seven or nine."_s);
     const Sides sides = {GitSide(names[1], "a/"_L1, names[0]),
                          GitSide(names[4], "b/"_L1, names.value(7, names[0]))};
     const Result<Differences> differences = DifferencesOf(sides, console);
@@ -144,14 +143,11 @@ Exit TellDifferences(const CommandLine &line, const Console &console)
 {
     const QStringList &names = line.inputs;
     if (line.Has(Option::Git) && console.json)
-        return Refuse(console, Exit::WrongUse,
-                      {u"Git wants no objects: --git or --json."_s, u"vellumo"_s});
+        return RefuseUse(console, u"Git wants no objects: --git or --json."_s);
     if (line.Has(Option::Git))
         return TellGit(names, console);
     if (names.size() != 2)
-        return Refuse(
-            console, Exit::WrongUse,
-            {u"Differences are those of two projects: please name both."_s, u"vellumo"_s});
+        return RefuseUse(console, u"Differences are those of two projects: please name both."_s);
     const Sides sides = {{names[0], InputName(names[0])}, {names[1], InputName(names[1])}};
     const Ending ending = Compare(sides, console);
     Tell(ending, sides.after.name, console);

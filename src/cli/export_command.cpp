@@ -12,11 +12,9 @@ namespace vellumo {
 Exit ExportProject(const CommandLine &line, const Console &console)
 {
     if (line.Has(Option::Csv) == line.Has(Option::FormSheet))
-        return Refuse(console, Exit::WrongUse,
-                      {u"Export as what? Please say --csv or --xlsform."_s, u"vellumo"_s});
+        return RefuseUse(console, u"Export as what? Please say --csv or --xlsform."_s);
     if (line.Has(Option::FormSheet) && !line.Has(Option::Output))
-        return Refuse(console, Exit::WrongUse,
-                      {u"A workbook needs a file: -o FILE.xlsx."_s, u"vellumo"_s});
+        return RefuseUse(console, u"A workbook needs a file: -o FILE.xlsx."_s);
     const QString target = line.Value(Option::Output, u"-"_s);
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);

@@ -47,10 +47,10 @@ Ending Import(const QString &input, const QString &target, const CommandLine &li
         return Refuse(console, Exit::Unreadable, import.error());
     if (!MayWrite(import->refusals, RowsAre::RowsOfTable, InputName(input), line, console))
         return Exit::NotPassed;
-    Ending ending =
+    const Ending ending =
         DeliverProject(import->project, InputName(input), target, "imported"_L1, console);
-    ending.more = {{u"added"_s, import->added}, {u"leftOut"_s, import->leftOut}};
-    return Said(ending, Told(*import), target, console);
+    return Said(ending, Told(*import),
+                {{u"added"_s, import->added}, {u"leftOut"_s, import->leftOut}}, target, console);
 }
 
 } // namespace

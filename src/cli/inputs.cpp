@@ -63,7 +63,7 @@ bool RefusedAsSecond(const QString &first, const QString &second, const Console 
 {
     if (!IsStream(first) || !IsStream(second))
         return false;
-    Refuse(console, Exit::WrongUse, {u"Standard input, '-', can be read once only."_s});
+    RefuseUse(console, u"Standard input, '-', can be read once only."_s);
     return true;
 }
 

@@ -107,10 +107,9 @@ Ending SetItemsOf(const NumberedQuestion &question, Project &project, const Comm
     project.source.ReplaceItems(question.row.Id, items.Items());
 
     const QString input = line.inputs.first(), target = line.Value(Option::Output, input);
-    Ending ending = DeliverProject(project, InputName(input), target, "items"_L1, console);
-    ending.more = {{u"added"_s, count}};
+    const Ending ending = DeliverProject(project, InputName(input), target, "items"_L1, console);
     return Said(ending, count == 1 ? u"1 item was added."_s : u"%1 items were added."_s.arg(count),
-                target, console);
+                {{u"added"_s, count}}, target, console);
 }
 
 Ending SetItemsIn(const QString &input, const CommandLine &line, const Console &console)
@@ -136,7 +135,7 @@ Exit SetItems(const CommandLine &line, const Console &console)
 {
     const QString input = line.inputs.first();
     if (const QString objection = ObjectionTo(line); !objection.isEmpty())
-        return Refuse(console, Exit::WrongUse, {objection});
+        return RefuseUse(console, objection);
     if (RefusedAsSecond(input, line.Value(Option::From), console))
         return Exit::WrongUse;
     if (const Exit checked = CheckTarget(input, line, console); checked != Exit::Fine)

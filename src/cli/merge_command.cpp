@@ -79,8 +79,7 @@ Exit MergeProjects(const CommandLine &line, const Console &console)
     TryEachInput(line, console, [&](const QString &input) { merging.Take(input); });
     const Ending ending = merging.Write(target);
     merging.TellOf(line.inputs, ending.exit == Exit::Fine);
-    if (ending.exit == Exit::Fine)
-        Tell(ending, {}, console);
+    TellOfFile(ending, target, console);
     return ending.exit;
 }
 

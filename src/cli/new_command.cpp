@@ -44,7 +44,7 @@ Ending WriteNew(const QString &target, const CommandLine &line, const Console &c
 {
     const Result<QByteArray> bytes = NewProject(line);
     if (!bytes)
-        return Refuse(console, Exit::WrongUse, {bytes.error().text, u"vellumo"_s});
+        return RefuseUse(console, bytes.error().text);
     if (target != "-"_L1 && QFileInfo::exists(target) && !IsWrittenInto(target))
         return Refuse(console, Exit::NotWritten,
                       {u"There is something of this name, and it stays as it is."_s, target});
@@ -59,8 +59,8 @@ Exit WriteNewProject(const CommandLine &line, const Console &console)
     if (console.json && target == "-"_L1)
         return RefuseMixture(console);
     const Ending ending = WriteNew(target, line, console);
-    if (ending.exit == Exit::Fine)
-        Tell(ending, {}, console);
+    if (ending.exit != Exit::WrongUse) // with which nothing was tried
+        TellOfFile(ending, target, console);
     return ending.exit;
 }
 

@@ -29,8 +29,7 @@ Ending Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView c
 
 Exit RefuseMixture(const Console &console)
 {
-    return Refuse(console, Exit::WrongUse,
-                  {u"With --json the output needs a file of its own: -o FILE."_s});
+    return RefuseUse(console, u"With --json the output needs a file of its own: -o FILE."_s);
 }
 
 } // namespace vellumo

@@ -12,9 +12,10 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-Exit RefuseUse(const Console &console, const QString &reason)
+/// Refuses words that are not understood.
+Exit RefuseWords(const Console &console, const QString &reason)
 {
-    const Exit exit = Refuse(console, Exit::WrongUse, {reason, u"vellumo"_s});
+    const Exit exit = RefuseUse(console, reason);
     if (!console.json)
         console.Complain({.kind = "error"_L1, .code = {}, .text = u"Try 'vellumo --help'."_s});
     return exit;
@@ -31,7 +32,7 @@ Exit RefuseCommand(const Console &console, const QString &name)
 {
     const QString meant = NearMiss(name, CommandNames());
     const QString hint = meant.isEmpty() ? QString() : u" Did you mean '%1'?"_s.arg(meant);
-    return RefuseUse(console, u"There is no command '%1'."_s.arg(name) + hint);
+    return RefuseWords(console, u"There is no command '%1'."_s.arg(name) + hint);
 }
 
 /// Of one command where its name is among the words, of all where none is.
@@ -52,7 +53,7 @@ Exit Help(const QStringList &words, const Console &console)
 Exit Run(QStringList words, const Console &console, const Outcome &typed)
 {
     if (!typed)
-        return RefuseUse(console, typed.error().text);
+        return RefuseWords(console, typed.error().text);
     if (HasOption(words, u"--version"_s) && !HasOption(words, u"--help"_s)) {
         console.Write("vellumo " VELLUMO_VERSION "\n");
         return Exit::Fine;
@@ -64,13 +65,13 @@ Exit Run(QStringList words, const Console &console, const Outcome &typed)
     if (HasOption(words, u"--help"_s) || HasOption(words, u"-h"_s))
         return Help(at < 0 ? QStringList() : QStringList{name}, console);
     if (at < 0)
-        return RefuseUse(console, u"Which command?"_s + HintWithoutCommand(words));
+        return RefuseWords(console, u"Which command?"_s + HintWithoutCommand(words));
     const Command *command = CommandNamed(name);
     if (!command)
         return RefuseCommand(console, name);
     const Result<CommandLine> line = ParseCommandLine(words, command->shape);
     if (!line)
-        return RefuseUse(console, line.error().text);
+        return RefuseWords(console, line.error().text);
     return command->run(*line, console);
 }
 

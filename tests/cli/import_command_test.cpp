@@ -208,7 +208,7 @@ TEST_F(ImportCommand, RefusesWordsThatMakeNoSense)
     const std::pair<QStringList, QString> words[] = {
         {{u"export"_s, siteVisit}, u"vellumo: Export as what? Please say --csv or --xlsform.\n"_s},
         {{u"import"_s, u"-"_s, u"--into"_s, u"-"_s},
-         u"Standard input, '-', can be read once only.\n"_s},
+         u"vellumo: Standard input, '-', can be read once only.\n"_s},
         {{u"import"_s, u"-"_s, u"--into"_s, u"/dev/stdin"_s},
          u"/dev/stdin: What is no file cannot be rewritten in its place: -o FILE.\n"_s},
     };

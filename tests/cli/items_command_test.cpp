@@ -136,11 +136,11 @@ TEST_F(ItemsCommand, RefusesWhatMakesNoSense)
 {
     const std::pair<QStringList, QString> words[] = {
         {{Given(), u"--from"_s, List()},
-         u"Items of which question? Please name it with --question.\n"_s},
+         u"vellumo: Items of which question? Please name it with --question.\n"_s},
         {{Given(), u"--question"_s, u"2"_s},
-         u"Items from where? Please name a file with --from.\n"_s},
+         u"vellumo: Items from where? Please name a file with --from.\n"_s},
         {{u"-"_s, u"--question"_s, u"2"_s, u"--from"_s, u"-"_s},
-         u"Standard input, '-', can be read once only.\n"_s},
+         u"vellumo: Standard input, '-', can be read once only.\n"_s},
     };
     for (const auto &[line, reason] : words) {
         EXPECT_EQ(Run(QStringList{u"items"_s} + line), 2);

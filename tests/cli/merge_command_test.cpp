@@ -89,7 +89,7 @@ TEST_F(MergeCommand, TellsWhatWasTakenOnlyWhenAllIsWritten)
 {
     const QString missing = InFolder(u"missing.vmp"_s), target = InFolder(u"both.vmp"_s);
     EXPECT_EQ(Run({u"merge"_s, u"--json"_s, siteVisit, missing, waterPoint, u"-o"_s, target}), 3);
-    ASSERT_EQ(Objects().size(), 4) << out.str();
+    ASSERT_EQ(Objects().size(), 5) << out.str();
     EXPECT_EQ(Objects()[0][u"kind"_s], u"error"_s);
     const QStringList inputs = {siteVisit, missing, waterPoint};
     const QStringList codes = {u"not-taken"_s, u"failed"_s, u"not-taken"_s};
@@ -99,11 +99,16 @@ TEST_F(MergeCommand, TellsWhatWasTakenOnlyWhenAllIsWritten)
         EXPECT_EQ(Objects()[i + 1][u"code"_s], codes[i]);
         EXPECT_EQ(Objects()[i + 1][u"exit"_s], exits[i]);
     }
+    EXPECT_EQ(Objects()[4][u"code"_s], u"failed"_s);
+    EXPECT_EQ(Objects()[4][u"file"_s], target);
+    EXPECT_EQ(Objects()[4][u"exit"_s], 3);
     EXPECT_EQ(Run({u"merge"_s, u"--json"_s, siteVisit, waterPoint, u"-o"_s, m_folder.path()}), 5);
-    ASSERT_EQ(Objects().size(), 3) << out.str();
+    ASSERT_EQ(Objects().size(), 4) << out.str();
     EXPECT_EQ(Objects()[0][u"code"_s], u"not-written"_s);
     EXPECT_EQ(Objects()[1][u"code"_s], u"not-taken"_s);
     EXPECT_EQ(Objects()[2][u"code"_s], u"not-taken"_s);
+    EXPECT_EQ(Objects()[3][u"code"_s], u"failed"_s);
+    EXPECT_EQ(Objects()[3][u"file"_s], m_folder.path());
 }
 
 TEST_F(MergeCommand, RefusesWhatMakesNoSense)

@@ -109,6 +109,6 @@ TEST_F(NewCommand, TellsProgramsInJson)
     EXPECT_EQ(Objects()[0][u"code"_s], u"new"_s);
     EXPECT_EQ(Objects()[0][u"file"_s], target);
     EXPECT_EQ(Run({u"new"_s, u"Mine"_s, u"--json"_s, u"-o"_s, target}), 5);
-    ASSERT_EQ(Objects().size(), 1);
+    ASSERT_EQ(Objects().size(), 2);
     EXPECT_EQ(Objects()[0][u"code"_s], u"not-written"_s);
 }
