@@ -99,6 +99,9 @@ Exit CreateDatabases(const CommandLine &line, const Console &console)
         if (output == "-"_L1)
             return Deliver(output, database.bytes, "created"_L1, console);
         const QString target = toFile ? output : QDir(*folder).filePath(database.fileName);
+        if (const Exit checked = CheckIsNoInput(target, line.inputs, console);
+            checked != Exit::Fine)
+            return checked;
         return PutInPlace(database.bytes, target, InputName(input), console, made);
     });
 }

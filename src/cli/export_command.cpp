@@ -16,8 +16,8 @@ Exit ExportProject(const CommandLine &line, const Console &console)
     if (line.Has(Option::FormSheet) && !line.Has(Option::Output))
         return RefuseUse(console, u"A workbook needs a file: -o FILE.xlsx."_s);
     const QString target = line.Value(Option::Output, u"-"_s);
-    if (console.json && target == "-"_L1)
-        return RefuseMixture(console);
+    if (const Exit checked = CheckOutput(target, line.inputs, console); checked != Exit::Fine)
+        return checked;
     return ForInput(line, console, [&](const QString &input) -> Ending {
         if (line.Has(Option::FormSheet))
             return ExportFormSheet(input, target, line, console);

@@ -2,6 +2,7 @@
 
 #include "cli/changed_project.h"
 #include "cli/inputs.h"
+#include "cli/outputs.h"
 #include "cli/refusals.h"
 #include "exchange/csv_text.h"
 #include "exchange/sheet_import.h"
@@ -58,13 +59,15 @@ Ending Import(const QString &input, const QString &target, const CommandLine &li
 Exit ImportProject(const CommandLine &line, const Console &console)
 {
     const QString given = line.Value(Option::Into, u"-"_s);
+    const QString target = line.Value(Option::Output, given);
     if (line.Has(Option::Into) && RefusedAsSecond(line.inputs.first(), given, console))
         return Exit::WrongUse;
     if (const Exit checked = CheckTarget(given, line, console); checked != Exit::Fine)
         return checked;
-    return ForInput(line, console, [&](const QString &input) {
-        return Import(input, line.Value(Option::Output, given), line, console);
-    });
+    if (const Exit checked = CheckIsNoInput(target, line.inputs, console); checked != Exit::Fine)
+        return checked;
+    return ForInput(line, console,
+                    [&](const QString &input) { return Import(input, target, line, console); });
 }
 
 } // namespace vellumo

@@ -2,6 +2,7 @@
 
 #include "cli/changed_project.h"
 #include "cli/inputs.h"
+#include "cli/outputs.h"
 #include "cli/refusals.h"
 #include "editing/wizard_rules.h"
 #include "exchange/csv_text.h"
@@ -139,6 +140,10 @@ Exit SetItems(const CommandLine &line, const Console &console)
     if (RefusedAsSecond(input, line.Value(Option::From), console))
         return Exit::WrongUse;
     if (const Exit checked = CheckTarget(input, line, console); checked != Exit::Fine)
+        return checked;
+    const QString target = line.Value(Option::Output, input);
+    if (const Exit checked = CheckIsNoInput(target, {line.Value(Option::From)}, console);
+        checked != Exit::Fine)
         return checked;
     return ForInput(line, console,
                     [&](const QString &each) { return SetItemsIn(each, line, console); });

@@ -2,6 +2,8 @@
 
 #include "platform/files.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
@@ -30,6 +32,23 @@ Ending Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView c
 Exit RefuseMixture(const Console &console)
 {
     return RefuseUse(console, u"With --json the output needs a file of its own: -o FILE."_s);
+}
+
+Exit CheckIsNoInput(const QString &output, const QStringList &inputs, const Console &console)
+{
+    const auto input = std::ranges::find_if(
+        inputs, [&output](const QString &name) { return IsSameFile(output, name); });
+    if (output == "-"_L1 || input == inputs.end() || *input == "-"_L1)
+        return Exit::Fine;
+    return RefuseUse(console,
+                     u"The output would take the place of the input '%1'."_s.arg(Visible(*input)));
+}
+
+Exit CheckOutput(const QString &output, const QStringList &inputs, const Console &console)
+{
+    if (console.json && output == "-"_L1)
+        return RefuseMixture(console);
+    return CheckIsNoInput(output, inputs, console);
 }
 
 } // namespace vellumo

@@ -12,4 +12,11 @@ Ending Deliver(const QString &name, const QByteArray &bytes, QLatin1StringView c
 /// Refuses to mix an output with objects for a program on standard output.
 Exit RefuseMixture(const Console &console);
 
+/// Refuses an output that would take the place of an input which is of another kind, whatever names
+/// the two have.
+Exit CheckIsNoInput(const QString &output, const QStringList &inputs, const Console &console);
+
+/// Both.
+Exit CheckOutput(const QString &output, const QStringList &inputs, const Console &console);
+
 } // namespace vellumo

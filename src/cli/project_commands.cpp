@@ -38,8 +38,8 @@ Ending Rewrite(const QString &input, const QString &target, const Console &conso
 Exit WriteScript(const CommandLine &line, const Console &console)
 {
     const QString target = line.Value(Option::Output, u"-"_s);
-    if (console.json && target == "-"_L1)
-        return RefuseMixture(console);
+    if (const Exit checked = CheckOutput(target, line.inputs, console); checked != Exit::Fine)
+        return checked;
     return ForInput(line, console, [&](const QString &input) {
         return WriteScriptOf(input, target, line, console);
     });

@@ -111,8 +111,8 @@ Ending RecoverInput(const QString &input, const QString &target, const CommandLi
 Exit RecoverDatabase(const CommandLine &line, const Console &console)
 {
     const QString target = line.Value(Option::Output, u"-"_s);
-    if (console.json && target == "-"_L1)
-        return RefuseMixture(console);
+    if (const Exit checked = CheckOutput(target, line.inputs, console); checked != Exit::Fine)
+        return checked;
     return ForInput(line, console, [&](const QString &input) {
         return RecoverInput(input, target, line, console);
     });

@@ -62,8 +62,8 @@ void TellOf(const QStringList &inputs, QList<Ending> endings, bool written, cons
 Exit DrawScreens(const CommandLine &line, const Console &console)
 {
     const QString target = line.Value(Option::Output, u"-"_s);
-    if (console.json && target == "-"_L1)
-        return RefuseMixture(console);
+    if (const Exit checked = CheckOutput(target, line.inputs, console); checked != Exit::Fine)
+        return checked;
     QList<DatabaseScreens> all;
     QList<Ending> endings;
     TryEachInput(line, console, [&](const QString &input) {

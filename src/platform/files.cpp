@@ -40,4 +40,12 @@ Outcome RemoveFile(const QString &path)
     return done;
 }
 
+bool IsSameFile(const QString &one, const QString &other)
+{
+    std::error_code code; // one that does not exist is not the same
+    const std::filesystem::path path = QFile(one).filesystemFileName();
+    return std::filesystem::is_regular_file(path, code) &&
+           std::filesystem::equivalent(path, QFile(other).filesystemFileName(), code);
+}
+
 } // namespace vellumo

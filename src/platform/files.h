@@ -40,4 +40,7 @@ Outcome WriteNewFile(const QString &path, const QByteArray &bytes);
 /// Deletes a file; one that does not exist is no error.
 Outcome RemoveFile(const QString &path);
 
+/// Whether two paths lead to one regular file, by whatever names and links.
+bool IsSameFile(const QString &one, const QString &other);
+
 } // namespace vellumo

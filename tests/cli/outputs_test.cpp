@@ -64,6 +64,51 @@ TEST_F(Outputs, APipeInTheDatabasesPlaceGetsTheDatabase)
             .startsWith("SiteVisit\0"));
 }
 
+TEST_F(Outputs, AnInputOfAnotherKindStays)
+{
+    const QString project = InFolder(u"SiteVisit.prc"_s), link = InFolder(u"link.prc"_s);
+    const QByteArray bytes = BytesOf(siteVisit);
+    ASSERT_TRUE(WriteBytes(project, bytes) && QFile::link(project, link));
+    const QStringList lines[] = {
+        {u"script"_s, project},
+        {u"recover"_s, project},
+        {u"export"_s, u"--csv"_s, project},
+        {u"export"_s, u"--xlsform"_s, u"--lossy"_s, project},
+        {u"import"_s, project},
+        {u"import"_s, project, u"--into"_s, siteVisit},
+        {u"items"_s, siteVisit, u"--question"_s, u"3"_s, u"--from"_s, project},
+        {u"screens"_s, siteVisit, project},
+        {u"create"_s, project},
+    };
+    for (const QStringList &words : lines)
+        for (const QString &output : {project, link, InFolder(u"./SiteVisit.prc"_s)}) {
+            SCOPED_TRACE((words.join(u' ') + " -o "_L1 + output).toStdString());
+            EXPECT_EQ(Run(words + QStringList{u"-o"_s, output}), 2);
+            EXPECT_TRUE(Err().endsWith(
+                u"vellumo: The output would take the place of the input '%1'.\n"_s.arg(project)))
+                << err.str();
+            EXPECT_EQ(Out(), u""_s);
+            EXPECT_EQ(BytesOf(project), bytes);
+        }
+    EXPECT_EQ(Run({u"create"_s, project, u"-o"_s, m_folder.path()}), 2) << "by the form's name";
+    EXPECT_EQ(BytesOf(project), bytes);
+}
+
+TEST_F(Outputs, AProjectMayTakeThePlaceOfOne)
+{
+    const QString project = InFolder(u"a.vmp"_s), list = InFolder(u"list"_s);
+    ASSERT_TRUE(WriteBytes(project, BytesOf(siteVisit)) && WriteBytes(list, "Oak\n"));
+    ASSERT_TRUE(WriteBytes(InFolder(u"a.csv"_s), "Question,Type,Column Name\nWhy?,Text,W\n"));
+    const QStringList lines[] = {
+        {u"rewrite"_s, project},
+        {u"items"_s, project, u"--question"_s, u"3"_s, u"--from"_s, list},
+        {u"import"_s, InFolder(u"a.csv"_s), u"--into"_s, project},
+        {u"merge"_s, project, siteVisit},
+    };
+    for (const QStringList &words : lines)
+        EXPECT_EQ(Run(words + QStringList{u"-o"_s, project}), 0) << err.str();
+}
+
 TEST_F(Outputs, APipeThatNobodyReadsAnyMoreIsAnError)
 {
     int pipe[2];

@@ -27,6 +27,24 @@ TEST(Files, WritesAnewAndDeletes)
     EXPECT_TRUE(RemoveFile(path)) << "what does not exist is no error";
 }
 
+TEST(Files, AreTheSameByWhateverName)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"a"_s), other = folder.filePath(u"b"_s);
+    const QString link = folder.filePath(u"c"_s), hard = folder.filePath(u"d"_s);
+    ASSERT_TRUE(WriteNewFile(file, "") && WriteNewFile(other, ""));
+    ASSERT_TRUE(QFile::link(file, link));
+    ASSERT_EQ(::link(QFile::encodeName(file), QFile::encodeName(hard)), 0);
+    EXPECT_TRUE(IsSameFile(file, file));
+    EXPECT_TRUE(IsSameFile(file, folder.filePath(u"./a"_s)));
+    EXPECT_TRUE(IsSameFile(link, file));
+    EXPECT_TRUE(IsSameFile(file, hard));
+    EXPECT_FALSE(IsSameFile(file, other)) << "although both are empty";
+    EXPECT_FALSE(IsSameFile(file, folder.filePath(u"none"_s)));
+    EXPECT_FALSE(IsSameFile(folder.filePath(u"none"_s), folder.filePath(u"none"_s)));
+    EXPECT_FALSE(IsSameFile(folder.path(), folder.path())) << "no file";
+}
+
 TEST(Files, WritesThroughNothingThatStandsInItsWay)
 {
     const QTemporaryDir folder;
