@@ -120,8 +120,10 @@ CheckedDatabase MakeCheckedDatabase(Project &project, const QString &inputName,
                                     const CommandLine &line, const Console &console)
 {
     const std::vector<Notice> notices = ReviewNotices(project, inputName, line);
-    for (const Notice &notice : notices)
+    for (Notice notice : notices) {
+        notice.advice = notice.kind != "finding"_L1; // a creation goes on
         console.Complain(notice);
+    }
     if (!Passes(notices))
         return {Exit::NotPassed};
     return MakeReviewedDatabase(project, inputName, line, console);

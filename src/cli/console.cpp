@@ -21,7 +21,7 @@ bool Wants(const Console &console, const Notice &notice)
         return true;
     if (notice.kind == "result"_L1)
         return console.json;
-    return notice.kind != "warning"_L1 && notice.kind != "remark"_L1;
+    return !notice.advice; // what the exit status comes of is never kept back
 }
 
 QLatin1StringView CodeOf(Exit exit)

@@ -24,7 +24,7 @@ struct Console {
     std::ostream &out;
     std::ostream &err;
     bool json = false;         ///< notices are objects, on standard output, of whatever kind
-    bool quiet = false;        ///< nobody wants warnings, remarks, progress, nor results in words
+    bool quiet = false;        ///< nobody wants advice, progress, nor results in words
     bool showProgress = false; ///< a person looks on
 
     /// Tells of a result, finding or warning. For a person its text is one line of the output.

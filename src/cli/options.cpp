@@ -112,7 +112,8 @@ constexpr OptionRow rows[] = {
     {.option = Option::Quiet,
      .name = "quiet"_L1,
      .letter = "q"_L1,
-     .help = "findings and errors alone, no results, warnings or remarks"_L1},
+     .help = "errors and what makes the exit status alone, no results,\n"
+             "other warnings or remarks"_L1},
     {.option = Option::Json,
      .name = "json"_L1,
      .help = "one JSON object a line for each finding, result or error"_L1},

@@ -93,6 +93,9 @@ TEST_F(CreateCommand, RefusesWhatHasToBeWarnedOfWhereItIsStrict)
     EXPECT_EQ(Made(), QStringList());
     EXPECT_EQ(Create({path, u"--quiet"_s}), 0);
     EXPECT_EQ(Out() + Err(), u""_s);
+    WriteBytes(path, BytesOf(siteVisit).replace("[Inspector]", "[a\\b]"));
+    EXPECT_EQ(Create({path, u"--quiet"_s}), 0);
+    EXPECT_EQ(Out() + Err(), u""_s) << "a creation goes on";
     EXPECT_EQ(Made(), QStringList{u"SiteVisit.prc"_s});
 }
 
