@@ -6,6 +6,7 @@
 #include "readback/form_check.h"
 #include "readback/header_check.h"
 #include "readback/part_check.h"
+#include "readback/resource_check.h"
 #include "readback/text_check.h"
 
 using namespace Qt::StringLiterals;
@@ -40,17 +41,6 @@ void CheckQuestion(const DatabaseContent &content, const DeliveredQuestion &ques
                       findings.append({"navigation"_L1, place,
                                        u"%1 is not that of its type."_s.arg(Describe(place))});
               });
-}
-
-void CheckForOthers(const PalmDatabase &database, qsizetype questions, QList<Finding> &findings)
-{
-    for (const PalmResource &resource : database.resources) {
-        if (!IsResourceOf(resource.Key(), questions))
-            findings.append(
-                {"resource-extra"_L1,
-                 {"resources"_L1},
-                 u"The resource %1 does not belong here."_s.arg(Describe(resource.Key()))});
-    }
 }
 
 } // namespace

@@ -2,6 +2,10 @@
 
 #include "readback/database_content.h"
 #include "readback/header_check.h"
+#include "readback/resource_check.h"
+#include "readback/text_check.h"
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +62,13 @@ void CheckDamages(const DatabaseContent &content, QList<Finding> &findings)
     }
 }
 
+/// Where the number of questions is not known, a form may have any.
+qsizetype MostQuestions(const DatabaseContent &content)
+{
+    const bool isKnown = content.questionCount && *content.questionCount;
+    return isKnown ? qsizetype(**content.questionCount) : std::numeric_limits<qsizetype>::max();
+}
+
 } // namespace
 
 QList<Finding> CheckSoundness(const PalmDatabase &database)
@@ -67,7 +78,9 @@ QList<Finding> CheckSoundness(const PalmDatabase &database)
     CheckKind(database, findings);
     CheckOrder(database, findings);
     CheckCounts(content, findings);
+    CheckForMissingTexts(content, findings);
     CheckDamages(content, findings);
+    CheckForOthers(database, MostQuestions(content), findings);
     return findings;
 }
 

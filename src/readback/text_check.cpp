@@ -26,6 +26,8 @@ struct SingleText {
     QLatin1StringView code;
 };
 
+constexpr QLatin1StringView identifierField = "identifier"_L1;
+
 constexpr SingleText description = {descriptionKey, &DatabaseContent::description,
                                     &DeliveredTexts::description, "description"_L1,
                                     "description"_L1};
@@ -80,7 +82,7 @@ bool IsIdentifier(const QByteArray &text)
 
 void CheckIdentifier(const DatabaseContent &content, QList<Finding> &findings)
 {
-    const TextPlace place = {"identifier"_L1};
+    const TextPlace place = {identifierField};
     CheckPart(content.identifier, identifierKey, place, findings, [&](const QByteArray &found) {
         if (!IsIdentifier(found))
             findings.append(
@@ -100,6 +102,20 @@ void CheckTexts(const DatabaseContent &content, const DeliveredTexts &texts,
     CheckIdentifier(content, findings);
     CheckText(content, formName, texts, findings);
     CheckText(content, version, texts, findings);
+}
+
+void CheckForMissingTexts(const DatabaseContent &content, QList<Finding> &findings)
+{
+    const auto check = [&](const Decoded<QByteArray> &part, const ResourceKey &key,
+                           QLatin1StringView field) {
+        if (!part)
+            findings.append(MissingResource({field}, Describe(key)));
+    };
+    for (const SingleText &text : {description, folder})
+        check(content.*text.found, text.key, text.field);
+    check(content.identifier, identifierKey, identifierField);
+    for (const SingleText &text : {formName, version})
+        check(content.*text.found, text.key, text.field);
 }
 
 } // namespace vellumo

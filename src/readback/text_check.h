@@ -10,4 +10,7 @@ namespace vellumo {
 void CheckTexts(const DatabaseContent &content, const DeliveredTexts &texts,
                 QList<Finding> &findings);
 
+/// Appends which of the texts are missing that every database has by itself, whatever they are.
+void CheckForMissingTexts(const DatabaseContent &content, QList<Finding> &findings);
+
 } // namespace vellumo

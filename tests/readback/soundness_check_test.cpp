@@ -46,7 +46,9 @@ TEST(SoundnessCheck, FindsADatabaseOfAnotherKind)
 TEST(SoundnessCheck, FindsCountsThatDisagree)
 {
     const QString beginning = u"question-count [question count] The question count"_s;
-    EXPECT_EQ(SoundnessOf(WithData("flds", 1000, QByteArray("\0\x09", 2))).size(), 5);
+    const QStringList ofNine = SoundnessOf(WithData("flds", 1000, QByteArray("\0\x09", 2)));
+    EXPECT_EQ(ofNine.filter(beginning).size(), 5);
+    EXPECT_EQ(ofNine.size(), 7) << "a form and its navigation are too many, besides";
     EXPECT_EQ(SoundnessOf(WithData("flds", 1000, "\x01")),
               QStringList{beginning + u", resource 'flds' 1000, is missing or no count."_s});
     EXPECT_EQ(SoundnessOf(WithData("ques", 1002, QByteArray(9, '\0'))),
@@ -59,6 +61,32 @@ TEST(SoundnessCheck, FindsCountsThatDisagree)
     });
     EXPECT_EQ(SoundnessOf(WithResources(TenTypes(), resources)),
               QStringList{beginning + u" is 10, and there are 9 navigations."_s});
+}
+
+TEST(SoundnessCheck, FindsEachTextThatIsMissing)
+{
+    const std::pair<ResourceKey, QString> texts[] = {
+        {{"desc", 1003}, u"description] The description is missing: there is no resource "_s},
+        {{"sdir", 1005}, u"data folder] The data folder is missing: there is no resource "_s},
+        {{"guid", 1006}, u"identifier] The identifier is missing: there is no resource "_s},
+        {{"tAIN", 1000}, u"form name] The form name is missing: there is no resource "_s},
+        {{"tver", 1}, u"form version] The form version is missing: there is no resource "_s},
+    };
+    for (const auto &[key, missing] : texts) {
+        const QString line = u"resource-missing ["_s + missing + Describe(key) + u'.';
+        EXPECT_EQ(SoundnessOf(Without(key.type, key.number)), QStringList{line});
+    }
+}
+
+TEST(SoundnessCheck, FindsEachResourceThatNoDatabaseHas)
+{
+    const QString line = u"resource-extra [resources] The resource '%1' does not belong here."_s;
+    QList<PalmResource> resources = Read(TenTypes()).resources;
+    resources.append({.type = "tver", .number = 2, .data = QByteArray("1\0", 2)});
+    resources.append({.type = "zzzz", .number = 1, .data = "x"});
+    EXPECT_EQ(SoundnessOf(WithResources(TenTypes(), resources)),
+              (QStringList{QString(line).replace(u"'%1'"_s, u"'tver' 2"_s),
+                           QString(line).replace(u"'%1'"_s, u"'zzzz' 1"_s)}));
 }
 
 TEST(SoundnessCheck, FindsEachResourceThatCannotBeDecoded)
