@@ -40,7 +40,11 @@ static_assert(HasRowPerType(sheetTypes));
 class Filling
 {
 public:
-    explicit Filling(const Project &project) : m_items(project.source.ItemsById()) {}
+    explicit Filling(const Project &project)
+        : m_items(project.source.ItemsById()),
+          m_names(SheetNames(ColumnNamesOf(project))),
+          m_lists(SheetNames(m_names, yesNoList))
+    {}
 
     Outcome Add(const QuestionRow &row, int number)
     {
@@ -53,7 +57,7 @@ public:
             return Error{u"question %1 has no items"_s.arg(number)};
         const SheetType &sheet = RowOf(sheetTypes, type->id);
         const QString name = NameOf(row);
-        const QString list = ListOf(*type, items, name);
+        const QString list = ListOf(*type, items);
         m_survey.rows.append({Joined(sheet.name, list, u" "_s), name, LabelOf(row),
                               Joined(HintOf(row), sheet.hint, u": "_s), sheet.appearance,
                               sheet.parameters});
@@ -64,7 +68,7 @@ public:
     {
         AddLossesOf(project);
         SheetTable settings = {u"settings"_s, {u"form_title"_s, u"form_id"_s, u"version"_s}};
-        const QString id = SheetNames().TakeName(project.FormName);
+        const QString id = SheetNames({project.FormName}).first();
         if (id != project.FormName)
             Lose("form-id"_L1, {"form name"_L1}, u"is '%1' where a name has to be valid"_s.arg(id));
         const QString version = ArrivingText(project.FormVersion);
@@ -87,7 +91,7 @@ private:
 
     QString NameOf(const QuestionRow &row)
     {
-        QString name = m_names.TakeName(ArrivingText(row.ColumnName));
+        QString name = m_names[m_number - 1];
         if (name != row.ColumnName)
             Lose("name-changed"_L1, {"column name"_L1, m_number},
                  u"is '%1' in the sheet instead of '%2'"_s.arg(name, row.ColumnName), true);
@@ -133,19 +137,19 @@ private:
     }
 
     /// The name of the list that a question chooses from; empty where it chooses from none.
-    QString ListOf(const QuestionType &type, const QStringList &items, const QString &name)
+    QString ListOf(const QuestionType &type, const QStringList &items)
     {
         if (type.id == TypeId::YesNo)
             return YesNoList();
         if (!type.items)
             return {};
-        QString list = m_lists.TakeName(name);
-        SheetNames choices;
+        QString list = m_lists[m_number - 1];
         QString other; // the first that has another name
         for (const QString &item : items)
             TellArriving(ArrivingItems({item}).join("', '"_L1), item, {"item"_L1, m_number});
-        for (const QString &item : ArrivingItems(items)) {
-            const QString choice = choices.TakeChoice(item);
+        const QStringList arriving = ArrivingItems(items), choices = ChoiceNames(arriving);
+        for (qsizetype i = 0; i < arriving.size(); ++i) {
+            const QString &item = arriving[i], &choice = choices[i];
             m_choices.rows.append({list, choice, WithoutReference(item, {"item"_L1, m_number})});
             if (choice != item && other.isEmpty())
                 other = u"such as '%1' for '%2'"_s.arg(choice, item);
@@ -184,22 +188,23 @@ private:
             Lose("not-in-sheet"_L1, {"data folder"_L1}, u"is not in the sheet"_s);
     }
 
+    static QStringList ColumnNamesOf(const Project &project)
+    {
+        QStringList names;
+        for (const QuestionRow &row : project.source.Questions().Rows())
+            names += ArrivingText(row.ColumnName);
+        return names;
+    }
+
     const QHash<int, QStringList> m_items;
+    const QStringList m_names, m_lists; ///< of each question
     SheetTable m_survey = {
         u"survey"_s,
         {u"type"_s, u"name"_s, u"label"_s, u"hint"_s, u"appearance"_s, u"parameters"_s}};
     SheetTable m_choices = {u"choices"_s, {u"list_name"_s, u"name"_s, u"label"_s}};
-    SheetNames m_names, m_lists = WithYesNo();
     bool m_hasYesNo = false;
     int m_number = 0;
     QList<SheetLoss> m_losses;
-
-    static SheetNames WithYesNo()
-    {
-        SheetNames names;
-        names.TakeName(yesNoList);
-        return names;
-    }
 };
 
 } // namespace

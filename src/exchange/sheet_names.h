@@ -1,27 +1,19 @@
 #pragma once
 
-#include <QSet>
-#include <QString>
+#include <QStringList>
 
 namespace vellumo {
 
-/// Names of a form sheet that must not meet, without regard to case.
-class SheetNames
-{
-public:
-    /// A name like the text that is valid and not yet taken, and takes it. A valid one begins with
-    /// a letter or an underscore and goes on with letters, digits, hyphens, underscores and full
-    /// stops, all of ASCII; other characters become underscores.
-    QString TakeName(const QString &text);
+// Names of a form sheet, one for each of some texts, of which no two meet without regard to case. A
+// text that can be a name keeps it; of those that meet it is the first.
 
-    /// Likewise for the name of a choice, in which everything stands but white space, and "${",
-    /// which would begin a reference.
-    QString TakeChoice(const QString &text);
+/// Names that begin with a letter or an underscore and go on with letters, digits, hyphens,
+/// underscores and full stops, all of ASCII; other characters become underscores. None is that
+/// which is taken already.
+QStringList SheetNames(const QStringList &texts, const QString &taken = {});
 
-private:
-    QString TakeUnique(const QString &name);
-
-    QSet<QString> m_taken;
-};
+/// Names of choices, in which everything stands but white space, and "${", which would begin a
+/// reference.
+QStringList ChoiceNames(const QStringList &texts);
 
 } // namespace vellumo

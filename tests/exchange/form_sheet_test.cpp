@@ -101,16 +101,17 @@ TEST(FormSheet, TellsWhatItDoesNotHave)
         {u"a b"_s, u"a\u00A0 b"_s, u"${c}"_s, u""_s});
     const auto sheet = MakeFormSheet(project);
     ASSERT_TRUE(sheet);
-    EXPECT_EQ(Codes(*sheet), (QStringList{u"name-changed"_s, u"text-changed"_s, u"name-changed"_s,
-                                          u"text-changed"_s, u"choice-name"_s, u"title-as-hint"_s,
-                                          u"not-in-sheet"_s, u"not-in-sheet"_s, u"form-id"_s}));
+    EXPECT_EQ(Codes(*sheet), (QStringList{u"name-changed"_s, u"text-changed"_s, u"text-changed"_s,
+                                          u"choice-name"_s, u"title-as-hint"_s, u"not-in-sheet"_s,
+                                          u"not-in-sheet"_s, u"form-id"_s}));
     EXPECT_EQ(sheet->losses[0].text,
-              u"The column name of question 1 is 'A_B' in the sheet instead of 'A B'."_s);
+              u"The column name of question 1 is 'A_B_2' in the sheet instead of 'A B'."_s);
     EXPECT_TRUE(sheet->losses[0].changes);
-    EXPECT_FALSE(sheet->losses[5].changes);
+    EXPECT_FALSE(sheet->losses[4].changes);
     const auto &survey = Table(*sheet, u"survey"_s).rows;
     EXPECT_EQ(survey[0][2], u"Is $ {x} \nhere?"_s);
-    EXPECT_EQ(survey[1][1], u"a_b_2"_s) << "without regard to case";
+    EXPECT_EQ(survey[0][1], u"A_B_2"_s) << "without regard to case";
+    EXPECT_EQ(survey[1][1], u"a_b"_s) << "it is valid";
     EXPECT_EQ(survey[2][0], u"select_one yes_no_2"_s);
     QStringList choices;
     for (const QStringList &row : Table(*sheet, u"choices"_s).rows)
@@ -194,17 +195,37 @@ TEST(SheetNames, AreValidAndUniqueWhateverTheyAreMadeOf)
 {
     const QRegularExpression valid(u"\\A[A-Za-z_][A-Za-z0-9._-]*\\z"_s);
     std::mt19937 random(7);
-    SheetNames names;
-    QSet<QString> taken;
+    QStringList texts;
     for (int i = 0; i < 5'000; ++i) {
         QString text;
         for (auto length = random() % 4; length > 0; --length)
             text += QChar(char16_t(random() % 300));
-        const QString name = names.TakeName(text);
-        EXPECT_TRUE(valid.match(name).hasMatch()) << name.toStdString();
-        EXPECT_FALSE(taken.contains(name.toLower())) << name.toStdString();
-        taken += name.toLower();
+        texts += text;
     }
+    const QStringList names = SheetNames(texts);
+    ASSERT_EQ(names.size(), texts.size());
+    QSet<QString> taken, kept;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        EXPECT_TRUE(valid.match(names[i]).hasMatch()) << names[i].toStdString();
+        EXPECT_FALSE(taken.contains(names[i].toLower())) << names[i].toStdString();
+        taken += names[i].toLower();
+        if (valid.match(texts[i]).hasMatch() && !kept.contains(texts[i].toLower())) {
+            EXPECT_EQ(names[i], texts[i]);
+            kept += texts[i].toLower();
+        }
+    }
+    EXPECT_FALSE(kept.isEmpty());
+}
+
+TEST(SheetNames, LeaveEachThatIsValidToItsOwner)
+{
+    EXPECT_EQ(SheetNames({u"age"_s, u"AGE"_s, u"AGE_2"_s}),
+              (QStringList{u"age"_s, u"AGE_3"_s, u"AGE_2"_s}));
+    EXPECT_EQ(SheetNames({u"A B"_s, u"A_B"_s}), (QStringList{u"A_B_2"_s, u"A_B"_s}));
+    EXPECT_EQ(SheetNames({u"yes_no"_s, u"Yes_No_2"_s}, u"yes_no"_s),
+              (QStringList{u"yes_no_3"_s, u"Yes_No_2"_s}));
+    EXPECT_EQ(ChoiceNames({u"one oak"_s, u"ash"_s, u"Ash"_s, u"One_oak"_s, u"Ash_2"_s}),
+              (QStringList{u"one_oak_2"_s, u"ash"_s, u"Ash_3"_s, u"One_oak"_s, u"Ash_2"_s}));
 }
 
 TEST(Workbook, HasTheSameBytesEveryTime)
