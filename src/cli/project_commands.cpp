@@ -3,6 +3,7 @@
 #include "cli/changed_project.h"
 #include "cli/inputs.h"
 #include "cli/outputs.h"
+#include "cli/reproducible.h"
 #include "palmgen/script_generator.h"
 #include "platform/identifier.h"
 
@@ -14,12 +15,15 @@ namespace {
 Ending WriteScriptOf(const QString &input, const QString &target, const CommandLine &line,
                      const Console &console)
 {
-    const Result<Project> project = ReadProjectInput(input, console);
+    QByteArray bytes;
+    const Result<Project> project = ReadProjectInput(input, console, &bytes);
     if (!project)
         return Refuse(console, Exit::Unreadable, project.error());
-    const Script script =
-        GenerateScript(*project, line.Has(Option::Identifier) ? line.Value(Option::Identifier)
-                                                              : IdentifierDigits(MakeIdentifier()));
+    const auto reproduction = ReproductionOf(bytes, line);
+    if (!reproduction)
+        return RefuseUse(console, reproduction.error().text);
+    const Script script = GenerateScript(
+        *project, *reproduction ? (*reproduction)->identifier : IdentifierDigits(MakeIdentifier()));
     if (!script.outcome)
         return Refuse(console, Exit::NotPassed, {script.outcome.error().text, InputName(input)});
     return Deliver(target, script.bytes, "script"_L1, console);

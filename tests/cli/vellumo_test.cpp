@@ -1,5 +1,7 @@
 #include "vellumo_run.h"
 
+#include <QCryptographicHash>
+
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
@@ -110,6 +112,24 @@ TEST_F(Vellumo, MakesANewIdentifierUnlessOneIsGiven)
     const QString first = Out();
     Run({u"script"_s, siteVisit});
     EXPECT_NE(first, Out());
+}
+
+TEST_F(Vellumo, WritesTheSameScriptOfTheSameProjectWhereTheTimeIsGiven)
+{
+    qputenv("SOURCE_DATE_EPOCH", "1");
+    EXPECT_EQ(Run({u"script"_s, siteVisit}), 0);
+    const QString first = Out();
+    EXPECT_EQ(Run({u"script"_s, siteVisit}), 0);
+    EXPECT_EQ(Out(), first);
+    const QByteArray sum =
+        QCryptographicHash::hash(BytesOf(siteVisit), QCryptographicHash::Sha256).toHex();
+    EXPECT_TRUE(first.contains(QString::fromLatin1(sum.first(32)).toUpper())) << "as create has it";
+    EXPECT_EQ(Run({u"script"_s, siteVisit, u"--guid"_s, identifier}), 0);
+    EXPECT_TRUE(Out().contains(identifier));
+    qputenv("SOURCE_DATE_EPOCH", "soon");
+    EXPECT_EQ(Run({u"script"_s, siteVisit}), 2);
+    EXPECT_EQ(Err(), u"vellumo: SOURCE_DATE_EPOCH must be 0 to 2212122495 seconds.\n"_s);
+    qunsetenv("SOURCE_DATE_EPOCH");
 }
 
 TEST_F(Vellumo, SaysWhyAScriptCannotBeWritten)
