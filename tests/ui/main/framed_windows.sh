@@ -23,6 +23,9 @@ started+=($!)
 read -r -t 20 -u "$display_pipe" number
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work HOME=$work
 unset WAYLAND_DISPLAY
+# What libraries of the desktop keep until the end is not ours to free.
+printf 'leak:libdbus\nleak:libfontconfig\nleak:libGLX\n' >"$work/suppressions"
+export LSAN_OPTIONS=suppressions=$work/suppressions:print_suppressions=0
 # It calls the command when it is ready to frame windows.
 openbox --startup "touch $work/ready" 2>/dev/null &
 started+=($!)
