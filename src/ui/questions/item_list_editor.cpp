@@ -87,8 +87,9 @@ void ItemListEditor::SetType(const QString &type)
 void ItemListEditor::SetItems(const QStringList &items)
 {
     m_items.SetItems(items);
-    ShowAll({}, -1);
+    Show({}, -1);
     m_before.clear();
+    m_after.clear();
 }
 
 QListView *ItemListEditor::List() const
@@ -206,11 +207,10 @@ void ItemListEditor::GoTo(QList<QStringList> &there, QList<QStringList> &back)
     const QStringList items = there.takeLast();
     const QStringList left = m_items.Items();
     back += left;
-    m_shown.setStringList(items); // no step of its own
     m_items.SetItems(items);
     const auto changed = std::ranges::mismatch(items, left).in1 - items.begin();
     const qsizetype row = std::min(changed, items.size() - 1);
-    ShowAll(row >= 0 ? ItemList::Rows{row} : ItemList::Rows(), row);
+    Show(row >= 0 ? ItemList::Rows{row} : ItemList::Rows(), row);
 }
 
 /// Keeps the selection and what is current.
@@ -230,8 +230,13 @@ void ItemListEditor::ShowAppended()
 
 void ItemListEditor::ShowAll(const ItemList::Rows &selection, qsizetype current)
 {
-    const auto indexOf = [this](qsizetype row) { return m_shown.index(static_cast<int>(row)); };
     Remember();
+    Show(selection, current);
+}
+
+void ItemListEditor::Show(const ItemList::Rows &selection, qsizetype current)
+{
+    const auto indexOf = [this](qsizetype row) { return m_shown.index(static_cast<int>(row)); };
     m_shown.setStringList(m_items.Items());
     QItemSelectionModel *chosen = ui->list->selectionModel();
     for (const qsizetype row : selection)

@@ -66,8 +66,11 @@ private:
     /// Goes to the items that the one list has last, and lets the other lead back.
     void GoTo(QList<QStringList> &there, QList<QStringList> &back);
     void ShowAppended();
-    /// The current entry is told by its row; a row that does not exist leaves none current.
+    /// As a step. The current entry is told by its row; a row that does not exist leaves none
+    /// current.
     void ShowAll(const ItemList::Rows &selection, qsizetype current);
+    /// The same, and no step.
+    void Show(const ItemList::Rows &selection, qsizetype current);
 
     std::unique_ptr<Ui::ItemListEditor> ui;
     const ItemListHost *m_host = nullptr;
