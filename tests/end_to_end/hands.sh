@@ -1,6 +1,6 @@
 # Sourced by what drives windows: a screen of its own with a window manager, and hands. It wants a
-# folder in $work, which goes at the end; $designer is the process that is driven, and what it says is
-# in designer.log there.
+# folder in $work, which goes at the end, and may have the screen's size in $screen; $designer is the
+# process that is driven, and what it says is in designer.log there.
 set -euo pipefail
 
 for needed in Xvfb openbox xdotool; do
@@ -9,7 +9,7 @@ done
 
 exec {display_pipe}<> <(:)
 # -noreset: else it starts anew, and drops whoever comes, when the last window went for a moment.
-Xvfb -noreset -displayfd "$display_pipe" -screen 0 1280x1024x24 -nolisten tcp 2>"$work/xvfb.log" &
+Xvfb -noreset -displayfd "$display_pipe" -screen 0 "${screen:-1280x1024}x24" -nolisten tcp 2>"$work/xvfb.log" &
 started=($!)
 cleanup() {
     kill "${started[@]}" 2>/dev/null || true
@@ -19,6 +19,9 @@ cleanup() {
 trap cleanup EXIT
 read -r -t 20 -u "$display_pipe" number
 export DISPLAY=:$number
+# What the platform's own libraries never give back is not the designer's.
+printf 'leak:libdbus\nleak:libfontconfig\nleak:libGLX\n' >"$work/suppressions"
+export LSAN_OPTIONS=suppressions=$work/suppressions:print_suppressions=0
 openbox 2>/dev/null &
 started+=($!)
 

@@ -14,9 +14,6 @@ export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='*.debug=false' LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY
 # Whatever site the program was built for: nobody answers.
 export http_proxy=http://127.0.0.1:9 https_proxy=http://127.0.0.1:9 no_proxy=
-# What the platform's own libraries never give back is not the designer's.
-printf 'leak:libdbus\nleak:libfontconfig\nleak:libGLX\n' >"$work/suppressions"
-export LSAN_OPTIONS=suppressions=$work/suppressions:print_suppressions=0
 
 . "$(dirname -- "${BASH_SOURCE[0]}")/hands.sh"
 
@@ -27,6 +24,20 @@ is_splash() { has_focus 'Vellumo Designer' && ! is_main; }
 start() {
     "$work/app/vellumo-designer" "$@" 2>"$work/designer.log" &
     designer=$!
+}
+# review_and_create DATABASE: what is open, by the keys of step 4.
+review_and_create() {
+    window 'Vellumo Designer'
+    keys ctrl+Tab ctrl+Tab ctrl+Tab
+    keys Return
+    windows 2
+    keys Return
+    windows 1
+    keys Tab space
+    await 20 'no database' test -s "$1"
+    windows 2
+    keys Return
+    windows 1
 }
 quit() {
     window 'Vellumo Designer'

@@ -52,17 +52,7 @@ window 'Vellumo Designer'
 keys alt+h a
 window 'About Vellumo Designer'
 keys Return
-window 'Vellumo Designer'
-keys ctrl+Tab ctrl+Tab ctrl+Tab
-keys Return
-windows 2
-keys Return
-windows 1
-keys Tab space
-await 20 'no database' test -s "$HOME/Documents/My Vellumo/SiteVisit.prc"
-windows 2
-keys Return
-windows 1
+review_and_create "$HOME/Documents/My Vellumo/SiteVisit.prc"
 quit
 cmp "$project" "$work/inspection.vmp" || fail 'the project was changed'
 printf 'passed\n'

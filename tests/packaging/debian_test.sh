@@ -74,18 +74,8 @@ quit
 printf '<Vmdesigner><ShowOpenForm>0</ShowOpenForm></Vmdesigner>' >"$settings"
 
 start /home/person/inspection.vmp
-window 'Vellumo Designer'
-keys ctrl+Tab ctrl+Tab ctrl+Tab
-keys Return
-windows 2
-keys Return
-windows 1
-keys Tab space
 database="Documents/My Vellumo/SiteVisit.prc"
-await 20 'no database' test -s "$home/$database"
-windows 2
-keys Return
-windows 1
+review_and_create "$home/$database"
 quit
 
 install_package "$package"
