@@ -1,7 +1,7 @@
 // What the maker's site answers when it is asked for the newest version.
 
 #include "fuzz/require.h"
-#include "ui/main/update_check.h"
+#include "ui/main/version_log.h"
 
 using namespace vellumo;
 

@@ -1,4 +1,4 @@
-#include "ui/main/update_check.h"
+#include "ui/main/version_log.h"
 
 #include <gtest/gtest.h>
 
