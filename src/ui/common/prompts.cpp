@@ -1,41 +1,18 @@
 #include "ui/common/prompts.h"
 
 #include "ui/common/one_line_box.h"
+#include "ui/common/prompt_box.h"
 
 #include <QInputDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 
-#include <algorithm>
-
-using namespace Qt::StringLiterals;
-
 namespace vellumo {
-namespace {
-
-/// The box's own text format does not hold for this part of it, nor does its width: a short text
-/// above would have a path broken into pieces.
-void ShowBelow(QMessageBox &box, const QString &informative)
-{
-    constexpr int widest = 400;
-    box.setInformativeText(informative);
-    auto *label = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
-    if (!label)
-        return;
-    label->setTextFormat(Qt::PlainText);
-    const QSize whole = label->fontMetrics().size(0, informative);
-    label->setMinimumWidth(std::min(whole.width(), widest));
-}
-
-} // namespace
 
 QMessageBox::StandardButton ShowBox(QWidget *parent, const Box &box)
 {
     // Not one of the toolkit's ready boxes, which take a text that looks like markup for markup.
-    QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
-    shown.setTextFormat(Qt::PlainText);
-    ShowBelow(shown, box.informative);
+    PromptBox shown(box.icon, box.title, box.text, box.informative, box.buttons, parent);
     shown.setDefaultButton(box.defaultButton);
     shown.setEscapeButton(box.closeButton);
     return static_cast<QMessageBox::StandardButton>(shown.exec());

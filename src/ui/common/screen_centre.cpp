@@ -29,6 +29,12 @@ QMargins LikelyFrame(const QWidget &window)
     return {0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0};
 }
 
+QMargins Frame(const QWidget &window)
+{
+    const QMargins known = KnownFrame(window);
+    return known.isNull() ? LikelyFrame(window) : known;
+}
+
 /// In the middle of the screen, but clear of the desktop's panels.
 void Place(QWidget &window, const QMargins &frame)
 {
@@ -105,9 +111,18 @@ void CentreOnScreen(QWidget &window)
     SettleLayouts(window);
     // A window that is not shown yet has no size of its own unless it was given one.
     window.resize(window.testAttribute(Qt::WA_Resized) ? Grown(window) : Wanted(window));
-    const QMargins frame = KnownFrame(window);
-    Place(window, frame.isNull() ? LikelyFrame(window) : frame);
+    Place(window, Frame(window));
+    KeepOnScreen(window);
+}
+
+void KeepOnScreen(QWidget &window)
+{
     new FrameWatch(window);
+}
+
+QSize RoomOnScreen(const QWidget &window)
+{
+    return window.screen()->availableGeometry().marginsRemoved(Frame(window)).size();
 }
 
 } // namespace vellumo

@@ -74,6 +74,11 @@ void ScrollPage::showEvent(QShowEvent *event)
     if (!widget())
         return;
     widget()->setAutoFillBackground(false); // which the area has turned on
+    Settle();
+}
+
+void ScrollPage::Settle()
+{
     SettleLayouts(*widget());
     // A scroll bar of before makes texts narrower and so higher, by which it would stay.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

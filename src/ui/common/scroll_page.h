@@ -30,6 +30,10 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    /// Lays the content out and shows the bars that it needs at once, where others would wait for
+    /// events to come. For a page that has a content.
+    void Settle();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;

@@ -4,6 +4,7 @@
 #include "ui/about/frmAbout.h"
 #include "ui/about/help_window.h"
 #include "ui/about/myHelp.h"
+#include "ui/common/prompt_box.h"
 #include "ui/common/prompts.h"
 #include "ui/main/fileOpenForm.h"
 #include "ui/main/logoForm.h"
@@ -115,11 +116,23 @@ void TakeHelp(const QString &folder)
 
 void TakeBoxes(const QString &folder)
 {
-    for (const QMessageBox::Icon icon : {QMessageBox::Warning, QMessageBox::Question}) {
-        QMessageBox box(icon, productName, u"Are you sure you want to delete this question?"_s,
-                        QMessageBox::Yes | QMessageBox::No);
+    const QString sure = u"Are you sure you want to delete this question?"_s,
+                  kept = u"SiteVisit.vmp was not saved when Vellumo Designer ended. "
+                         "Do you want to open the rescued copy?"_s,
+                  where = u"The copy was made at 2026-01-31 12:34:56.\n/home/user/SiteVisit.vmp"_s,
+                  refused = u"Not added:"_s +
+                            u"\nLine 2: \"Grey heron\" stands in the list already."_s.repeated(10);
+    const struct {
+        QMessageBox::Icon icon;
+        QString text, below;
+    } boxes[] = {{QMessageBox::Warning, sure, {}},
+                 {QMessageBox::Question, sure, {}},
+                 {QMessageBox::Question, kept, where},
+                 {QMessageBox::Warning, refused, {}}};
+    for (int number = 1; const auto &[icon, text, below] : boxes) {
+        PromptBox box(icon, productName, text, below, QMessageBox::Yes | QMessageBox::No, nullptr);
         box.show();
-        Keep(box, folder + u"/box-%1.png"_s.arg(icon));
+        Keep(box, folder + u"/box-%1.png"_s.arg(number++));
     }
 }
 

@@ -1,0 +1,174 @@
+#include "ui/common/prompt_box.h"
+
+#include "ui/common/focus_ring.h"
+#include "ui/common/screen_centre.h"
+#include "ui/common/scroll_page.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFontInfo>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace vellumo {
+namespace {
+
+QList<QLabel *> TextsOf(const QWidget &content)
+{
+    return content.findChildren<QLabel *>(Qt::FindDirectChildrenOnly);
+}
+
+} // namespace
+
+PromptBox::PromptBox(Icon icon, const QString &title, const QString &text, const QString &below,
+                     StandardButtons buttons, QWidget *parent)
+    : QMessageBox(icon, title, text, buttons, parent), m_page(new ScrollPage(this))
+{
+    setTextFormat(Qt::PlainText);
+    setInformativeText(below);
+    PutTextIntoPage();
+    RingWhenFocused(m_page);
+    KeepOnScreen(*this);
+}
+
+/// In the place that the toolkit gives to its labels, which it goes on to find by their names.
+void PromptBox::PutTextIntoPage()
+{
+    auto *grid = static_cast<QGridLayout *>(layout());
+    auto *content = new ScrollContent;
+    auto *lines = new QVBoxLayout(content);
+    lines->setContentsMargins({});
+    int row = 0, column = 0, rows = 1, columns = 1;
+    for (const auto name : {"qt_msgbox_label"_L1, "qt_msgbox_informativelabel"_L1})
+        if (auto *label = findChild<QLabel *>(name)) {
+            if (lines->isEmpty())
+                grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+            lines->addWidget(label);
+            label->setTextFormat(Qt::PlainText); // the box's own does not hold for all of it
+        }
+    lines->addStretch();
+    m_page->setWidget(content);
+    grid->addWidget(m_page, row, column, 2, columns);
+}
+
+/// The toolkit would give the box a size of its own. All that changes while it is up is the font.
+bool PromptBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        return true;
+    const bool handled = QMessageBox::event(event);
+    if (event->type() == QEvent::FontChange && isVisible())
+        Fit();
+    return handled;
+}
+
+void PromptBox::showEvent(QShowEvent *event)
+{
+    QMessageBox::showEvent(event);
+    Fit();
+    adjustPosition(parentWidget());
+}
+
+void PromptBox::keyPressEvent(QKeyEvent *event)
+{
+    QScrollBar *bar = m_page->verticalScrollBar();
+    const bool turns = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+    turns && bar->isVisible() ? void(QCoreApplication::sendEvent(bar, event))
+                              : QMessageBox::keyPressEvent(event);
+}
+
+void PromptBox::Fit()
+{
+    const QSize room = RoomOnScreen(*this);
+    for (QLabel *label : TextsOf(*m_page->widget())) {
+        label->setWordWrap(true);
+        label->ensurePolished();
+    }
+    FitButtons(room);
+    FitIcon(room.width());
+    const QSize around = Around();
+    const QSize text = TextSize(room - around);
+    const int title = fontMetrics().horizontalAdvance(windowTitle()) + 50; // with its buttons
+    const QSize least = layout()->totalMinimumSize().boundedTo(room);
+    setMinimumSize(least);
+    setMaximumSize((text + around).expandedTo(least).expandedTo({title, 0}).boundedTo(room));
+    resize(maximumSize());
+    layout()->activate();
+    m_page->Settle();
+    const bool scrolls =
+        m_page->verticalScrollBar()->isVisible() || m_page->horizontalScrollBar()->isVisible();
+    m_page->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+}
+
+/// Side by side, else one below the other, and with smaller text where they leave the text above
+/// hardly any room.
+void PromptBox::FitButtons(QSize room)
+{
+    constexpr int smallest = 6; // points
+    auto *buttons = findChild<QDialogButtonBox *>();
+    const int margins = layout()->contentsMargins().left() + layout()->contentsMargins().right();
+    QFont text = font();
+    for (int points = QFontInfo(text).pointSize();; text.setPointSize(--points)) {
+        for (QAbstractButton *button : buttons->buttons())
+            button->setFont(text);
+        for (const auto way : {Qt::Horizontal, Qt::Vertical}) {
+            if (buttons->orientation() != way)
+                buttons->setOrientation(way);
+            const QSize size = buttons->minimumSizeHint();
+            if (size.width() + margins <= room.width() && size.height() <= room.height() / 2)
+                return;
+        }
+        if (points <= smallest)
+            return;
+    }
+}
+
+/// The picture goes where a word would not have the room.
+void PromptBox::FitIcon(int room)
+{
+    auto *picture = findChild<QLabel *>(u"qt_msgboxex_icon_label"_s);
+    if (picture->pixmap(Qt::ReturnByValue).isNull())
+        return;
+    picture->show();
+    const int word = m_page->widget()->minimumSizeHint().width();
+    picture->setVisible(word + Around().width() <= room);
+}
+
+/// What the box needs beside the text, however large that is.
+QSize PromptBox::Around()
+{
+    constexpr QSize large(2000, 2000);
+    m_page->setMinimumSize(large);
+    layout()->activate();
+    const QSize around = layout()->totalMinimumSize() - large;
+    m_page->setMinimumSize(0, 0);
+    layout()->activate();
+    return around;
+}
+
+QSize PromptBox::TextSize(QSize room) const
+{
+    constexpr int readable = 70; // letters
+    constexpr int step = 10;
+    const QWidget &content = *m_page->widget();
+    int wanted = 0;
+    for (const QLabel *label : TextsOf(content))
+        wanted = std::max(wanted, label->fontMetrics().size(0, label->text()).width() + 2);
+    wanted = std::min(wanted, readable * fontMetrics().averageCharWidth());
+    const int word = content.minimumSizeHint().width();
+    int width = std::min(std::max(wanted, word), room.width());
+    while (width < room.width() && content.heightForWidth(width) > room.height())
+        width = std::min(width + step, room.width());
+    const int bar = word > width ? m_page->horizontalScrollBar()->sizeHint().height() : 0;
+    return QSize(width, content.heightForWidth(std::max(width, word)) + bar)
+        .boundedTo({width, room.height()});
+}
+
+} // namespace vellumo
