@@ -56,6 +56,11 @@ void StepPage::SetLow(bool low, QBoxLayout &foot)
     PlaceContent();
 }
 
+int StepPage::LeastView() const
+{
+    return 3 * fontMetrics().lineSpacing();
+}
+
 void StepPage::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
@@ -71,10 +76,11 @@ void StepPage::PlaceContent()
 
 void StepPage::PlaceHeading()
 {
-    constexpr int linesBelow = 5; // the buttons' line among them
+    constexpr int buttonLines = 2;
     const QMargins margins = layout()->contentsMargins();
     const int width = contentsRect().width() - margins.left() - margins.right();
-    const int needed = m_heading->heightForWidth(width) + linesBelow * fontMetrics().lineSpacing();
+    const int needed =
+        m_heading->heightForWidth(width) + LeastView() + buttonLines * fontMetrics().lineSpacing();
     QWidget *home = m_isLow || height() < needed ? m_page->widget() : this;
     if (m_heading->parentWidget() == home)
         return;

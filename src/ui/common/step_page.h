@@ -49,6 +49,10 @@ public:
     /// step.
     void SetLow(bool low, QBoxLayout &foot);
 
+    /// What is to be seen of what scrolls, at least, in pixels: where there is less room the window
+    /// is low.
+    virtual int LeastView() const;
+
     /// Puts the focus into the box of a field; a step that does not have it does nothing.
     void Focus(FormField field);
 

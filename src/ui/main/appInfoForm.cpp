@@ -234,14 +234,15 @@ void appInfoForm::resizeEvent(QResizeEvent *event)
         m_questions->LayOutIfLargeEnough();
 }
 
-/// Where toolbar, tabs, buttons and a few lines are more than fits, all but the buttons scrolls.
+/// Where toolbar, tabs, buttons and what the step has to show are more than fits, all but the
+/// buttons scrolls.
 void appInfoForm::KeepButtonsInView()
 {
-    constexpr int fewestLines = 8;
-    const int needed = ui->cmdToolbar_0->sizeHint().height() +
-                       ui->SSTab1->tabBar()->sizeHint().height() +
-                       fewestLines * fontMetrics().lineSpacing();
+    constexpr int buttonLines = 5; // with the margins
     const StepPage *shown = m_steps[static_cast<size_t>(m_step - 1)];
+    const int needed = ui->cmdToolbar_0->sizeHint().height() +
+                       ui->SSTab1->tabBar()->sizeHint().height() + shown->LeastView() +
+                       buttonLines * fontMetrics().lineSpacing();
     for (StepPage *page : m_steps)
         page->SetLow(page == shown && ui->outer->height() < needed, *ui->foot);
 }

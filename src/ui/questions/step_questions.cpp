@@ -16,6 +16,7 @@
 #include "ui/questions/row_keys.h"
 #include "ui_step_questions.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -272,6 +273,13 @@ void StepQuestions::LayOutIfLargeEnough()
 {
     if (IsLargeEnough())
         LayOut();
+}
+
+int StepQuestions::LeastView() const
+{
+    return ui->DataGrid1->horizontalHeader()->sizeHint().height() +
+           2 * ui->DataGrid1->verticalHeader()->defaultSectionSize() +
+           ui->scrollArea->horizontalScrollBar()->sizeHint().height();
 }
 
 void StepQuestions::LayOut()

@@ -29,6 +29,9 @@ public:
     /// not as many; in other windows they keep their places.
     void LayOutIfLargeEnough();
 
+    /// The header of the list and two rows, with the bar below.
+    int LeastView() const override;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
