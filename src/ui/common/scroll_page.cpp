@@ -36,8 +36,12 @@ ScrollPage::ScrollPage(QWidget *parent) : QScrollArea(parent)
     setWidgetResizable(true);
     viewport()->setAutoFillBackground(false);
     // Also where the program moves the focus: the area itself follows Tab alone.
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget *, QWidget *now) { BringIntoView(now); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        m_leftByUser = false;
+        BringIntoView(now);
+    });
+    for (const QScrollBar *bar : {horizontalScrollBar(), verticalScrollBar()})
+        connect(bar, &QScrollBar::actionTriggered, this, [this] { m_leftByUser = true; });
 }
 
 /// What has the focus in it loses that when it goes.
@@ -65,7 +69,17 @@ bool ScrollPage::eventFilter(QObject *watched, QEvent *event)
     // A content of another size is asked for another size of the window.
     if (watched == widget() && event->type() == QEvent::LayoutRequest)
         updateGeometry();
-    return QScrollArea::eventFilter(watched, event);
+    const bool handled = QScrollArea::eventFilter(watched, event);
+    if (watched == widget() &&
+        (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize))
+        KeepInView();
+    return handled;
+}
+
+void ScrollPage::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    KeepInView();
 }
 
 void ScrollPage::showEvent(QShowEvent *event)
@@ -93,22 +107,60 @@ bool ScrollPage::focusNextPrevChild(bool next)
     return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
 }
 
+/// What got the focus before the page had its height, too; but where the user scrolls to is the
+/// user's choice.
+void ScrollPage::KeepInView()
+{
+    const QWidget *focus = QApplication::focusWidget();
+    if (focus && widget() && widget()->isAncestorOf(focus) && !m_leftByUser)
+        BringDown(*focus);
+}
+
 void ScrollPage::BringIntoView(const QWidget *focus)
 {
     if (!focus || !widget() || !widget()->isAncestorOf(focus))
         return;
+    BringAcross(*focus);
+    BringDown(*focus);
+}
+
+void ScrollPage::BringAcross(const QWidget &focus)
+{
     QScrollBar *bar = horizontalScrollBar();
     const int before = bar->value(), room = viewport()->width();
-    ensureWidgetVisible(const_cast<QWidget *>(focus)); // the height will do
+    ensureWidgetVisible(const_cast<QWidget *>(&focus));
 
-    QRect place = focus->rect();
-    if (place.width() > room && focus->testAttribute(Qt::WA_InputMethodEnabled)) // typed into
-        place = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-    place.translate(focus->mapTo(widget(), QPoint()));
+    QRect place = focus.rect();
+    if (place.width() > room && focus.testAttribute(Qt::WA_InputMethodEnabled)) // typed into
+        place = focus.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    place.translate(focus.mapTo(widget(), QPoint()));
     place = QStyle::visualRect(widget()->layoutDirection(), widget()->rect(), place);
     const bool isAhead = place.left() < before || place.width() > room;
     const int ending = place.left() + place.width() - room;
     bar->setValue(isAhead ? place.left() : std::max(before, ending));
+}
+
+/// Page by page from within: where the focus lies on the outer one depends on the inner one.
+void ScrollPage::BringDown(const QWidget &focus)
+{
+    verticalScrollBar()->setValue(ValueFor(focus));
+    for (QWidget *above = parentWidget(); above; above = above->parentWidget())
+        if (auto *outer = qobject_cast<ScrollPage *>(above))
+            return outer->BringDown(focus);
+}
+
+/// All of it; of what is higher than the room the beginning, unless its cursor or current row is
+/// below.
+int ScrollPage::ValueFor(const QWidget &focus) const
+{
+    const int room = viewport()->height(), top = focus.mapTo(widget(), QPoint()).y();
+    if (focus.height() <= room)
+        return std::clamp(verticalScrollBar()->value(), top + focus.height() - room, top);
+    QRect current = focus.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    if (const auto *area = qobject_cast<const QAbstractScrollArea *>(&focus))
+        current.translate(area->viewport()->pos());
+    const int below = current.height() < room ? current.bottom() + 1 - room : 0;
+    return top + std::max(below, 0);
 }
 
 } // namespace vellumo

@@ -18,7 +18,8 @@ public:
 
 /// A part of a window that scrolls where there is no room for it: on the ground of what it lies on,
 /// without a frame, and as large as its content where there is room. What gets the focus in it is
-/// brought into view, from its beginning where it is wider.
+/// brought into view, from its beginning where it is larger, and stays there when the page gets
+/// another size, until the user scrolls.
 class ScrollPage : public QScrollArea
 {
     Q_OBJECT
@@ -37,10 +38,17 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    void KeepInView();
     void BringIntoView(const QWidget *focus);
+    void BringAcross(const QWidget &focus);
+    void BringDown(const QWidget &focus);
+    int ValueFor(const QWidget &focus) const;
+
+    bool m_leftByUser = false; ///< who has scrolled since the focus came where it is
 };
 
 /// Lets the layouts within a widget that is not shown yet find their sizes anew. A ScrollPage asks
