@@ -1,5 +1,5 @@
 // Boxes on screens of many sizes, with small and large text, in both directions. A process has one
-// screen and one scale, so this is run once for each of them: see CMakeLists.txt.
+// screen and one scale, so this is run once for each of them: vellumo_on_screens.
 #include "ui/common/prompt_box.h"
 
 #include "support/print.h"
