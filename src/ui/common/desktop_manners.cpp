@@ -6,12 +6,15 @@
 #include <QEvent>
 #include <QFontInfo>
 #include <QLabel>
+#include <QMenu>
 #include <QTabWidget>
 
 #include <algorithm>
 
 namespace vellumo {
 namespace {
+
+constexpr int usualText = 12; // pixels
 
 /// Keeps the icons of a widget in proportion to its text; never smaller than they are by
 /// themselves.
@@ -35,8 +38,7 @@ public:
 private:
     void Follow()
     {
-        constexpr qreal usualText = 12; // pixels
-        const qreal factor = QFontInfo(m_widget->font()).pixelSize() / usualText;
+        const qreal factor = QFontInfo(m_widget->font()).pixelSize() / qreal(usualText);
         m_widget->setIconSize(m_ownSize * std::max(1.0, factor));
     }
 
@@ -53,6 +55,17 @@ void PutAtBeginning(QLabel &label)
                            Qt::AlignAbsolute);
 }
 
+/// Styles put a mark before an entry that grows with the text, but leave room for one that does
+/// not, and cut the longest entry short.
+void LeaveRoomForMarks(QMenu &menu)
+{
+    QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu] {
+        menu.setMinimumWidth(0);
+        const int more = std::max(0, QFontInfo(menu.font()).pixelSize() - usualText);
+        menu.setMinimumWidth(menu.sizeHint().width() + more);
+    });
+}
+
 } // namespace
 
 void FollowDesktop(QWidget &window)
@@ -62,6 +75,8 @@ void FollowDesktop(QWidget &window)
         new IconSize(button);
     for (auto *tabs : window.findChildren<QTabWidget *>())
         new IconSize(tabs);
+    for (auto *menu : window.findChildren<QMenu *>())
+        LeaveRoomForMarks(*menu);
     for (auto *label : window.findChildren<QLabel *>())
         PutAtBeginning(*label);
 }

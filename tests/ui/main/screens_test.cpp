@@ -3,6 +3,7 @@
 #include "model/question_types.h"
 #include "ui/main/window_looks.h"
 
+#include <QMenu>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTableView>
@@ -82,6 +83,36 @@ TEST(Screens, GrowWithTheText)
             EXPECT_FALSE(bar->isVisible() && bar->orientation() == Qt::Horizontal)
                 << Name(*bar->parentWidget()->parentWidget());
     });
+}
+
+/// What an entry says does not become more when the menu is wider.
+void ExpectWholeEntries(QMenu &menu)
+{
+    constexpr int more = 300, frame = 8; // pixels
+    for (QAction *entry : menu.actions())
+        entry->setShortcuts({}); // which go on to stand at the other end
+    menu.popup({});
+    const QImage shown = menu.grab().toImage();
+    const int width = menu.width() - frame;
+    menu.setMinimumWidth(menu.width() + more);
+    menu.adjustSize();
+    const QRect entries = {0, 0, qRound(width * shown.devicePixelRatio()), shown.height()};
+    EXPECT_EQ(shown.copy(entries), menu.grab().toImage().copy(entries)) << Name(menu);
+    menu.hide();
+}
+
+TEST(Screens, HoldTheMenus)
+{
+    for (const int points : {8, 9, 13, 18, 24, 36}) {
+        SCOPED_TRACE(std::to_string(points) + " points");
+        const Desktop desktop(points, Qt::LeftToRight);
+        const Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+        for (const char *name : {"mnuFile", "mnuHelp"}) {
+            auto *menu = designer.Find<QMenu>(name);
+            if (menu->sizeHint().width() < QGuiApplication::primaryScreen()->size().width())
+                ExpectWholeEntries(*menu);
+        }
+    }
 }
 
 TEST(Screens, HoldEveryWindow)
