@@ -7,6 +7,8 @@
 #include <QFontInfo>
 #include <QLabel>
 #include <QMenu>
+#include <QProxyStyle>
+#include <QPushButton>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -55,6 +57,27 @@ void PutAtBeginning(QLabel &label)
                            Qt::AlignAbsolute);
 }
 
+/// Takes the sides of texts as they are told: the usual style mirrors a caption beside a picture,
+/// which is mirrored again when it is drawn and ends at the border.
+class MirroredOnce : public QProxyStyle
+{
+public:
+    void drawItemText(QPainter *painter, const QRect &place, int flags, const QPalette &palette,
+                      bool isEnabled, const QString &text, QPalette::ColorRole role) const override
+    {
+        QProxyStyle::drawItemText(painter, place, flags | Qt::AlignAbsolute, palette, isEnabled,
+                                  text, role);
+    }
+};
+
+void KeepCaptionsByPictures(QWidget &window)
+{
+    auto *style = new MirroredOnce;
+    style->setParent(&window);
+    for (auto *button : window.findChildren<QPushButton *>())
+        button->setStyle(style);
+}
+
 /// Styles put a mark before an entry that grows with the text, but leave room for one that does
 /// not, and cut the longest entry short.
 void LeaveRoomForMarks(QMenu &menu)
@@ -73,6 +96,8 @@ void FollowDesktop(QWidget &window)
     ShowFocusAlways(window);
     for (auto *button : window.findChildren<QAbstractButton *>())
         new IconSize(button);
+    if (window.isRightToLeft())
+        KeepCaptionsByPictures(window);
     for (auto *tabs : window.findChildren<QTabWidget *>())
         new IconSize(tabs);
     for (auto *menu : window.findChildren<QMenu *>())

@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
 #include <QTableView>
@@ -88,10 +89,10 @@ void ExpectWayOn(const QWidget &window)
             << Name(*button);
 }
 
-/// Where its words are seen: in the middle of a picture of the label alone.
-int MiddleOfWords(QLabel &label)
+/// Where its words are seen: in the middle of a picture of the widget alone.
+int MiddleOfWords(QWidget &widget)
 {
-    const QImage picture = label.grab().toImage();
+    const QImage picture = widget.grab().toImage();
     const QRgb ground = picture.pixel(0, 0);
     int first = picture.width(), last = 0;
     for (int y = 0; y < picture.height(); ++y)
@@ -115,6 +116,19 @@ void ExpectLabelsAtBeginning(const QWidget &window)
         EXPECT_EQ(MiddleOfWords(*label) > label->width() / 2, window.isRightToLeft())
             << Name(*label);
     }
+}
+
+/// As nearly as the blank around a picture lets them be.
+void ExpectCaptionsInMiddle(const QWidget &window)
+{
+    for (auto *button : Shown<QPushButton>(window))
+        if (!button->icon().isNull() && !button->isFlat()) {
+            button->setFlat(true); // on an even ground
+            EXPECT_NEAR(MiddleOfWords(*button), button->width() / 2.0,
+                        button->fontMetrics().averageCharWidth())
+                << Name(*button);
+            button->setFlat(false);
+        }
 }
 
 void ExpectMirrored(const QWidget &window)
@@ -180,6 +194,7 @@ void ExpectLooksRight(const QWidget &window)
     ExpectWayOn(window);
     ExpectMirrored(window);
     ExpectLabelsAtBeginning(window);
+    ExpectCaptionsInMiddle(window);
     ExpectBeginning(window);
     ExpectIconsAsLargeAsText(window);
     ExpectLinkOverWords(window);
