@@ -12,11 +12,12 @@ cross_build() {
     cmake --install "$windows/$name-build"
 }
 
-# Without what the programs have no use for. Debian leaves the headers for tablets out.
+# Without what the programs have no use for. Debian leaves the headers for tablets out, and
+# DirectWrite 3 wants Direct2D.
 build_qt() {
     local off=() feature
-    for feature in androiddeployqt concurrent dbus direct2d gif jpeg pkg_config printsupport qmake \
-        sql system_zlib tabletevent vulkan xml; do
+    for feature in androiddeployqt concurrent dbus direct2d directwrite3 gif jpeg pkg_config \
+        printsupport qmake sql system_zlib tabletevent vulkan xml; do
         off+=("-DFEATURE_$feature=OFF")
     done
     cross_build qt "$sources/qt6-base" -DCMAKE_INSTALL_PREFIX="$windows/qt" \
