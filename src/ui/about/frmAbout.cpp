@@ -1,11 +1,10 @@
 #include "ui/about/frmAbout.h"
 
 #include "ui/common/desktop_manners.h"
+#include "ui/common/help_key.h"
 #include "ui/common/pictures.h"
 #include "ui/common/screen_centre.h"
 #include "ui_frmAbout.h"
-
-#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -45,7 +44,7 @@ frmAbout::frmAbout(const Environment &environment, QWidget *parent)
     CentreOnScreen(*this);
     ui->cmdOK->setFocus(); // not on the link, which Enter would follow
 
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmAbout::HelpAsked);
+    ShowHelpByKey(*this, [this] { emit HelpAsked(); });
     connect(ui->lblurl, &LinkLabel::Followed, this,
             [open = environment.open, address = environment.siteAddress] { open(address); });
     connect(ui->cmdOK, &QPushButton::clicked, this, &frmAbout::accept);

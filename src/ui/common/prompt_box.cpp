@@ -1,6 +1,6 @@
 #include "ui/common/prompt_box.h"
-
 #include "ui/common/focus_ring.h"
+#include "ui/common/help_key.h"
 #include "ui/common/screen_centre.h"
 #include "ui/common/scroll_page.h"
 
@@ -78,6 +78,8 @@ void PromptBox::showEvent(QShowEvent *event)
 
 void PromptBox::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_F1)
+        return PressHelpKeyBelow(parentWidget());
     QScrollBar *bar = m_page->verticalScrollBar();
     const bool turns = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
     turns && bar->isVisible() ? void(QCoreApplication::sendEvent(bar, event))

@@ -8,7 +8,8 @@ class ScrollPage;
 
 /// A message box that fits its screen with its frame: as wide as its text is read best, wider where
 /// it is too high for the screen, and at last the text scrolls, by the keys that turn pages, too.
-/// The buttons always stand below it in view. Words are never broken, nor is the text markup.
+/// The buttons always stand below it in view. Words are never broken, nor is the text markup. F1
+/// shows the help of the window below.
 class PromptBox : public QMessageBox
 {
 public:

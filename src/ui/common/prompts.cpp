@@ -1,11 +1,10 @@
 #include "ui/common/prompts.h"
-
+#include "ui/common/help_key.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/prompt_box.h"
 
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QShortcut>
 
 namespace vellumo {
 
@@ -77,8 +76,7 @@ QString AskText(QWidget *parent, const QString &title, const QString &prompt,
     input.setTextEchoMode(QLineEdit::Normal); // makes the box
     KeepToOneLine(input.findChild<QLineEdit *>());
     if (showHelp)
-        QObject::connect(new QShortcut(Qt::Key_F1, &input), &QShortcut::activated, &input,
-                         showHelp);
+        ShowHelpByKey(input, showHelp);
     if (input.exec() != QDialog::Accepted)
         return {};
     return input.textValue();

@@ -3,6 +3,7 @@
 #include "help/help_topics.h"
 #include "model/project_file.h"
 #include "ui/common/desktop_manners.h"
+#include "ui/common/help_key.h"
 #include "ui/common/prompts.h"
 #include "ui/common/screen_centre.h"
 #include "ui/common/stray_input.h"
@@ -120,8 +121,7 @@ void appInfoForm::ConnectKeys()
     WalkTabsByKeys(*ui->SSTab1);
     PressButtonsByEnter(*this);
     new StrayLetters(this);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
+    ShowHelpByKey(*this, [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
 
     for (const QKeySequence &key : KeysOf(QKeySequence::Undo, Qt::CTRL | Qt::Key_Z))
         connect(new QShortcut(key, this), &QShortcut::activated, &m_document,

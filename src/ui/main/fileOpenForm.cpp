@@ -1,13 +1,13 @@
 #include "ui/main/fileOpenForm.h"
 
 #include "ui/common/desktop_manners.h"
+#include "ui/common/help_key.h"
 #include "ui/common/screen_centre.h"
 #include "ui_fileOpenForm.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
-#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +26,7 @@ fileOpenForm::fileOpenForm(QString projectsFolder, std::function<void()> hideOpe
     ui->Option1_1->installEventFilter(this);
     FollowDesktop(*this);
     CentreOnScreen(*this);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &fileOpenForm::HelpAsked);
+    ShowHelpByKey(*this, [this] { emit HelpAsked(); });
 
     connect(ui->Option1_1, &QRadioButton::toggled, this, &fileOpenForm::ShowFileName);
     connect(ui->Option1_1, &QRadioButton::clicked, this, &fileOpenForm::ChooseFile);

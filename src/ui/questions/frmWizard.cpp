@@ -8,6 +8,7 @@
 #include "ui/common/box_names.h"
 #include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
+#include "ui/common/help_key.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
@@ -19,7 +20,6 @@
 #include "ui_frmWizard.h"
 
 #include <QEvent>
-#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -102,8 +102,7 @@ void frmWizard::ConnectControls()
     connect(ui->cmdNav_3, &QPushButton::clicked, this, &frmWizard::GoNext);
     connect(ui->cmdNav_4, &QPushButton::clicked, this, &frmWizard::Finish);
     connect(ui->lstWiz1_1, &QListWidget::itemDoubleClicked, this, &frmWizard::GoNext);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
+    ShowHelpByKey(*this, [this] { emit HelpAsked(helpOfSteps[m_step - 1]); });
     connect(ui->items, &ItemListEditor::HelpAsked, this, &frmWizard::HelpAsked);
     for (const LinkLabel *link :
          {ui->lblLkWzType, ui->lblLkWzTitle, ui->lblLkWzColumn, ui->lblLkWzText})

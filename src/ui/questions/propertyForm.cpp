@@ -6,6 +6,7 @@
 #include "ui/common/box_names.h"
 #include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
+#include "ui/common/help_key.h"
 #include "ui/common/key_filter.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/plain_text.h"
@@ -17,7 +18,6 @@
 
 #include <QFontMetricsF>
 #include <QListView>
-#include <QShortcut>
 #include <QtMath>
 
 using namespace Qt::StringLiterals;
@@ -67,8 +67,7 @@ propertyForm::propertyForm(ProjectDocument &document, QWidget *parent)
     KeepToOneLine(ui->txtTitle);
     KeepToOneLine(ui->txtColumnName);
     KeepWheelForFocus(ui->cboType);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { emit HelpAsked(HelpContext::questionProperties); });
+    ShowHelpByKey(*this, [this] { emit HelpAsked(HelpContext::questionProperties); });
 
     connect(ui->items, &ItemListEditor::HelpAsked, this, &propertyForm::HelpAsked);
 

@@ -132,6 +132,9 @@ TEST(DeskKeys, OpenTheHelpThatFits)
     InDialog<propertyForm>([](propertyForm &) { Press(Qt::Key_F1); });
     Press(Qt::Key_Return);
     designer.Activate();
+    InDialog<QMessageBox>([](QMessageBox &) { Press(Qt::Key_F1); }); // that asks to delete
+    Press(Qt::Key_Delete);
+    designer.Activate();
     InDialog<frmWizard>([](frmWizard &wizard) {
         Press(Qt::Key_F1);
         wizard.findChild<QListWidget *>(u"lstWiz1_1"_s)->setCurrentRow(9);
@@ -148,9 +151,10 @@ TEST(DeskKeys, OpenTheHelpThatFits)
     for (const QList<QVariant> &one : asked)
         pages += one[0].toUInt();
     using namespace HelpContext;
-    EXPECT_EQ(pages, (QList<quint32>{formInformation, questions, uploadingData, finalReview,
-                                     questionProperties, HelpContext::questionTypes, questionWizard,
-                                     questionWizard, questionWizard, items, items}));
+    EXPECT_EQ(pages,
+              (QList<quint32>{formInformation, questions, uploadingData, finalReview,
+                              questionProperties, questions, HelpContext::questionTypes,
+                              questionWizard, questionWizard, questionWizard, items, items}));
 }
 
 TEST(DeskKeys, WithAltNeverBecomeText)
