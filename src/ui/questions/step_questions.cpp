@@ -1,7 +1,6 @@
 #include "ui/questions/step_questions.h"
 
 #include "editing/question_list.h"
-#include "handheld/screen_geometry.h"
 #include "help/help_topics.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/pictures.h"
@@ -16,13 +15,9 @@
 #include "ui/questions/row_keys.h"
 #include "ui_step_questions.h"
 
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QScreen>
-#include <QScrollBar>
 #include <QTextDocument>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +27,7 @@ namespace vellumo {
 StepQuestions::StepQuestions(ProjectDocument &document, QWidget *parent)
     : StepPage(document, parent),
       ui(std::make_unique<Ui::StepQuestions>()),
+      m_layout(*ui),
       m_model(new QuestionModel(document, this))
 {
     ui->setupUi(this);
@@ -258,62 +254,25 @@ void StepQuestions::FollowGrid(const QModelIndex &current)
         RefreshPreview();
 }
 
-bool StepQuestions::IsLargeEnough() const
-{
-    // 790 by 576 pixels, in the unit in which the limit was set.
-    constexpr int twipsPerPixel = 15, leastWidth = 11850, leastHeight = 8640;
-    const auto reaches = [](QSize size) {
-        return size.width() * twipsPerPixel >= leastWidth &&
-               size.height() * twipsPerPixel >= leastHeight;
-    };
-    return reaches(window()->size()) || !reaches(screen()->availableSize());
-}
-
 void StepQuestions::LayOutIfLargeEnough()
 {
-    if (IsLargeEnough())
-        LayOut();
+    m_layout.LayOutIfLargeEnough();
 }
 
 int StepQuestions::LeastView() const
 {
-    return ui->DataGrid1->horizontalHeader()->sizeHint().height() +
-           2 * ui->DataGrid1->verticalHeader()->defaultSectionSize() +
-           ui->scrollArea->horizontalScrollBar()->sizeHint().height();
-}
-
-void StepQuestions::LayOut()
-{
-    // Of a window that is larger than at the start, the preview takes its share.
-    constexpr QSize start(860, 620);
-    const QSize more = (window()->size() - start).expandedTo({0, 0});
-    ui->previewBox->SetSide(screen::width + std::min(more.width() / 3, more.height()));
-    const QSize room = ui->scrollArea->maximumViewportSize();
-    Fit(room);
-    if (ui->content->height() > room.height()) // the bar's place is not to scroll sideways for
-        Fit(room - QSize(ui->scrollArea->verticalScrollBar()->sizeHint().width(), 0));
-    LayOutColumns(*ui->DataGrid1);
-    m_laidOut = true;
-}
-
-/// Not smaller than the texts are.
-void StepQuestions::Fit(QSize size)
-{
-    size = size.expandedTo(ui->content->minimumSizeHint());
-    size.setHeight(std::max(size.height(), ui->content->heightForWidth(size.width())));
-    ui->content->resize(size);
+    return m_layout.LeastView();
 }
 
 void StepQuestions::showEvent(QShowEvent *event)
 {
     StepPage::showEvent(event);
-    if (!m_laidOut)
-        LayOut();
+    m_layout.LayOutOnce();
 }
 
 void StepQuestions::FitContent()
 {
-    IsLargeEnough() ? LayOut() : Fit(ui->content->size()); // as the heading may scroll along
+    m_layout.FitContent();
 }
 
 } // namespace vellumo
