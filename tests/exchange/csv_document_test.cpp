@@ -2,7 +2,7 @@
 
 #include "exchange/sheet_import.h"
 #include "exchange/sheet_writer.h"
-#include "support/files.h"
+#include "support/page.h"
 #include "support/print.h"
 
 #include <gtest/gtest.h>
@@ -13,21 +13,14 @@ using namespace vellumo;
 namespace {
 
 /// The sheets in the document, in their order.
-QList<QByteArray> Examples()
+QStringList Examples()
 {
-    QList<QByteArray> examples;
-    const QByteArray document = BytesOf(DataFile(u"../../docs/csv.md"_s));
-    const QByteArray begin = "```csv\n", end = "```\n";
-    for (qsizetype at = 0; (at = document.indexOf(begin, at)) >= 0;) {
-        at += begin.size();
-        examples += document.sliced(at, document.indexOf(end, at) - at);
-    }
-    return examples;
+    return ExamplesIn(Page(u"csv.md"_s), u"csv"_s);
 }
 
-SheetImport Imported(const QByteArray &bytes)
+SheetImport Imported(const QString &text)
 {
-    const Result<Sheet> sheet = ReadSheet(bytes);
+    const Result<Sheet> sheet = ReadSheet(text.toUtf8());
     return sheet ? ImportSheet(*sheet) : SheetImport{.refusals = {{0, {}, sheet.error().text}}};
 }
 
@@ -46,7 +39,7 @@ TEST(CsvDocument, TheSheetIsWhatItsProjectIsExportedAs)
     // What a document cannot show: the mark, and how rows end. Cells are written with LF.
     QByteArray written = WriteSheet(import.project);
     EXPECT_TRUE(written.startsWith("\xEF\xBB\xBF"));
-    EXPECT_EQ(written.sliced(3).replace("\r\n", "\n"), Examples()[0]);
+    EXPECT_EQ(QString::fromUtf8(written.sliced(3).replace("\r\n", "\n")), Examples()[0]);
 }
 
 TEST(CsvDocument, ThePersonsSheetIsAProject)

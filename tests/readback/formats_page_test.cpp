@@ -1,9 +1,14 @@
-// docs/palm-formats.md is held against the code: its tables of types and of objects are true.
+// docs/palm-formats.md is held against the code: its tables of types and of objects are true, and
+// so is its example.
 
+#include "palmtools/pilrc/compiler.h"
+#include "palmtools/pilrc/resource_file.h"
 #include "readback/delivered_types.h"
+#include "readback/form_reader.h"
 #include "readback/object_layouts.h"
+#include "readback/palm_database.h"
 
-#include "support/files.h"
+#include "support/page.h"
 #include "support/print.h"
 
 #include <QRegularExpression>
@@ -14,25 +19,6 @@ using namespace Qt::StringLiterals;
 using namespace vellumo;
 
 namespace {
-
-/// The rows of the table that begins with these words, each as its cells.
-QList<QStringList> TableOf(const QString &head)
-{
-    const QString page = QString::fromUtf8(BytesOf(DataFile(u"../../docs/palm-formats.md"_s)));
-    QList<QStringList> rows;
-    const qsizetype start = page.indexOf(head);
-    EXPECT_GE(start, 0) << head.toStdString();
-    const QStringList lines = page.mid(start).split(u'\n').mid(2);
-    for (const QString &line : lines) {
-        if (!line.startsWith(u'|'))
-            break;
-        QStringList cells = line.split(u'|');
-        for (QString &cell : cells)
-            cell = cell.trimmed();
-        rows.append(cells.mid(1));
-    }
-    return rows;
-}
 
 /// A number that the page has for an object: its offset, its size, and the member that takes it.
 struct Described {
@@ -95,7 +81,7 @@ QList<Described> NumbersOf(const QStringList &row, ObjectKind kind)
 
 TEST(FormatsPage, HasTheTypesOfQuestions)
 {
-    const QList<QStringList> rows = TableOf(u"| Type | `ques` |"_s);
+    const QList<QStringList> rows = TableOf(Page(u"palm-formats.md"_s), u"| Type | `ques` |"_s);
     ASSERT_EQ(rows.size(), 10);
     for (const QStringList &row : rows) {
         SCOPED_TRACE(row[0].toStdString());
@@ -110,7 +96,8 @@ TEST(FormatsPage, HasTheTypesOfQuestions)
 
 TEST(FormatsPage, HasTheObjectsOfAForm)
 {
-    const QList<QStringList> rows = TableOf(u"| Kind | Object | Size |"_s);
+    const QList<QStringList> rows =
+        TableOf(Page(u"palm-formats.md"_s), u"| Kind | Object | Size |"_s);
     ASSERT_EQ(rows.size(), 10);
     for (const QStringList &row : rows) {
         SCOPED_TRACE(row[1].toStdString());
@@ -129,4 +116,27 @@ TEST(FormatsPage, HasTheObjectsOfAForm)
         for (const Described &number : numbers)
             EXPECT_EQ(object.*number.member, number.offset + 1);
     }
+}
+
+TEST(FormatsPage, HasTheResourceFileOfAScript)
+{
+    const QString page = Page(u"palm-formats.md"_s);
+    const QStringList scripts = ExamplesIn(page, u"rcp"_s), dumps = ExamplesIn(page, u"dump"_s);
+    ASSERT_EQ(scripts.size(), 1);
+    ASSERT_EQ(dumps.size(), 1);
+    const auto compiled = palmtools::CompileScript(scripts[0].toStdString());
+    ASSERT_FALSE(compiled.failed);
+    const auto file = palmtools::EncodeResourceFile("open.ro", compiled.resources);
+    const QByteArray bytes = BytesOfDump(dumps[0]);
+    ASSERT_TRUE(file);
+    const QByteArray made(file->data(), static_cast<qsizetype>(file->size()));
+    EXPECT_EQ(bytes.toHex(' ').toStdString(), made.toHex(' ').toStdString());
+
+    const Result<PalmDatabase> read = ReadDatabase(bytes);
+    ASSERT_TRUE(read) << read.error().text.toStdString();
+    ASSERT_EQ(read->resources.size(), 3);
+    const Result<Form> form = ReadForm(read->resources[1].data);
+    ASSERT_TRUE(form) << form.error().text.toStdString();
+    ASSERT_EQ(form->objects.size(), 1);
+    EXPECT_EQ(form->objects[0].text, "Is it open?");
 }

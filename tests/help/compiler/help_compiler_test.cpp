@@ -1,7 +1,7 @@
 #include "help/compiler/help_compiler.h"
 
 #include "help/compiler/archive_writer.h"
-#include "support/files.h"
+#include "support/page.h"
 #include "support/print.h"
 
 #include <QFileInfo>
@@ -53,6 +53,21 @@ std::map<QString, QByteArray> Unpacked(const QByteArray &help)
         }
     }
     return objects;
+}
+
+/// docs/help-file.md has it.
+TEST(HelpCompiler, MakesTheExampleOfItsPage)
+{
+    constexpr HelpTopic topic[] = {{7, QLatin1StringView("a.html")}};
+    const auto help = CompileHelp({u"Small"_s,
+                                   u"a.html"_s,
+                                   u"toc.hhc"_s,
+                                   topic,
+                                   {{u"a.html"_s, "<p>Hello.</p>"}, {u"toc.hhc"_s, "<ul></ul>"}}});
+    ASSERT_TRUE(help) << help.error().text.toStdString();
+    const QStringList dumps = ExamplesIn(Page(u"help-file.md"_s), u"dump"_s);
+    ASSERT_EQ(dumps.size(), 1);
+    EXPECT_EQ(BytesOfDump(dumps[0]).toHex(' ').toStdString(), help->toHex(' ').toStdString());
 }
 
 TEST(HelpCompiler, IsReadByAnotherProgram)
