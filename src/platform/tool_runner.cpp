@@ -101,7 +101,8 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
     run.end = Finish(process, limits);
     if (run.end == ToolEnd::Failed)
         run.reason = WhyFailed(process);
-    run.messages = QString::fromLocal8Bit(messages.isEmpty() ? output : messages);
+    run.messages = QString::fromLocal8Bit(messages.isEmpty() ? output : messages)
+                       .replace("\r\n"_L1, "\n"_L1); // as tools of Windows end lines
     return run;
 }
 

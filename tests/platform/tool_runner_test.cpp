@@ -34,9 +34,9 @@ protected:
 
 TEST_F(ToolRunner, WaitsForTheToolAndRunsItInItsFolder)
 {
-    const ToolRun run = Run({u"print"_s, u"working"_s, u"write"_s, u"made.txt"_s, u"content"_s});
+    const ToolRun run = Run({u"print"_s, u"work\r\ning"_s, u"write"_s, u"made.txt"_s, u"content"_s});
     EXPECT_EQ(run.end, ToolEnd::Succeeded);
-    EXPECT_EQ(run.messages, u"working\n"_s) << "there was nothing on standard error";
+    EXPECT_EQ(run.messages, u"work\ning\n"_s) << "there was nothing on standard error";
     EXPECT_EQ(run.reason, u""_s);
     EXPECT_EQ(run.commandLine, u"the command line"_s);
     EXPECT_EQ(BytesOf(m_folder.filePath(u"made.txt"_s)), "content");
