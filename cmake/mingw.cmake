@@ -13,6 +13,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
+# An inline function of many sources is there once, and any of its copies may be the one: what a caller
+# has learnt of the registers of its own copy need not hold, yet here the compiler goes by it.
+set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra)
+
 # A program needs no library beside it, and is the same whenever it is linked.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s -Wl,--no-insert-timestamp")
 set(ZLIB_USE_STATIC_LIBS ON)
