@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <csignal>
@@ -31,6 +32,17 @@ QString FindTool(const QString &name, const QStringList &folders)
 void Keep(QByteArray &messages, const QByteArray &more)
 {
     messages.append(more.first(std::min(more.size(), mostMessages - messages.size())));
+}
+
+/// Our own tools write UTF-8 on every system, others may write in the code page of the place; on
+/// Windows lines end in their own way, too.
+QString TextOf(const QByteArray &messages)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8(messages);
+    if (utf8.hasError())
+        text = QString::fromLocal8Bit(messages);
+    return text.replace("\r\n"_L1, "\n"_L1);
 }
 
 /// Empty when the tool succeeded.
@@ -101,8 +113,7 @@ ToolRun RunAndWait(const ToolCall &call, const ToolLimits &limits)
     run.end = Finish(process, limits);
     if (run.end == ToolEnd::Failed)
         run.reason = WhyFailed(process);
-    run.messages = QString::fromLocal8Bit(messages.isEmpty() ? output : messages)
-                       .replace("\r\n"_L1, "\n"_L1); // as tools of Windows end lines
+    run.messages = TextOf(messages.isEmpty() ? output : messages);
     return run;
 }
 

@@ -1,7 +1,7 @@
 // Stands in for an external tool. Its arguments are orders: "print TEXT" and "complain TEXT" write
 // to standard output and standard error, "write FILE TEXT" makes a file in the current folder,
-// "flood" writes 10 MB to standard error, "fail STATUS" ends it, "crash" kills it, "hang" keeps it
-// from ending. All arguments are first written to arguments.txt.
+// "accent" writes a letter of UTF-8 and "flood" 8 MB to standard error, "fail STATUS" ends it,
+// "crash" kills it, "hang" keeps it from ending. All arguments are first written to arguments.txt.
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -37,6 +37,8 @@ int main(int argc, char *argv[])
             std::cout << orders[++i] << std::endl;
         else if (orders[i] == "complain")
             std::cerr << orders[++i] << std::endl;
+        else if (orders[i] == "accent")
+            std::cerr << "caf\xC3\xA9" << std::endl;
         else if (orders[i] == "fail")
             return std::atoi(orders[++i].c_str());
         else if (orders[i] == "crash")

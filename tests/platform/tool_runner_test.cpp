@@ -34,7 +34,8 @@ protected:
 
 TEST_F(ToolRunner, WaitsForTheToolAndRunsItInItsFolder)
 {
-    const ToolRun run = Run({u"print"_s, u"work\r\ning"_s, u"write"_s, u"made.txt"_s, u"content"_s});
+    const ToolRun run =
+        Run({u"print"_s, u"work\r\ning"_s, u"write"_s, u"made.txt"_s, u"content"_s});
     EXPECT_EQ(run.end, ToolEnd::Succeeded);
     EXPECT_EQ(run.messages, u"work\ning\n"_s) << "there was nothing on standard error";
     EXPECT_EQ(run.reason, u""_s);
@@ -48,6 +49,8 @@ TEST_F(ToolRunner, KeepsTheToolsOwnWordsAndStatus)
     EXPECT_EQ(failed.end, ToolEnd::Failed);
     EXPECT_EQ(failed.messages, u"no good\n"_s);
     EXPECT_EQ(failed.reason, u"exit status 3"_s);
+
+    EXPECT_EQ(Run({u"accent"_s}).messages, u"caf\u00E9\n"_s);
 
     const ToolRun crashed = Run({u"crash"_s});
     EXPECT_EQ(crashed.end, ToolEnd::Failed);
