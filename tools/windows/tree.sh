@@ -7,10 +7,18 @@ start_wine() {
     HOME=$windows/home wineboot --init
 }
 
+# What this system's own build gives: the icon, and the vellumo with which theirs is compared.
+build_here() {
+    quietly cmake --preset release
+    quietly cmake --build --preset release --target vellumo icons
+    convert build/release/packaging/{16,24,32,48,64,128,256}.png "$icon"
+}
+
 build_tree() {
     say 'Building the programs and their tests into build/windows/tree'
     quietly cmake -G Ninja -S . -B "$tree" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-        -DCMAKE_BUILD_TYPE=Release -DCMAKE_CROSSCOMPILING_EMULATOR="$(command -v wine)"
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_CROSSCOMPILING_EMULATOR="$(command -v wine)" \
+        -DVELLUMO_ICON="$icon"
     quietly cmake --build "$tree"
 }
 
@@ -23,8 +31,6 @@ run_tests() {
 
 # What this system's own vellumo makes is what must come of the packed programs.
 try_archive() {
-    quietly cmake --preset release
-    quietly cmake --build --preset release --target vellumo
     rm -rf "$windows/tried"
     unzip -q "$archive" -d "$windows/tried"
     tools/windows/try-designer "$windows/tried/${archive_name}" "$PWD/build/release/bin/vellumo" \
