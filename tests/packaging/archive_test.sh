@@ -28,11 +28,22 @@ grep -qF '.local/bin, where vellumo is' "$work/told" || fail 'nothing was said o
 rm -r "$work/un packed/lib" # what was installed needs it no more
 entry="$HOME/.local/share/applications/vellumo-designer.desktop"
 desktop-file-validate "$entry"
-[[ $(gio info -a standard::content-type "$HOME/one form.vmp") == *application/x-vellumo-project* ]] ||
-    fail 'the media type'
+# is_of FILE TYPE: for the desktop.
+is_of() {
+    [[ $(gio info -a standard::content-type "$1") == *"application/$2" ]] || fail "the media type of $1"
+}
+is_of "$HOME/one form.vmp" x-vellumo-project
 [[ $(gio mime application/x-vellumo-project) == *vellumo-designer.desktop* ]] || fail 'nothing opens a project'
 (cd "$work" && "$HOME/.local/bin/vellumo" create -o "$work/made.prc" "$HOME/one form.vmp" >/dev/null)
 "$HOME/.local/bin/vellumo" verify "$work/made.prc" "$project"
+is_of "$work/made.prc" x-vellumo-database
+# What others have under that ending stays what the system takes it for.
+for other in applOthr BOOKMOBI; do
+    cp "$work/made.prc" "$work/$other.prc"
+    printf %s $other | dd of="$work/$other.prc" bs=1 seek=60 conv=notrunc status=none
+    theirs=$(XDG_DATA_HOME=/none gio info -a standard::content-type "$work/$other.prc")
+    is_of "$work/$other.prc" "${theirs##*application/}"
+done
 gio launch "$entry" "$HOME/one form.vmp" 2>"$work/designer.log"
 await 20 'no main window' is_main
 keys ctrl+q
