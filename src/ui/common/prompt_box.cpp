@@ -1,4 +1,5 @@
 #include "ui/common/prompt_box.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/help_key.h"
 #include "ui/common/screen_centre.h"
@@ -35,6 +36,7 @@ PromptBox::PromptBox(Icon icon, const QString &title, const QString &text, const
     setInformativeText(below);
     PutTextIntoPage();
     RingWhenFocused(m_page);
+    FollowDesktop(*this);
     KeepOnScreen(*this);
 }
 
@@ -58,7 +60,25 @@ void PromptBox::PutTextIntoPage()
     grid->addWidget(m_page, row, column, 2, columns);
 }
 
-/// The toolkit would give the box a size of its own. All that changes while it is up is the font.
+/// Of one size from the start: a window manager that is told another one first may come back to it.
+/// The toolkit's preparations for being shown would set theirs if the box were visible.
+void PromptBox::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        QShowEvent coming;
+        QMessageBox::showEvent(&coming);
+        Fit();
+    }
+    QMessageBox::setVisible(visible);
+}
+
+void PromptBox::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    SettleText();
+}
+
+/// The toolkit would set a size of its own. All that changes while the box is up is the font.
 bool PromptBox::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest)
@@ -69,11 +89,11 @@ bool PromptBox::event(QEvent *event)
     return handled;
 }
 
-void PromptBox::showEvent(QShowEvent *event)
+void PromptBox::resizeEvent(QResizeEvent *event)
 {
-    QMessageBox::showEvent(event);
-    Fit();
-    adjustPosition(parentWidget());
+    QMessageBox::resizeEvent(event);
+    if (isVisible())
+        SettleText();
 }
 
 void PromptBox::keyPressEvent(QKeyEvent *event)
@@ -102,6 +122,11 @@ void PromptBox::Fit()
     setMinimumSize(least);
     setMaximumSize((text + around).expandedTo(least).expandedTo({title, 0}).boundedTo(room));
     resize(maximumSize());
+}
+
+/// Whether it has to scroll is known in the size that the box has at last.
+void PromptBox::SettleText()
+{
     layout()->activate();
     m_page->Settle();
     const bool scrolls =

@@ -18,14 +18,18 @@ public:
     PromptBox(Icon icon, const QString &title, const QString &text, const QString &below,
               StandardButtons buttons, QWidget *parent);
 
+    void setVisible(bool visible) override;
+
 protected:
     bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void PutTextIntoPage();
     void Fit();
+    void SettleText();
     void FitButtons(QSize room);
     void FitIcon(int room);
     QSize Around();

@@ -1,4 +1,5 @@
 #include "ui/common/prompts.h"
+#include "ui/common/desktop_manners.h"
 #include "ui/common/help_key.h"
 #include "ui/common/one_line_box.h"
 #include "ui/common/prompt_box.h"
@@ -75,6 +76,7 @@ QString AskText(QWidget *parent, const QString &title, const QString &prompt,
     input.setLabelText(prompt);
     input.setTextEchoMode(QLineEdit::Normal); // makes the box
     KeepToOneLine(input.findChild<QLineEdit *>());
+    FollowDesktop(input);
     if (showHelp)
         ShowHelpByKey(input, showHelp);
     if (input.exec() != QDialog::Accepted)

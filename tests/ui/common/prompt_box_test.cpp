@@ -132,6 +132,50 @@ TEST(PromptBox, ComesToRest)
     });
 }
 
+/// The sizes that a box has had.
+class Sizes : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize)
+            all += static_cast<QResizeEvent *>(event)->size();
+        return false;
+    }
+
+    QList<QSize> all;
+};
+
+/// A window manager that was told of another one first may come back to it.
+TEST(PromptBox, IsOfOneSizeFromTheStart)
+{
+    PromptBox box(QMessageBox::Question, u"Vellumo Designer"_s, u"Sure?"_s, u"It is final."_s,
+                  QMessageBox::Yes | QMessageBox::No, nullptr);
+    Sizes sizes;
+    box.installEventFilter(&sizes);
+    box.show();
+    QTest::qWait(50);
+    EXPECT_EQ(sizes.all, QList<QSize>(sizes.all.size(), box.size()));
+    EXPECT_FALSE(sizes.all.isEmpty());
+}
+
+/// What a window manager answers late, with the frames that it makes, changes nothing.
+TEST(PromptBox, KeepsItsSizeInAFrame)
+{
+    constexpr int frame = 8; // pixels
+    if (QGuiApplication::platformName() != u"xcb"_s)
+        return; // there is none
+    ShowExamples([](const PromptBox &box) {
+        QTest::qWait(250); // milliseconds
+        EXPECT_GE(box.width(), box.maximumWidth() - frame);
+        EXPECT_GE(box.height(), box.maximumHeight() - frame);
+        const QRect room = box.screen()->availableGeometry();
+        EXPECT_TRUE(room.contains(box.frameGeometry()));
+        EXPECT_TRUE(!PageOf(box).verticalScrollBar()->isVisible() ||
+                    box.height() > room.height() - 2 * box.fontMetrics().lineSpacing());
+    });
+}
+
 TEST(PromptBox, TurnsThePagesOfItsTextFromAButton)
 {
     PromptBox box(QMessageBox::Question, {}, RefusedRows().repeated(20), {}, QMessageBox::Ok,
