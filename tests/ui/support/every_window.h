@@ -62,6 +62,7 @@ template <typename Show> void ShowHelp(const Show &show)
         std::move(*file), [](const QString &) {}, nullptr);
     help.ShowPage(page);
     show(help, "help");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&help)); // or the key is nobody's
     QTest::keyClick(&help, Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(help.findChild<QWidget *>(QStringLiteral("findBar"))->isVisible());
     show(help, "help with its find bar");
