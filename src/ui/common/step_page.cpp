@@ -58,7 +58,8 @@ void StepPage::SetLow(bool low, QBoxLayout &foot)
 
 int StepPage::LeastView() const
 {
-    return 3 * fontMetrics().lineSpacing();
+    constexpr int lines = 5; // a sentence, a box and the next
+    return lines * fontMetrics().lineSpacing();
 }
 
 void StepPage::resizeEvent(QResizeEvent *event)

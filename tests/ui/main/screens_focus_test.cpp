@@ -1,5 +1,6 @@
 // Where the focus is, on each of the screens.
 #include "ui/common/scroll_page.h"
+#include "ui/common/step_page.h"
 #include "ui/main/window_looks.h"
 
 #include <QHeaderView>
@@ -83,15 +84,23 @@ TEST(Screens, ArriveAtStepsWithTheFocusInView)
 }
 
 /// As far as any window has that much room at all.
-TEST(Screens, ShowTheListWithTwoRows)
+TEST(Screens, ShowWhatAStepHasToShow)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
-    designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
-    SettleWindows();
-    const auto *grid = designer.Find<QTableView>("DataGrid1");
-    const int rows = grid->horizontalHeader()->height() + 2 * grid->rowHeight(0);
-    EXPECT_GE(grid->visibleRegion().boundingRect().height(),
-              std::min(rows, designer.window.height() / 3));
+    for (const int points : {9, 18}) {
+        const Desktop desktop(points, Qt::LeftToRight);
+        Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+        for (int index = 0; index < 4; ++index) {
+            designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(index);
+            SettleWindows();
+            for (const auto *step : designer.window.findChildren<StepPage *>())
+                if (step->isVisible()) {
+                    const QWidget *view = step->findChild<ScrollPage *>()->viewport();
+                    EXPECT_GE(view->visibleRegion().boundingRect().height(),
+                              std::min(step->LeastView(), designer.window.height() / 4))
+                        << Name(*step) << ", " << points << " points";
+                }
+        }
+    }
 }
 
 } // namespace
