@@ -11,7 +11,21 @@
 #include <thread>
 #include <vector>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 namespace {
+
+/// Lines end as their orders say.
+void WriteBytesAsTheyAre()
+{
+#ifdef _WIN32
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+#endif
+}
 
 void Crash()
 {
@@ -26,6 +40,7 @@ void Crash()
 
 int main(int argc, char *argv[])
 {
+    WriteBytesAsTheyAre();
     const std::vector<std::string> orders(argv + 1, argv + argc);
     std::ofstream record("arguments.txt", std::ios::binary);
     for (const std::string &order : orders)
