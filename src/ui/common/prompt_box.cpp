@@ -67,6 +67,7 @@ void PromptBox::setVisible(bool visible)
     if (visible && !isVisible()) {
         QShowEvent coming;
         QMessageBox::showEvent(&coming);
+        SettleLayouts(*this);
         Fit();
     }
     QMessageBox::setVisible(visible);
