@@ -36,16 +36,24 @@ void ButtonLine::Fit()
 {
     if (!isVisible())
         return;
-    constexpr int smallest = 6; // points
     const int room = window()->height() * 2 / 5;
-    const auto buttons = findChildren<QAbstractButton *>();
-    QFont text; // that of the line
-    for (int points = QFontInfo(font()).pointSize();; text.setPointSize(--points)) {
+    ShrinkText(*this, findChildren<QAbstractButton *>(), [this, room] {
+        layout()->invalidate();
+        return layout()->heightForWidth(width()) <= room;
+    });
+    updateGeometry();
+}
+
+void ShrinkText(const QWidget &line, const QList<QAbstractButton *> &buttons,
+                const std::function<bool()> &fits)
+{
+    constexpr int smallest = 6; // points
+    QFont text;                 // that of the line
+    for (int points = QFontInfo(line.font()).pointSize();; text.setPointSize(--points)) {
         for (QAbstractButton *button : buttons)
             button->setFont(text);
-        layout()->invalidate();
-        if (points <= smallest || layout()->heightForWidth(width()) <= room)
-            return updateGeometry();
+        if (fits() || points <= smallest)
+            return;
     }
 }
 

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
+
+#include <functional>
+
+class QAbstractButton;
 
 namespace vellumo {
 
@@ -21,5 +26,10 @@ protected:
 private:
     void Fit();
 };
+
+/// Gives the buttons of a line the line's text, or the largest smaller one that fits; no smaller
+/// one than can be read.
+void ShrinkText(const QWidget &line, const QList<QAbstractButton *> &buttons,
+                const std::function<bool()> &fits);
 
 } // namespace vellumo

@@ -16,8 +16,6 @@
 namespace vellumo {
 namespace {
 
-constexpr int usualText = 12; // pixels
-
 /// Keeps the icons of a widget in proportion to its text; never smaller than they are by
 /// themselves.
 template <typename Widget> class IconSize : public QObject
@@ -38,11 +36,7 @@ public:
     }
 
 private:
-    void Follow()
-    {
-        const qreal factor = QFontInfo(m_widget->font()).pixelSize() / qreal(usualText);
-        m_widget->setIconSize(m_ownSize * std::max(1.0, factor));
-    }
+    void Follow() { m_widget->setIconSize(m_ownSize * TextGrowth(*m_widget)); }
 
     Widget *m_widget;
     QSize m_ownSize;
@@ -84,12 +78,18 @@ void LeaveRoomForMarks(QMenu &menu)
 {
     QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu] {
         menu.setMinimumWidth(0);
-        const int more = std::max(0, QFontInfo(menu.font()).pixelSize() - usualText);
-        menu.setMinimumWidth(menu.sizeHint().width() + more);
+        const qreal grown = menu.fontMetrics().height() * (1 - 1 / TextGrowth(menu));
+        menu.setMinimumWidth(menu.sizeHint().width() + qRound(grown));
     });
 }
 
 } // namespace
+
+qreal TextGrowth(const QWidget &widget)
+{
+    constexpr qreal usual = 12; // pixels
+    return std::max(1.0, QFontInfo(widget.font()).pixelSize() / usual);
+}
 
 void FollowDesktop(QWidget &window)
 {

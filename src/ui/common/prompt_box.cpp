@@ -1,14 +1,14 @@
 #include "ui/common/prompt_box.h"
+
+#include "ui/common/button_line.h"
 #include "ui/common/desktop_manners.h"
 #include "ui/common/focus_ring.h"
 #include "ui/common/help_key.h"
 #include "ui/common/screen_centre.h"
 #include "ui/common/scroll_page.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QFontInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -139,23 +139,18 @@ void PromptBox::SettleText()
 /// hardly any room.
 void PromptBox::FitButtons(QSize room)
 {
-    constexpr int smallest = 6; // points
-    auto *buttons = findChild<QDialogButtonBox *>();
+    auto *line = findChild<QDialogButtonBox *>();
     const int margins = layout()->contentsMargins().left() + layout()->contentsMargins().right();
-    QFont text = font();
-    for (int points = QFontInfo(text).pointSize();; text.setPointSize(--points)) {
-        for (QAbstractButton *button : buttons->buttons())
-            button->setFont(text);
+    ShrinkText(*line, line->buttons(), [&] {
         for (const auto way : {Qt::Horizontal, Qt::Vertical}) {
-            if (buttons->orientation() != way)
-                buttons->setOrientation(way);
-            const QSize size = buttons->minimumSizeHint();
+            if (line->orientation() != way)
+                line->setOrientation(way);
+            const QSize size = line->minimumSizeHint();
             if (size.width() + margins <= room.width() && size.height() <= room.height() / 2)
-                return;
+                return true;
         }
-        if (points <= smallest)
-            return;
-    }
+        return false;
+    });
 }
 
 /// The picture goes where a word would not have the room.

@@ -1,4 +1,5 @@
 #include "ui/common/prompts.h"
+
 #include "ui/common/desktop_manners.h"
 #include "ui/common/help_key.h"
 #include "ui/common/one_line_box.h"

@@ -1,9 +1,9 @@
 #include "ui/common/screen_centre.h"
 
+#include "ui/common/desktop_manners.h"
 #include "ui/common/scroll_page.h"
 
 #include <QEvent>
-#include <QFontInfo>
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
@@ -47,13 +47,6 @@ void Place(QWidget &window, const QMargins &frame)
         {std::min(place.right(), room.right()), std::min(place.bottom(), room.bottom())});
     place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
     window.setGeometry(place.marginsRemoved(frame));
-}
-
-/// A size that was made for the usual text, for text that may be larger.
-QSize Grown(const QWidget &window)
-{
-    constexpr qreal usualText = 12; // pixels
-    return window.size() * std::max(1.0, QFontInfo(window.font()).pixelSize() / usualText);
 }
 
 /// With the scroll bar of a window that is higher than its screen.
@@ -109,8 +102,10 @@ private:
 void CentreOnScreen(QWidget &window)
 {
     SettleLayouts(window);
-    // A window that is not shown yet has no size of its own unless it was given one.
-    window.resize(window.testAttribute(Qt::WA_Resized) ? Grown(window) : Wanted(window));
+    // A window that is not shown yet has no size of its own unless it was given one, for usual
+    // text.
+    window.resize(window.testAttribute(Qt::WA_Resized) ? window.size() * TextGrowth(window)
+                                                       : Wanted(window));
     Place(window, Frame(window));
     KeepOnScreen(window);
 }
