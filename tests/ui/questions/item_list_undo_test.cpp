@@ -69,10 +69,17 @@ TEST(ItemListUndo, ForgetsWhatWasTakenBackAndOtherLists)
     desk.Type(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(desk.Shown(), Numbered(2)) << "what was taken back is of another way";
     desk.Type(Qt::Key_Z, Qt::ControlModifier);
-    desk.editor.SetItems(Numbered(3)); // what is shown already
+    desk.editor.SetItems(Numbered(4));
+    desk.Type(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(desk.Shown(), Numbered(4));
+    desk.Pick(3);
+    desk.Type(Qt::Key_Delete);
+    EXPECT_EQ(desk.Shown(), Numbered(3));
+    desk.Type(Qt::Key_Z, Qt::ControlModifier);
+    desk.editor.SetItems(Numbered(4)); // what is shown already
     desk.Type(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     desk.Type(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(desk.Shown(), Numbered(3));
+    EXPECT_EQ(desk.Shown(), Numbered(4));
 }
 
 } // namespace
