@@ -13,7 +13,9 @@ Xvfb -noreset -displayfd "$display_pipe" -screen 0 "${screen:-1280x1024}x24" -no
 started=($!)
 cleanup() {
     kill "${started[@]}" 2>/dev/null || true
-    kill -KILL "${designer:-}" 2>/dev/null || true # where it hangs
+    for running in $(jobs -pr); do # a designer that hangs
+        [ "$running" != "${designer:-}" ] || kill -KILL "$running"
+    done
     wait 2>/dev/null || true
     rm -rf "$work"
 }
