@@ -3,6 +3,7 @@
 #include "cli/columns_command.h"
 #include "cli/create_command.h"
 #include "cli/diff_command.h"
+#include "cli/examples.h"
 #include "cli/export_command.h"
 #include "cli/import_command.h"
 #include "cli/info_command.h"
@@ -142,7 +143,8 @@ constexpr Command commands[] = {
      .shape = {.mostInputs = 1,
                .whichInput = "Which name? Please give one to the new Vellsheet."_L1,
                .options = Option::From | Option::Output},
-     .run = WriteNewProject},
+     .run = WriteNewProject,
+     .sources = ExampleNames},
 };
 
 constexpr QLatin1StringView head =

@@ -15,6 +15,7 @@ struct Command {
     CommandShape shape;
     Exit (*run)(const CommandLine &line, const Console &console);
     Exit notWritten = Exit::NotWritten; ///< where standard output cannot be
+    QStringList (*sources)() = nullptr; ///< what --from takes, where that is no file
 };
 
 /// In the order in which the help tells of them.

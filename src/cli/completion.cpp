@@ -20,6 +20,12 @@ bool TakesFile(const OptionRow &row)
                                             value == "PROJECT"_L1 || value == "FILE"_L1);
 }
 
+/// Whether the value of the command's option is one of its sources.
+bool TakesSource(const Command &command, const OptionRow &row)
+{
+    return row.option == Option::From && command.sources != nullptr;
+}
+
 QStringList Words(const OptionRow &row)
 {
     QStringList words = {"--"_L1 + row.name};
@@ -47,12 +53,20 @@ QStringList WordsWithValues(bool files)
     return words;
 }
 
+/// What --from of the command takes, where that is no file.
+QString BashSources(const Command &command)
+{
+    if (command.sources == nullptr)
+        return {};
+    return u"    %1:--from) words='%2' ;;\n"_s.arg(command.name, command.sources().join(u' '));
+}
+
 QString BashCase(const Command &command)
 {
     QStringList words;
     for (const OptionRow &row : OptionsOf(command))
         words += Words(row);
-    return u"    %1:-*) words='%2' ;;\n"_s.arg(command.name, words.join(u' '));
+    return u"        %1:-*) words='%2' ;;\n"_s.arg(command.name, words.join(u' '));
 }
 
 constexpr auto bash = R"(# Completion of vellumo for bash.
@@ -61,32 +75,30 @@ _vellumo()
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local command='' words='' word
     COMPREPLY=()
-    case $previous in
-    %1) return ;;
-    %2)
-        compopt -o filenames
-        mapfile -t COMPREPLY < <(compgen -f -- "$current")
-        return
-        ;;
-    esac
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         case $word in
-        %3)
+        %1)
             command=$word
             break
             ;;
         esac
     done
-    case $command:$current in
-    :-*) words='--help --version' ;;
-    :* | help:*) words='%4' ;;
-%5    *)
-        compopt -o filenames
-        mapfile -t COMPREPLY < <(compgen -f -- "$current")
-        return
+    case $command:$previous in
+%2    *:%3) return ;;
+    *:%4) ;;
+    *)
+        case $command:$current in
+        :-*) words='--help --version' ;;
+        :* | help:*) words='%5' ;;
+%6        esac
         ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    if [ -n "$words" ]; then
+        mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    else
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+    fi
 }
 complete -F _vellumo vellumo
 )"_L1;
@@ -101,18 +113,23 @@ QString ZshText(const QString &text)
         .replace(u']', u"\\]"_s);
 }
 
+QString ZshValue(const Command &command, const OptionRow &row)
+{
+    if (row.valueName.isEmpty())
+        return {};
+    QString values = TakesFile(row) ? u"_files"_s : u" "_s;
+    if (TakesSource(command, row))
+        values = u'(' + command.sources().join(u' ') + u')';
+    return u":%1:%2"_s.arg(QString(row.valueName).toLower(), values);
+}
+
 QString ZshOptions(const Command &command)
 {
     QString options;
     for (const OptionRow &row : OptionsOf(command))
-        for (const QString &word : Words(row)) {
-            const QString value = row.valueName.isEmpty()
-                                      ? QString()
-                                      : u":%1:%2"_s.arg(QString(row.valueName).toLower(),
-                                                        TakesFile(row) ? "_files"_L1 : " "_L1);
-            options +=
-                u" \\\n                '%1[%2]%3'"_s.arg(word, ZshText(Brief(row.help)), value);
-        }
+        for (const QString &word : Words(row))
+            options += u" \\\n                '%1[%2]%3'"_s.arg(word, ZshText(Brief(row.help)),
+                                                                ZshValue(command, row));
     return options;
 }
 
@@ -128,7 +145,9 @@ QString FishOption(const Command &command, const OptionRow &row)
         command.name, row.name);
     if (!row.letter.isEmpty())
         line += " -s "_L1 + row.letter;
-    if (!row.valueName.isEmpty())
+    if (TakesSource(command, row))
+        line += u" -x -a '%1'"_s.arg(command.sources().join(u' '));
+    else if (!row.valueName.isEmpty())
         line += TakesFile(row) ? " -r -F"_L1 : " -x"_L1;
     return line + u" -d '%1'\n"_s.arg(FishText(Brief(row.help)));
 }
@@ -138,12 +157,15 @@ QString FishOption(const Command &command, const OptionRow &row)
 QByteArray BashCompletion()
 {
     const QStringList names = CommandNames() + QStringList{u"help"_s};
+    QString sources;
     QString cases;
-    for (const Command &command : Commands())
+    for (const Command &command : Commands()) {
+        sources += BashSources(command);
         cases += BashCase(command);
+    }
     return QString(bash)
-        .arg(WordsWithValues(false).join(" | "_L1), WordsWithValues(true).join(" | "_L1),
-             names.join(" | "_L1), names.join(u' '), cases)
+        .arg(names.join(" | "_L1), sources, WordsWithValues(false).join(" | *:"_L1),
+             WordsWithValues(true).join(" | *:"_L1), names.join(u' '), cases)
         .toUtf8();
 }
 

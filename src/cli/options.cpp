@@ -91,8 +91,8 @@ constexpr OptionRow rows[] = {
     {.option = Option::From,
      .name = "from"_L1,
      .valueName = "NAME"_L1,
-     .help = "items: a text of lines or a table, NAME.csv; a new\n"
-             "project: the example to start from"_L1,
+     .help = "the items, a text of lines or a table, NAME.csv, or for\n"
+             "a new project the example to start from"_L1,
      .check = CheckedName},
     {.option = Option::Column,
      .name = "column"_L1,

@@ -32,6 +32,8 @@ after create --q | grep -qx -- --quiet || fail 'bash does not complete --q'
 after review --gu | grep -q guid && fail 'bash completes an option that review does not take'
 [ "$(after create on)" = 'one form.vmp' ] || fail 'bash does not complete a name with a blank'
 [ "$(after create --output on)" = 'one form.vmp' ] || fail 'bash does not complete the name after --output'
+[ "$(after new --from S)" = $'ShelfAudit\nSiteVisit' ] || fail 'bash does not complete the name of an example'
+[ "$(after items --from on)" = 'one form.vmp' ] || fail 'bash does not complete the name of a file of items'
 
 # ask_zsh TYPED COMPLETED: what zsh shows on a terminal of its own after TYPED and Tab, once it has
 # COMPLETED in it.
@@ -55,8 +57,12 @@ for shell in zsh fish; do
             fail 'fish does not complete cr'
         fish -c "source $manual/vellumo.fish; complete -C 'vellumo review --str'" | grep -q -- --strict ||
             fail 'fish does not complete --str'
+        fish -c "source $manual/vellumo.fish; complete -C 'vellumo new --from W'" | cut -f 1 | grep -qx WaterPoint ||
+            fail 'fish does not complete the name of an example'
     else
         [[ $(ask_zsh 'vellumo cr' create) == *create* ]] || fail 'zsh does not complete cr'
         [[ $(ask_zsh 'vellumo review --str' --strict) == *--strict* ]] || fail 'zsh does not complete --str'
+        [[ $(ask_zsh 'vellumo new --from W' WaterPoint) == *WaterPoint* ]] ||
+            fail 'zsh does not complete the name of an example'
     fi
 done
