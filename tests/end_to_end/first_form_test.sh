@@ -5,11 +5,6 @@ set -euo pipefail
 
 programs=$(dirname -- "$1")
 . "$(dirname -- "$0")/screen.sh"
-# Whatever program the system has for databases stays out of it.
-mkdir "$work/bin"
-printf '#!/bin/sh\nprintf "%%s\\n" "$1" >>"%s"\n' "$work/opened" >"$work/bin/xdg-open"
-chmod +x "$work/bin/xdg-open"
-export PATH=$work/bin:$PATH
 write() { xdotool type --delay 30 -- "$1"; }
 wizard() { window "Vellumo Designer Question Wizard- Step $1"; }
 

@@ -14,7 +14,7 @@ started=($!)
 cleanup() {
     kill "${started[@]}" 2>/dev/null || true
     for running in $(jobs -pr); do # a designer that hangs
-        [ "$running" != "${designer:-}" ] || kill -KILL "$running"
+        [ "$running" != "${designer:-}" ] || kill -KILL "$running" 2>/dev/null || true
     done
     wait 2>/dev/null || true
     rm -rf "$work"
@@ -53,11 +53,15 @@ has_focus() {
 window() { await 20 "no window '$1'" has_focus "$1"; }
 keys() { xdotool key --clearmodifiers --delay 60 "$@"; }
 
-# windows COUNT: until so many windows with the designer's title are up, boxes among them.
-counted() { [ "$(xdotool search --onlyvisible --name '^Vellumo Designer$' | wc -l)" -eq "$1" ]; }
+# windows COUNT: until so many windows with the designer's title are up, boxes among them, and the
+# keys go to the one on top.
+ours() { xdotool search --onlyvisible --name '^Vellumo Designer$'; } # from below to the top
+counted() { [ "$(ours | wc -l)" -eq "$1" ]; }
+on_top() { [ "$(xdotool getwindowfocus)" = "$(ours | tail -n 1)" ]; }
 windows() {
     await 20 "not $1 windows" counted "$1"
     window 'Vellumo Designer'
+    await 20 'the keys do not go to the window on top' on_top
 }
 ended() { ! kill -0 "$designer" 2>/dev/null; }
 

@@ -12,6 +12,11 @@ export XDG_RUNTIME_DIR=$work
 # The toolkit's words are heard here, which speaks of a locale without UTF-8.
 export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='*.debug=false' LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY
+# Whatever programs the system has for folders and databases stay out of it; $work/opened has the names.
+mkdir "$work/bin"
+printf '#!/bin/sh\nprintf "%%s\\n" "$1" >>"%s"\n' "$work/opened" >"$work/bin/xdg-open"
+chmod +x "$work/bin/xdg-open"
+export PATH=$work/bin:$PATH
 # Whatever site the program was built for: nobody answers.
 export http_proxy=http://127.0.0.1:9 https_proxy=http://127.0.0.1:9 no_proxy=
 

@@ -24,6 +24,7 @@ printf '<Vmdesigner><ShowOpenForm>0</ShowOpenForm></Vmdesigner>' >"$work/app/set
 open() {
     start "$1"
     await 20 'no main window' is_ours
+    await 20 'the main window does not get the keys' on_top
     keys ctrl+a
     xdotool type --delay 40 "$2"
 }
