@@ -70,7 +70,7 @@ TEST(Files, AreMadeAndReplaced)
 TEST(Files, MayHaveTheLongestName)
 {
     const TemporaryFolder folder;
-    const std::string name = std::string(251, 'n') + ".prc";
+    const std::string name = std::string(251, 'n').append(".prc");
     EXPECT_FALSE(ReplaceFile(name, "a"));
     EXPECT_EQ(ContentOf(name), "a");
 }
