@@ -15,7 +15,7 @@ namespace {
 
 void ExpectFocusSeen(const QWidget &window)
 {
-    for (auto *widget : Shown<QWidget>(window)) {
+    for (auto *widget : ShownWidgets<QWidget>(window)) {
         if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled() || widget->focusProxy())
             continue;
         const auto *button = qobject_cast<const QPushButton *>(widget);

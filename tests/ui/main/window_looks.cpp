@@ -18,7 +18,7 @@ namespace {
 /// Within what it lies in; what scrolls has the bars for it.
 void ExpectInPlace(const QWidget &window)
 {
-    for (const auto *widget : Shown<QWidget>(window)) {
+    for (const auto *widget : ShownWidgets<QWidget>(window)) {
         const auto *area =
             qobject_cast<QAbstractScrollArea *>(widget->parentWidget()->parentWidget());
         if (!area || area->viewport() != widget->parentWidget()) {
@@ -50,7 +50,7 @@ int LongestWord(const QLabel &label)
 
 void ExpectWholeTexts(const QWidget &window)
 {
-    for (const auto *label : Shown<QLabel>(window)) {
+    for (const auto *label : ShownWidgets<QLabel>(window)) {
         if (label->text().isEmpty())
             continue;
         const int wanted = label->wordWrap() ? LongestWord(*label) : label->sizeHint().width();
@@ -59,15 +59,15 @@ void ExpectWholeTexts(const QWidget &window)
             label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
         EXPECT_GE(label->height(), high) << Name(*label);
     }
-    for (const auto *button : Shown<QAbstractButton>(window)) {
+    for (const auto *button : ShownWidgets<QAbstractButton>(window)) {
         EXPECT_GE(button->width(), button->sizeHint().width()) << Name(*button);
         EXPECT_GE(button->height(), button->sizeHint().height()) << Name(*button);
     }
-    for (const auto *tree : Shown<QTreeView>(window))
+    for (const auto *tree : ShownWidgets<QTreeView>(window))
         EXPECT_GE(tree->header()->length(),
                   static_cast<const QTreeView *>(tree)->header()->sectionSizeHint(0))
             << Name(*tree);
-    for (const auto *grid : Shown<QTableView>(window)) {
+    for (const auto *grid : ShownWidgets<QTableView>(window)) {
         const QHeaderView *header = grid->horizontalHeader();
         for (int column = 0; column < header->count(); ++column)
             EXPECT_GE(header->sectionSize(column), header->sectionSizeHint(column)) << column;
@@ -83,7 +83,7 @@ void ExpectWayOn(const QWidget &window)
                                      u"cmd3_Back"_s, u"cmd3_Next"_s, u"cmd4_back"_s, u"cmd4_next"_s,
                                      u"cmdNav_1"_s,  u"cmdNav_2"_s,  u"cmdNav_3"_s,  u"cmdNav_4"_s,
                                      u"cmdOK"_s,     u"cmdCancel"_s, u"Command1"_s};
-    for (const auto *button : Shown<QAbstractButton>(window))
+    for (const auto *button : ShownWidgets<QAbstractButton>(window))
         EXPECT_TRUE(!ways.contains(button->objectName()) ||
                     button->visibleRegion() == QRegion(button->rect()))
             << Name(*button);
@@ -107,7 +107,7 @@ int MiddleOfWords(QWidget &widget)
 /// Labels that have more room than they need are written where lines begin.
 void ExpectLabelsAtBeginning(const QWidget &window)
 {
-    for (auto *label : Shown<QLabel>(window)) {
+    for (auto *label : ShownWidgets<QLabel>(window)) {
         const bool isCentred = label->alignment() & Qt::AlignHCenter;
         const int spare = label->width() - label->sizeHint().width();
         if (isCentred || label->text().isEmpty() || label->wordWrap() || spare < 4 ||
@@ -121,7 +121,7 @@ void ExpectLabelsAtBeginning(const QWidget &window)
 /// As nearly as the blank around a picture lets them be.
 void ExpectCaptionsInMiddle(const QWidget &window)
 {
-    for (auto *button : Shown<QPushButton>(window))
+    for (auto *button : ShownWidgets<QPushButton>(window))
         if (!button->icon().isNull() && !button->isFlat()) {
             button->setFlat(true); // on an even ground
             EXPECT_NEAR(MiddleOfWords(*button), button->width() / 2.0,
@@ -155,7 +155,7 @@ void ExpectBeginning(const QWidget &window)
 /// Icons are as high as the text beside them, at least.
 void ExpectIconsAsLargeAsText(const QWidget &window)
 {
-    for (const auto *button : Shown<QAbstractButton>(window)) {
+    for (const auto *button : ShownWidgets<QAbstractButton>(window)) {
         const int least = button->icon().isNull() ? 0 : QFontInfo(button->font()).pixelSize();
         EXPECT_GE(button->iconSize().height(), least) << Name(*button);
     }

@@ -54,7 +54,7 @@ inline bool IsOnHandheld(const QWidget &widget)
 }
 
 /// The widgets of this window that are up, without those of the toolkit and of the handheld.
-template <typename Widget> QList<Widget *> Shown(const QWidget &window)
+template <typename Widget> QList<Widget *> ShownWidgets(const QWidget &window)
 {
     QList<Widget *> shown;
     for (auto *widget : window.findChildren<Widget *>())
