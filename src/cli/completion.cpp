@@ -20,10 +20,11 @@ bool TakesFile(const OptionRow &row)
                                             value == "PROJECT"_L1 || value == "FILE"_L1);
 }
 
-/// Whether the value of the command's option is one of its sources.
-bool TakesSource(const Command &command, const OptionRow &row)
+/// What the value of the command's option may be, between blanks; empty where it is none of a few.
+QString Choices(const Command &command, const OptionRow &row)
 {
-    return row.option == Option::From && command.sources != nullptr;
+    const bool hasFew = row.option == Option::From && command.sources != nullptr;
+    return hasFew ? command.sources().join(u' ') : QString();
 }
 
 QStringList Words(const OptionRow &row)
@@ -53,12 +54,14 @@ QStringList WordsWithValues(bool files)
     return words;
 }
 
-/// What --from of the command takes, where that is no file.
-QString BashSources(const Command &command)
+QString BashChoices(const Command &command)
 {
-    if (command.sources == nullptr)
-        return {};
-    return u"    %1:--from) words='%2' ;;\n"_s.arg(command.name, command.sources().join(u' '));
+    QString cases;
+    for (const OptionRow &row : OptionsOf(command))
+        if (const QString choices = Choices(command, row); !choices.isEmpty())
+            for (const QString &word : Words(row))
+                cases += u"    %1:%2) words='%3' ;;\n"_s.arg(command.name, word, choices);
+    return cases;
 }
 
 QString BashCase(const Command &command)
@@ -118,8 +121,8 @@ QString ZshValue(const Command &command, const OptionRow &row)
     if (row.valueName.isEmpty())
         return {};
     QString values = TakesFile(row) ? u"_files"_s : u" "_s;
-    if (TakesSource(command, row))
-        values = u'(' + command.sources().join(u' ') + u')';
+    if (const QString choices = Choices(command, row); !choices.isEmpty())
+        values = u'(' + choices + u')';
     return u":%1:%2"_s.arg(QString(row.valueName).toLower(), values);
 }
 
@@ -145,8 +148,8 @@ QString FishOption(const Command &command, const OptionRow &row)
         command.name, row.name);
     if (!row.letter.isEmpty())
         line += " -s "_L1 + row.letter;
-    if (TakesSource(command, row))
-        line += u" -x -a '%1'"_s.arg(command.sources().join(u' '));
+    if (const QString choices = Choices(command, row); !choices.isEmpty())
+        line += u" -x -a '%1'"_s.arg(choices);
     else if (!row.valueName.isEmpty())
         line += TakesFile(row) ? " -r -F"_L1 : " -x"_L1;
     return line + u" -d '%1'\n"_s.arg(FishText(Brief(row.help)));
@@ -157,14 +160,14 @@ QString FishOption(const Command &command, const OptionRow &row)
 QByteArray BashCompletion()
 {
     const QStringList names = CommandNames() + QStringList{u"help"_s};
-    QString sources;
+    QString choices;
     QString cases;
     for (const Command &command : Commands()) {
-        sources += BashSources(command);
+        choices += BashChoices(command);
         cases += BashCase(command);
     }
     return QString(bash)
-        .arg(names.join(" | "_L1), sources, WordsWithValues(false).join(" | *:"_L1),
+        .arg(names.join(" | "_L1), choices, WordsWithValues(false).join(" | *:"_L1),
              WordsWithValues(true).join(" | *:"_L1), names.join(u' '), cases)
         .toUtf8();
 }
