@@ -6,6 +6,9 @@
 
 namespace vellumo {
 
+/// Fonts of the handheld, as its forms number them; titles and questions are bold.
+constexpr quint32 standardFont = 0, boldFont = 1, symbolFont = 3;
+
 /// The pixels that each code of windows-1252 is wide in a font of the handheld.
 using FontWidths = std::array<quint8, 256>;
 

@@ -1,22 +1,18 @@
 #include "handheld/line_places.h"
 
+#include "handheld/font_widths.h"
 #include "handheld/question_fit.h"
 #include "handheld/screen_geometry.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vellumo {
-namespace {
 
-constexpr quint32 standard = 0, bold = 1;
-
-} // namespace
-
-constinit const LinePlace titlePlace = {"title-too-wide"_L1, screen::titleWidth, bold,
+constinit const LinePlace titlePlace = {"title-too-wide"_L1, screen::titleWidth, boldFont,
                                         "a button covers the rest"_L1};
-constinit const LinePlace listPlace = {"item-too-wide"_L1, screen::listItemWidth, standard,
+constinit const LinePlace listPlace = {"item-too-wide"_L1, screen::listItemWidth, standardFont,
                                        "the opened list leaves the screen"_L1};
-constinit const LinePlace captionPlace = {"caption-too-wide"_L1, screen::captionWidth, standard,
+constinit const LinePlace captionPlace = {"caption-too-wide"_L1, screen::captionWidth, standardFont,
                                           "the rest is cut off"_L1};
 
 QString MisfitIn(const LinePlace &place, QByteArrayView text)

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-constexpr quint32 bold = 1;
-
 /// The end of a text, in quotation marks, as much as is needed to find it again. It ends with a
 /// letter, so that the same place is quoted alike before and behind a blank.
 QString QuotedEnd(QByteArrayView text)
@@ -27,10 +25,10 @@ QString QuotedEnd(QByteArrayView text)
 
 QString WideLine(QByteArrayView line, const QString &name)
 {
-    const QString misfit = LineMisfit(line, screen::questionWidth, bold);
+    const QString misfit = LineMisfit(line, screen::questionWidth, boldFont);
     if (misfit.isEmpty())
         return {};
-    const bool leaves = DrawnWidth(line, bold) > quint32(screen::questionToEnd);
+    const bool leaves = DrawnWidth(line, boldFont) > quint32(screen::questionToEnd);
     return u"%1 %2; %3"_s.arg(name, misfit,
                               leaves ? u"the rest leaves the screen or wraps"_s
                                      : u"a button covers the rest"_s);
@@ -48,7 +46,7 @@ QByteArray Joined(QByteArrayView text)
 QString OtherBreaks(QByteArrayView text, int freeLines)
 {
     const QByteArray words = Joined(text);
-    const auto lines = WrappedLines(words, screen::questionWidth, bold);
+    const auto lines = WrappedLines(words, screen::questionWidth, boldFont);
     qsizetype size = lines.size() - 1; // of the lines and the blanks between them
     for (const QByteArrayView line : lines)
         size += line.size();
@@ -69,7 +67,7 @@ QString WayOut(QByteArrayView text, int freeLines)
     QByteArrayView before;
     qsizetype lines = 0;
     for (const QByteArrayView line : TypedLines(text)) {
-        const auto parts = WrappedLines(line, screen::questionWidth, bold);
+        const auto parts = WrappedLines(line, screen::questionWidth, boldFont);
         lines += parts.size();
         if (parts.size() == 1 || !before.isEmpty())
             continue;
@@ -100,7 +98,7 @@ QString QuestionMisfit(QByteArrayView text, int freeLines)
     QStringList parts;
     qsizetype lines = 0;
     for (qsizetype i = 0; i < typed.size(); ++i) {
-        lines += WrappedLines(typed[i], screen::questionWrapWidth, bold).size();
+        lines += WrappedLines(typed[i], screen::questionWrapWidth, boldFont).size();
         parts << WideLine(typed[i], typed.size() == 1 ? u"it"_s : u"line %1"_s.arg(i + 1));
     }
     if (lines > freeLines)

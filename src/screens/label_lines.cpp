@@ -15,8 +15,7 @@ constexpr int endOfLines = screen::questionX + screen::questionWrapWidth;
 /// A font that the handheld does not have is the standard one.
 quint32 KnownFont(quint32 font)
 {
-    constexpr quint32 standard = 0, bold = 1, symbols = 3;
-    return font == bold || font == symbols ? font : standard;
+    return font == boldFont || font == symbolFont ? font : standardFont;
 }
 
 } // namespace
@@ -46,9 +45,8 @@ QList<TextLine> LinesOf(const FormObject &label)
 
 TextLine TitleLine(const FormObject &title)
 {
-    constexpr quint32 bold = 1;
     constexpr int top = 2;
-    return LineAt({screen::titleX, top}, title.text, bold);
+    return LineAt({screen::titleX, top}, title.text, boldFont);
 }
 
 } // namespace vellumo

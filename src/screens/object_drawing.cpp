@@ -1,5 +1,6 @@
 #include "screens/object_drawing.h"
 
+#include "handheld/font_widths.h"
 #include "handheld/screen_geometry.h"
 #include "readback/form_flags.h"
 #include "screens/control_drawing.h"
@@ -15,7 +16,6 @@ namespace vellumo {
 namespace {
 
 constexpr quint32 positionField = 98; // in which the viewer writes where a person is
-constexpr quint32 standardFont = 0;
 
 /// How many lines of a place are on the screen.
 int LinesIn(const QRect &place)
@@ -105,7 +105,7 @@ void DrawNothing(QXmlStreamWriter &, const FormObject &, const DrawingContext &)
 constexpr struct {
     ObjectKind kind;
     void (*draw)(QXmlStreamWriter &svg, const FormObject &object, const DrawingContext &context);
-} drawings[] = {
+} objectDrawings[] = {
     {ObjectKind::Field, DrawField},
     {ObjectKind::Control, DrawControlOf},
     {ObjectKind::List, DrawShownList},
@@ -122,9 +122,9 @@ constexpr struct {
 
 void DrawObject(QXmlStreamWriter &svg, const FormObject &object, const DrawingContext &context)
 {
-    const auto *row =
-        std::ranges::find(drawings, object.kind, [](const auto &drawing) { return drawing.kind; });
-    if (row != std::end(drawings) && IsShown(object))
+    const auto *row = std::ranges::find(objectDrawings, object.kind,
+                                        [](const auto &drawing) { return drawing.kind; });
+    if (row != std::end(objectDrawings) && IsShown(object))
         row->draw(svg, object, context);
 }
 

@@ -1,5 +1,6 @@
 #include "screens/table_rows.h"
 
+#include "handheld/font_widths.h"
 #include "handheld/screen_geometry.h"
 #include "screens/form_parts.h"
 #include "screens/object_place.h"
@@ -9,7 +10,6 @@ namespace vellumo {
 QList<TableRow> RowsOf(const FormObject &table, const Form &form)
 {
     constexpr int gap = 1; // between the columns
-    constexpr quint32 standardFont = 0;
     QList<TableRow> rows;
     const FormObject *captions = CaptionsOf(form);
     if (!captions)
