@@ -22,8 +22,8 @@ constexpr std::size_t entryOffsetAt = 2;
 constexpr std::size_t entrySize = 6;
 
 constexpr int focusableDialog = 0x1200;
-constexpr int usable = 0x8000;
-constexpr int saveBehind = 0x0800;
+constexpr int formUsable = 0x8000;
+constexpr int formSaveBehind = 0x0800;
 
 void AppendHeader(Bytes &bytes, const FormHeader &header, std::size_t objects)
 {
@@ -32,7 +32,8 @@ void AppendHeader(Bytes &bytes, const FormHeader &header, std::size_t objects)
     PutRectangle(record, placeAt, header.place);
     record.Put16(frameAt, header.frame ? 1 : 0);
     record.Put16(numberAt, header.number);
-    record.Put16(flagsAt, (header.usable ? usable : 0) | (header.saveBehind ? saveBehind : 0));
+    record.Put16(flagsAt,
+                 (header.usable ? formUsable : 0) | (header.saveBehind ? formSaveBehind : 0));
     record.Put16(objectCountAt, static_cast<std::int64_t>(objects));
 }
 

@@ -17,21 +17,21 @@ constexpr std::size_t headerSizeAt = 4;
 constexpr std::size_t itemSizeAt = 6;
 constexpr std::size_t initialStateAt = 8;
 constexpr std::size_t initialObjectAt = 12;
-constexpr std::size_t headerSize = 20;
+constexpr std::size_t navigationHeaderSize = 20;
 
 constexpr std::size_t itemNumberAt = 0;
 constexpr std::size_t itemAboveAt = 4;
 constexpr std::size_t itemBelowAt = 6;
 constexpr std::size_t itemSize = 8;
 
-constexpr std::size_t mostItems = 65535; ///< that the header can count
+constexpr std::size_t mostNavigationItems = 65535; ///< that the header can count
 constexpr int formatVersion = 1;
 
 struct NavigationHeader {
     std::int64_t initialState = 0, initialObject = 0;
 };
 
-NavigationHeader ReadHeader(ArgumentReader &arguments)
+NavigationHeader ReadNavigationHeader(ArgumentReader &arguments)
 {
     ScriptReader &words = arguments.words();
     std::optional<std::int64_t> initialState;
@@ -71,10 +71,10 @@ void AppendItem(Bytes &bytes, ArgumentReader &arguments)
 
 void AppendHeader(Bytes &bytes, const NavigationHeader &header, std::size_t items)
 {
-    Record record(bytes, headerSize);
+    Record record(bytes, navigationHeaderSize);
     record.Put16(versionAt, formatVersion);
     record.Put16(itemCountAt, static_cast<std::int64_t>(items));
-    record.Put16(headerSizeAt, headerSize);
+    record.Put16(headerSizeAt, navigationHeaderSize);
     record.Put16(itemSizeAt, itemSize);
     record.Put32(initialStateAt, header.initialState);
     record.Put16(initialObjectAt, header.initialObject);
@@ -85,10 +85,10 @@ void AppendHeader(Bytes &bytes, const NavigationHeader &header, std::size_t item
 void ReadNavigation(ArgumentReader &arguments, ResourceList &resources)
 {
     const std::uint16_t number = arguments.Id();
-    const NavigationHeader header = ReadHeader(arguments);
+    const NavigationHeader header = ReadNavigationHeader(arguments);
     Bytes items;
     do {
-        if (items.size() == itemSize * mostItems)
+        if (items.size() == itemSize * mostNavigationItems)
             arguments.words().Fail("the navigation has more than 65535 items");
         AppendItem(items, arguments);
     } while (!arguments.words().TakeName("end"));

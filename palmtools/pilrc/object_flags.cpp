@@ -5,7 +5,7 @@ namespace {
 
 // The bits are those of docs/palm-formats.md, "The objects of a form".
 
-constexpr int usable = 0x8000; ///< of every kind but table and scroll bar
+constexpr int objectUsable = 0x8000; ///< of every kind but table and scroll bar
 constexpr int enabled = 0x4000;
 
 constexpr int fieldEditable = 0x2000;
@@ -37,30 +37,30 @@ bool HasFrame(const FormObject &control)
 
 int LabelFlags(const FormObject &label)
 {
-    return FlagIf(label.usable, usable);
+    return FlagIf(label.usable, objectUsable);
 }
 
 int FieldFlags(const FormObject &field)
 {
-    return fieldAlways | FlagIf(field.usable, usable) | FlagIf(field.editable, fieldEditable) |
-           FlagIf(field.singleLine, fieldSingleLine) | FlagIf(field.underlined, fieldUnderlined) |
-           FlagIf(field.numeric, fieldNumeric);
+    return fieldAlways | FlagIf(field.usable, objectUsable) |
+           FlagIf(field.editable, fieldEditable) | FlagIf(field.singleLine, fieldSingleLine) |
+           FlagIf(field.underlined, fieldUnderlined) | FlagIf(field.numeric, fieldNumeric);
 }
 
 int ControlFlags(const FormObject &control)
 {
-    return enabled | FlagIf(control.usable, usable) |
+    return enabled | FlagIf(control.usable, objectUsable) |
            FlagIf(control.leftAnchor, controlLeftAnchor) | FlagIf(HasFrame(control), controlFrame);
 }
 
 int ListFlags(const FormObject &list)
 {
-    return enabled | FlagIf(list.usable, usable);
+    return enabled | FlagIf(list.usable, objectUsable);
 }
 
 int GadgetFlags(const FormObject &gadget)
 {
-    return gadgetAlways | FlagIf(gadget.usable, usable);
+    return gadgetAlways | FlagIf(gadget.usable, objectUsable);
 }
 
 int TableFlags(const FormObject &table)

@@ -16,7 +16,7 @@ QString ObjectionToPasted(const QString &text)
     return CountryNames().contains(text) ? QString() : ObjectionToItem(text);
 }
 
-QString Shortened(const QString &text)
+QString ShortenedLine(const QString &text)
 {
     constexpr qsizetype most = 40;
     return text.size() <= most ? text : text.first(most) + QChar(0x2026);
@@ -55,7 +55,7 @@ QString PasteItems(ItemList &items, const ItemListHost &host, QStringView type,
         if (refusal.isEmpty())
             refusal = PutItem(items, line);
         if (!refusal.isEmpty())
-            refusals.Add(u'"' + Shortened(line) + u"\": "_s + refusal);
+            refusals.Add(u'"' + ShortenedLine(line) + u"\": "_s + refusal);
     }
     return refusals.Text();
 }

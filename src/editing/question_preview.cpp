@@ -25,7 +25,7 @@ constexpr std::array<TypePreview, typeCount> typePreviews = {{
 }};
 static_assert(HasRowPerType(typePreviews));
 
-QString Shortened(const QString &question)
+QString ShortenedQuestion(const QString &question)
 {
     return question.size() <= 23 ? question : question.first(20) + "..."_L1;
 }
@@ -47,7 +47,7 @@ std::optional<QuestionPreview> PreviewOf(const clsDataSource &source)
 
     preview.type = type->id;
     preview.title = current.Title;
-    preview.question = Shortened(current.Question);
+    preview.question = ShortenedQuestion(current.Question);
     if (const qsizetype shown = RowOf(typePreviews, type->id).itemsShown; shown > 0) {
         const QStringList items = source.ItemsOf(current.Id);
         preview.items = {items.first(std::min(shown, items.size())), items.size() > shown};

@@ -15,12 +15,12 @@ struct FormRecord : Form {
 
 constexpr quint32 windowFlags = 0x1200; // a dialog that takes the focus
 
-constexpr StoredNumber<FormRecord> formNumbers[] = {
+constexpr StoredNumber<FormRecord> storedFormNumbers[] = {
     {8, 2, nullptr, windowFlags}, {10, 2, &FormRecord::x},      {12, 2, &FormRecord::y},
     {14, 2, &FormRecord::width},  {16, 2, &FormRecord::height}, {30, 2, &FormRecord::frame},
     {40, 2, &FormRecord::number}, {42, 2, &FormRecord::flags},  {62, 2, &FormRecord::objectCount},
 };
-constexpr RecordLayout<FormRecord> formLayout(68, formNumbers);
+constexpr RecordLayout<FormRecord> formLayout(68, storedFormNumbers);
 
 struct DirectoryEntry {
     quint32 kind = 0;

@@ -10,13 +10,13 @@ struct NavigationRecord : Navigation {
     quint32 itemCount = 0;
 };
 
-constexpr quint32 version = 1;
+constexpr quint32 navigationVersion = 1;
 constexpr qsizetype headerSize = 20;
 constexpr qsizetype itemSize = 8;
 
 // A navigation tells the sizes of its own records; no other than these are known.
 constexpr StoredNumber<NavigationRecord> headerNumbers[] = {
-    {0, 2, nullptr, version},
+    {0, 2, nullptr, navigationVersion},
     {2, 2, &NavigationRecord::itemCount},
     {4, 2, nullptr, headerSize},
     {6, 2, nullptr, itemSize},

@@ -38,8 +38,8 @@ constexpr SingleText formName = {formNameKey, &DatabaseContent::formName, &Deliv
 constexpr SingleText version = {versionKey, &DatabaseContent::version, &DeliveredTexts::version,
                                 "form version"_L1, "form-version"_L1};
 
-void CheckText(const DatabaseContent &content, const SingleText &text, const DeliveredTexts &texts,
-               QList<Finding> &findings)
+void CheckSingleText(const DatabaseContent &content, const SingleText &text,
+                     const DeliveredTexts &texts, QList<Finding> &findings)
 {
     const TextPlace place = {text.field};
     CheckPart(content.*text.found, text.key, place, findings, [&](const QByteArray &found) {
@@ -96,12 +96,12 @@ void CheckIdentifier(const DatabaseContent &content, QList<Finding> &findings)
 void CheckTexts(const DatabaseContent &content, const DeliveredTexts &texts,
                 QList<Finding> &findings)
 {
-    CheckText(content, description, texts, findings);
+    CheckSingleText(content, description, texts, findings);
     CheckColumnNames(content, texts, findings);
-    CheckText(content, folder, texts, findings);
+    CheckSingleText(content, folder, texts, findings);
     CheckIdentifier(content, findings);
-    CheckText(content, formName, texts, findings);
-    CheckText(content, version, texts, findings);
+    CheckSingleText(content, formName, texts, findings);
+    CheckSingleText(content, version, texts, findings);
 }
 
 void CheckForMissingTexts(const DatabaseContent &content, QList<Finding> &findings)

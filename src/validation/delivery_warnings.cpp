@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace vellumo {
 namespace {
 
-struct TextCheck {
+struct DeliveryCheck {
     QLatin1StringView code;
     bool (*applies)(QStringView text);
     QLatin1StringView reason;
@@ -30,7 +30,7 @@ bool EndsInEscape(QStringView text)
 constexpr QLatin1StringView escapes =
     "a backslash starts an escape in the script, so it will not arrive as typed"_L1;
 
-constexpr TextCheck backslash = {
+constexpr DeliveryCheck backslash = {
     "backslash"_L1, [](QStringView text) { return text.contains(u'\\') && !EndsInEscape(text); },
     escapes};
 
@@ -45,42 +45,42 @@ bool HasOtherEscapes(QStringView text)
 }
 
 // In a question, \n is what breaks its line on the handheld, and typed for that.
-constexpr TextCheck backslashInQuestion = {
+constexpr DeliveryCheck backslashInQuestion = {
     "backslash"_L1, [](QStringView text) { return !EndsInEscape(text) && HasOtherEscapes(text); },
     escapes};
 
-constexpr TextCheck backslashAtEnd = {
+constexpr DeliveryCheck backslashAtEnd = {
     "backslash"_L1, EndsInEscape,
     "a backslash at the end takes the closing quote in the script with it and breaks the build"_L1};
 
-constexpr TextCheck doubleQuote = {
+constexpr DeliveryCheck doubleQuote = {
     "double-quote"_L1, [](QStringView text) { return text.contains(u'"'); },
     "the script does not escape a double quote here, so it will not arrive as typed"_L1};
 
-constexpr TextCheck lineBreak = {
+constexpr DeliveryCheck lineBreak = {
     "line-break"_L1, [](QStringView text) { return text.contains(u'\n') || text.contains(u'\r'); },
     "a line break ends the text in the script too early and breaks the build"_L1};
 
-constexpr TextCheck comma = {"comma-in-item"_L1,
-                             [](QStringView text) { return text.contains(u','); },
-                             "a comma ends an item, so this one will arrive as several"_L1};
+constexpr DeliveryCheck comma = {"comma-in-item"_L1,
+                                 [](QStringView text) { return text.contains(u','); },
+                                 "a comma ends an item, so this one will arrive as several"_L1};
 
 // The script escapes double quotes in the description and in question texts, and nowhere else.
 // The review lets neither a backslash nor a double quote into the form name.
-constexpr TextCheck nameChecks[] = {lineBreak};
-constexpr TextCheck escapedTextChecks[] = {backslash, backslashAtEnd, lineBreak};
-constexpr TextCheck questionChecks[] = {backslashInQuestion, backslashAtEnd, lineBreak};
-constexpr TextCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak};
-constexpr TextCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak, comma};
+constexpr DeliveryCheck deliveredNameChecks[] = {lineBreak};
+constexpr DeliveryCheck escapedTextChecks[] = {backslash, backslashAtEnd, lineBreak};
+constexpr DeliveryCheck questionChecks[] = {backslashInQuestion, backslashAtEnd, lineBreak};
+constexpr DeliveryCheck rawTextChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak};
+constexpr DeliveryCheck itemChecks[] = {backslash, backslashAtEnd, doubleQuote, lineBreak, comma};
 
 struct FieldChecks {
     FormField field;
-    std::span<const TextCheck> checks;
+    std::span<const DeliveryCheck> checks;
 };
 
 // The data folder's backslashes are doubled in the script, and its rule refuses the rest.
 constexpr std::array fieldChecks = {
-    FieldChecks{FormField::Name, nameChecks},
+    FieldChecks{FormField::Name, deliveredNameChecks},
     FieldChecks{FormField::Version, rawTextChecks},
     FieldChecks{FormField::Description, escapedTextChecks},
     FieldChecks{FormField::DataFolder, {}},
@@ -162,9 +162,10 @@ private:
         }
     }
 
-    void CheckText(std::span<const TextCheck> checks, const QString &text, const TextPlace &place)
+    void CheckText(std::span<const DeliveryCheck> checks, const QString &text,
+                   const TextPlace &place)
     {
-        for (const TextCheck &check : checks) {
+        for (const DeliveryCheck &check : checks) {
             if (check.applies(text))
                 Warn(check.code, place, text, check.reason);
         }
