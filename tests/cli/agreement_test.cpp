@@ -1,9 +1,6 @@
 #include "cli/commands.h"
-#include "support/files.h"
+#include "cli/project_texts.h"
 #include "support/print.h"
-
-#include <QRegularExpression>
-#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -11,11 +8,6 @@ using namespace Qt::StringLiterals;
 using namespace vellumo;
 
 namespace {
-
-QString TextOf(const QString &path)
-{
-    return QString::fromUtf8(BytesOf(QStringLiteral(PROJECT "/") + path));
-}
 
 /// The README's section on the headless command.
 QString Readme()
@@ -34,20 +26,10 @@ const QString &Page()
     return page;
 }
 
-QSet<QString> Matches(const QString &text, const QString &expression)
-{
-    static const auto whole = QRegularExpression::DotMatchesEverythingOption;
-    const QRegularExpression pattern(expression, whole);
-    QSet<QString> found;
-    for (auto match = pattern.globalMatch(text); match.hasNext();)
-        found += match.next().captured(1);
-    return found;
-}
-
 /// What is to be typed, by a page of the help.
 QString TypedOn(const QString &page)
 {
-    return Matches(page, u"<(?:tt|pre)>(.*?)</"_s).values().join(u'\n');
+    return Matches(page, u"(?s)<(?:tt|pre)>(.*?)</"_s).values().join(u'\n');
 }
 
 QSet<QString> CommandsIn(const QString &text)

@@ -9,8 +9,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
-
 /// Whatever is wrong with an input, each command says so in one line and writes nothing.
 class BadInput : public EveryInput
 {

@@ -7,7 +7,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString nestbox = DataFile(u"projects/Nestbox.vmp"_s);
 const QString shelfAudit = DataFile(u"../../examples/ShelfAudit.vmp"_s);
 
 const QByteArray mark = "\xEF\xBB\xBF";
@@ -73,17 +72,17 @@ TEST_F(ColumnsCommand, TellsProgramsInJson)
 
 TEST_F(ColumnsCommand, NamesEachOfSeveralProjects)
 {
-    EXPECT_EQ(Run({u"columns"_s, nestbox, shelfAudit}), 0);
-    EXPECT_TRUE(Out().startsWith("file: "_L1 + nestbox + "\nNumber"_L1)) << out.str();
+    EXPECT_EQ(Run({u"columns"_s, goldenNestbox, shelfAudit}), 0);
+    EXPECT_TRUE(Out().startsWith("file: "_L1 + goldenNestbox + "\nNumber"_L1)) << out.str();
     EXPECT_EQ(Out().count("\nfile: "_L1), 1);
-    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, nestbox, shelfAudit}), 0);
+    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, goldenNestbox, shelfAudit}), 0);
     EXPECT_TRUE(Bytes().startsWith(mark + "Project,Number,")) << out.str();
     EXPECT_EQ(Out().count("Project,"_L1), 1) << "one table with one heading";
     EXPECT_EQ(Bytes().count(mark), 1);
     EXPECT_TRUE(Out().contains("\r\n"_L1 + shelfAudit + ",1,SHOP,"_L1)) << out.str();
     const QString odd = InFolder(u"a_b|c.vmp"_s);
-    ASSERT_TRUE(QFile::copy(nestbox, odd));
-    EXPECT_EQ(Run({u"columns"_s, u"--markdown"_s, nestbox, odd}), 0);
+    ASSERT_TRUE(QFile::copy(goldenNestbox, odd));
+    EXPECT_EQ(Run({u"columns"_s, u"--markdown"_s, goldenNestbox, odd}), 0);
     EXPECT_TRUE(Out().contains(" |\n\n## "_L1)) << out.str();
     EXPECT_TRUE(Out().contains("/a\\_b\\|c.vmp\n\n- form name: "_L1)) << out.str();
 }
@@ -91,16 +90,16 @@ TEST_F(ColumnsCommand, NamesEachOfSeveralProjects)
 TEST_F(ColumnsCommand, TriesEachProject)
 {
     const QString missing = InFolder(u"missing.vmp"_s);
-    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, missing, nestbox}), 3);
+    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, missing, goldenNestbox}), 3);
     EXPECT_TRUE(Bytes().startsWith(mark + "Project,Number,")) << out.str();
     EXPECT_TRUE(Err().startsWith(missing + u':')) << err.str();
 }
 
 TEST_F(ColumnsCommand, ReadsStandardInput)
 {
-    EXPECT_EQ(Run({u"columns"_s, u"-"_s, u"--csv"_s}, BytesOf(nestbox)), 0);
+    EXPECT_EQ(Run({u"columns"_s, u"-"_s, u"--csv"_s}, BytesOf(goldenNestbox)), 0);
     const QString told = Out();
-    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, nestbox}), 0);
+    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, goldenNestbox}), 0);
     EXPECT_EQ(Out(), told);
 }
 
@@ -114,9 +113,9 @@ TEST_F(ColumnsCommand, LetsNoControlCharacterReachATerminal)
 
 TEST_F(ColumnsCommand, RefusesTwoFormatsAtOnce)
 {
-    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, u"--markdown"_s, nestbox}), 2);
+    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, u"--markdown"_s, goldenNestbox}), 2);
     EXPECT_EQ(Err(), u"vellumo: Only one of --csv, --markdown and --json can be had.\n"_s);
     EXPECT_EQ(Out(), u""_s);
-    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, u"--json"_s, nestbox}), 2);
-    EXPECT_EQ(Run({u"review"_s, u"--csv"_s, nestbox}), 2) << "it has no table";
+    EXPECT_EQ(Run({u"columns"_s, u"--csv"_s, u"--json"_s, goldenNestbox}), 2);
+    EXPECT_EQ(Run({u"review"_s, u"--csv"_s, goldenNestbox}), 2) << "it has no table";
 }

@@ -76,9 +76,8 @@ TEST_F(CreateCommand, WarnsAndCreatesAllTheSame)
 
 TEST_F(CreateCommand, TellsWhatDoesNotFitTheScreenAndCreatesAllTheSame)
 {
-    const QString project = DataFile(u"projects/Nestbox.vmp"_s);
-    EXPECT_EQ(Create({project}), 0);
-    EXPECT_TRUE(Err().startsWith(project + u": warning: question 5, question text: "_s));
+    EXPECT_EQ(Create({goldenNestbox}), 0);
+    EXPECT_TRUE(Err().startsWith(goldenNestbox + u": warning: question 5, question text: "_s));
     EXPECT_EQ(Err().count(u'\n'), 1) << Err().toStdString();
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
 }

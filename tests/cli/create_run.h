@@ -66,7 +66,6 @@ protected:
     QStringList m_tools; ///< the words that name them; none = they are not used
 };
 
-inline const QString siteVisit = DataFile(QStringLiteral("../../examples/SiteVisit.vmp"));
 inline const QString nestbox = DataFile(QStringLiteral("misfits/Nestbox-that-fits.vmp"));
 
 inline QByteArray InCodePage(const QString &text)

@@ -5,7 +5,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 const QString nullDevice = u"/dev/null"_s;
 
 class DiffCommand : public VellumoRun
@@ -50,10 +49,9 @@ TEST_F(DiffCommand, TellsWhatDiffers)
 
 TEST_F(DiffCommand, TellsTheSameEachTime)
 {
-    const QString nestbox = DataFile(u"projects/Nestbox.vmp"_s);
-    EXPECT_EQ(Run({u"diff"_s, siteVisit, nestbox}), 1);
+    EXPECT_EQ(Run({u"diff"_s, siteVisit, goldenNestbox}), 1);
     const QString told = Out();
-    EXPECT_EQ(Run({u"diff"_s, siteVisit, nestbox}), 1);
+    EXPECT_EQ(Run({u"diff"_s, siteVisit, goldenNestbox}), 1);
     EXPECT_EQ(Out(), told);
 }
 

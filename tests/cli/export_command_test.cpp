@@ -5,8 +5,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
-
 class ExportCommand : public VellumoRun
 {
 protected:

@@ -6,7 +6,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 const QByteArray heading = "Question,Type,Column Name,Items\n";
 
 class ImportCommand : public VellumoRun

@@ -13,7 +13,7 @@ using InfoCommand = VellumoRun;
 
 TEST_F(InfoCommand, TellsWhatIsInAProject)
 {
-    EXPECT_EQ(Run({u"info"_s, DataFile(u"projects/Nestbox.vmp"_s)}), 0);
+    EXPECT_EQ(Run({u"info"_s, goldenNestbox}), 0);
     EXPECT_TRUE(Out().startsWith(u"format: project\nname: Nestbox\n")) << Out().toStdString();
     EXPECT_TRUE(Out().contains(u"\nsize: 2270\nquestions: 6\nitems: 5\n")) << Out().toStdString();
     EXPECT_TRUE(Out().contains(u"\n2. Pulldown List, SPECIES: Species\n")) << Out().toStdString();
@@ -48,8 +48,7 @@ TEST_F(InfoCommand, TellsProgramsInJson)
 
 TEST_F(InfoCommand, TellsProgramsAllTextsOfTheQuestions)
 {
-    const QString project = DataFile(u"projects/Nestbox.vmp"_s);
-    EXPECT_EQ(Run({u"info"_s, u"--json"_s, project}), 0);
+    EXPECT_EQ(Run({u"info"_s, u"--json"_s, goldenNestbox}), 0);
     const QJsonArray ofProject = Objects()[0][u"questionList"_s].toArray();
     ASSERT_EQ(ofProject.size(), 6);
     EXPECT_EQ(ofProject[1][u"number"_s], 2);
@@ -57,12 +56,12 @@ TEST_F(InfoCommand, TellsProgramsAllTextsOfTheQuestions)
     EXPECT_EQ(ofProject[1][u"columnName"_s], u"SPECIES"_s);
     EXPECT_EQ(ofProject[1][u"title"_s], u"Species"_s);
     EXPECT_EQ(ofProject[1][u"question"_s],
-              LoadProject(project)->source.Questions().Rows()[1].Question);
+              LoadProject(goldenNestbox)->source.Questions().Rows()[1].Question);
     EXPECT_EQ(ofProject[1][u"items"_s].toArray().size(), 5);
     EXPECT_FALSE(ofProject[0].toObject().contains(u"items"_s)) << "a question without a list";
 
     qputenv("PATH", PROGRAMS);
-    EXPECT_EQ(Run({u"create"_s, u"-o"_s, InFolder(u"a.prc"_s), project}), 0);
+    EXPECT_EQ(Run({u"create"_s, u"-o"_s, InFolder(u"a.prc"_s), goldenNestbox}), 0);
     EXPECT_EQ(Run({u"info"_s, u"--json"_s, InFolder(u"a.prc"_s)}), 0);
     EXPECT_EQ(Objects()[0][u"questionList"_s].toArray(), ofProject);
 }
@@ -70,8 +69,7 @@ TEST_F(InfoCommand, TellsProgramsAllTextsOfTheQuestions)
 TEST_F(InfoCommand, TellsTitlesAsTheFileHasThemAndQuestionsAsAProjectHasThem)
 {
     const QString project = InFolder(u"a.vmp"_s), database = InFolder(u"a.prc"_s);
-    WriteBytes(project,
-               BytesOf(DataFile(u"projects/Nestbox.vmp"_s)).replace("[Species]", R"([x\54\42y])"));
+    WriteBytes(project, BytesOf(goldenNestbox).replace("[Species]", R"([x\54\42y])"));
     EXPECT_EQ(Run({u"create"_s, u"-o"_s, database, project}), 0) << Err().toStdString();
     EXPECT_EQ(Run({u"info"_s, u"--json"_s, project, database}), 0);
     const QJsonObject ofProject = Objects()[0], ofDatabase = Objects()[1];
@@ -93,6 +91,6 @@ TEST_F(InfoCommand, ReadsStandardInput)
 {
     EXPECT_EQ(Run({u"info"_s, u"-"_s}, BytesOf(DataFile(u"palm/text.prc"_s))), 0);
     EXPECT_TRUE(Out().startsWith(u"format: database\n"));
-    EXPECT_EQ(Run({u"info"_s, u"-"_s}, BytesOf(DataFile(u"projects/Nestbox.vmp"_s))), 0);
+    EXPECT_EQ(Run({u"info"_s, u"-"_s}, BytesOf(goldenNestbox)), 0);
     EXPECT_TRUE(Out().startsWith(u"format: project\n"));
 }

@@ -1,34 +1,18 @@
 #include "cli/commands.h"
-#include "support/files.h"
+#include "cli/project_texts.h"
 #include "support/print.h"
 
 #include <QDirIterator>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
-#include <QSet>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
-
-QString TextOf(const QString &path)
-{
-    return QString::fromUtf8(BytesOf(QStringLiteral(PROJECT "/") + path));
-}
-
-QSet<QString> Matches(const QString &text, const QString &expression)
-{
-    static const auto options = QRegularExpression::MultilineOption;
-    const QRegularExpression pattern(expression, options);
-    QSet<QString> found;
-    for (auto match = pattern.globalMatch(text); match.hasNext();)
-        found += match.next().captured(1);
-    return found;
-}
 
 QString Sources()
 {

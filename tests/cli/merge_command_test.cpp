@@ -7,7 +7,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 const QString waterPoint = DataFile(u"../../examples/WaterPoint.vmp"_s);
 
 class MergeCommand : public VellumoRun

@@ -11,8 +11,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
-
 /// Outputs that are no files, or that others laid there.
 class Outputs : public VellumoRun
 {

@@ -9,8 +9,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString identifier = u"0123456789ABCDEF0123456789ABCDEF"_s;
-
 class RecoverCommand : public CreateCommand
 {
 protected:
@@ -32,7 +30,8 @@ protected:
     /// The database of a project but for its times; empty where it cannot be created.
     QByteArray Created(const QString &project)
     {
-        if (Run({u"create"_s, project, u"-o"_s, InFolder(u"out"_s), u"--guid"_s, identifier}) != 0)
+        if (Run({u"create"_s, project, u"-o"_s, InFolder(u"out"_s), u"--guid"_s, anIdentifier}) !=
+            0)
             return {};
         return BytesOf(Out().trimmed()).replace(36, 8, QByteArray(8, '\0'));
     }
@@ -91,7 +90,7 @@ TEST_F(RecoverCommand, TheWayBackOfGoldenDatabasesGivesTheSame)
         EXPECT_EQ(Out() + Err(), u""_s);
         const auto withIdentifier = [](const QByteArray &bytes) {
             return WithData(bytes, "guid", 1006,
-                            [](const QByteArray &) { return identifier.toLatin1() + '\0'; });
+                            [](const QByteArray &) { return anIdentifier.toLatin1() + '\0'; });
         };
         EXPECT_EQ(Created(Output()),
                   withIdentifier(Golden(name)).replace(36, 8, QByteArray(8, '\0')));

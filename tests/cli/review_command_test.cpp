@@ -5,15 +5,13 @@ using namespace vellumo;
 
 namespace {
 
-const QString example = DataFile(u"../../examples/SiteVisit.vmp"_s);
-
 class ReviewCommand : public VellumoRun
 {
 protected:
     /// A file with the example, changed.
     QString Changed(const QByteArray &from, const QByteArray &to, const QString &name = u"a.vmp"_s)
     {
-        const QByteArray bytes = BytesOf(example);
+        const QByteArray bytes = BytesOf(siteVisit);
         EXPECT_TRUE(bytes.contains(from)) << from.toStdString();
         QString path = InFolder(name);
         WriteBytes(path, QByteArray(bytes).replace(from, to));
@@ -28,7 +26,7 @@ const QByteArray noName = "<FormName></FormName>";
 
 TEST_F(ReviewCommand, SaysNothingOfAProjectThatIsFine)
 {
-    EXPECT_EQ(Run({u"review"_s, example}), 0);
+    EXPECT_EQ(Run({u"review"_s, siteVisit}), 0);
     EXPECT_EQ(Out() + Err(), u""_s);
 }
 
@@ -51,7 +49,7 @@ TEST_F(ReviewCommand, WarnsProgramsOfAnUnknownType)
 
 TEST_F(ReviewCommand, PutsTheFileInFrontWhereThereAreSeveral)
 {
-    const QString good = example, bad = Changed(name, noName);
+    const QString good = siteVisit, bad = Changed(name, noName);
     EXPECT_EQ(Run({u"review"_s, good, bad}), 1);
     EXPECT_EQ(Out(), bad + u": Step1\t\tPlease enter a name for your Vellsheet.\n"_s);
     EXPECT_EQ(Run({u"review"_s, bad, InFolder(u"none.vmp"_s), good}), 3);
@@ -150,7 +148,7 @@ TEST_F(ReviewCommand, TakesWarningsForFindingsWhereItIsStrict)
     ASSERT_EQ(Objects().size(), 2);
     EXPECT_EQ(Objects()[0].value(u"kind"_s).toString(), u"finding"_s);
     EXPECT_EQ(Objects()[1].value(u"code"_s).toString(), u"not-passed"_s);
-    EXPECT_EQ(Run({u"review"_s, u"--strict"_s, example}), 0);
+    EXPECT_EQ(Run({u"review"_s, u"--strict"_s, siteVisit}), 0);
 }
 
 TEST_F(ReviewCommand, TellsOnlyWhatMakesItsStatusWhereItIsQuiet)
@@ -190,7 +188,7 @@ TEST_F(ReviewCommand, LeavesTheFileAlone)
 TEST_F(ReviewCommand, TellsAPersonHowFarItIs)
 {
     watched = true;
-    const QString good = example;
+    const QString good = siteVisit;
     EXPECT_EQ(Run({u"review"_s, good, good}), 0);
     EXPECT_EQ(Err(), u"1 of 2: "_s + good + u"\n2 of 2: "_s + good + u'\n');
     EXPECT_EQ(Run({u"review"_s, good}), 0);

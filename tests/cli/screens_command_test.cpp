@@ -7,8 +7,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
-const QString nestbox = DataFile(u"projects/Nestbox.vmp"_s);
 const QString tenTypes = DataFile(u"palm/tentypes.prc"_s);
 const QString noItems = DataFile(u"projects/edge-noitems.vmp"_s);
 
@@ -64,18 +62,18 @@ TEST_F(ScreensCommand, DrawsADatabaseByItself)
 TEST_F(ScreensCommand, CompilesAProjectAndLeavesNothingOfIt)
 {
     const QString page = InFolder(u"page.html"_s);
-    EXPECT_EQ(Run({u"screens"_s, siteVisit, u"-o"_s, page}), 0) << Err().toStdString();
+    EXPECT_EQ(Run({u"screens"_s, goldenSiteVisit, u"-o"_s, page}), 0) << Err().toStdString();
     EXPECT_EQ(Out(), u""_s);
     EXPECT_EQ(Headings(QString::fromUtf8(BytesOf(page))), QStringList{u"SiteVisit"_s});
     EXPECT_EQ(NamesIn(m_folder.path()), QStringList{u"page.html"_s});
     EXPECT_EQ(NamesIn(m_temporary.path()), QStringList());
-    EXPECT_EQ(Run({u"screens"_s, u"-"_s}, BytesOf(siteVisit)), 0);
+    EXPECT_EQ(Run({u"screens"_s, u"-"_s}, BytesOf(goldenSiteVisit)), 0);
     EXPECT_EQ(Headings(Out()), QStringList{u"SiteVisit"_s});
 }
 
 TEST_F(ScreensCommand, DrawsSeveralOnOnePage)
 {
-    EXPECT_EQ(Run({u"screens"_s, siteVisit, tenTypes, nestbox}), 0);
+    EXPECT_EQ(Run({u"screens"_s, goldenSiteVisit, tenTypes, goldenNestbox}), 0);
     EXPECT_EQ(Headings(Out()), (QStringList{u"SiteVisit"_s, u"tentypes"_s, u"Nestbox"_s}));
 }
 

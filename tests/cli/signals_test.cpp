@@ -1,3 +1,4 @@
+#include "cli/projects.h"
 #include "support/files.h"
 #include "support/print.h"
 
@@ -12,10 +13,9 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace vellumo;
 
 namespace {
-
-const QString siteVisit = DataFile(u"../../examples/SiteVisit.vmp"_s);
 
 /// The program itself, in a folder with tools of the test's own.
 class Signals : public testing::Test

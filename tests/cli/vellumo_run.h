@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/projects.h"
 #include "cli/vellumo.h"
 #include "support/files.h"
 #include "support/print.h"
@@ -13,6 +14,8 @@
 #include <sstream>
 
 namespace vellumo {
+
+inline const QString anIdentifier = QStringLiteral("0123456789ABCDEF0123456789ABCDEF");
 
 /// The headless command run in a folder of its own, with what it printed.
 class VellumoRun : public testing::Test
@@ -54,8 +57,8 @@ private:
     /// For the test that holds the objects of all tests against their description.
     void KeepLines() const
     {
-        const QString program = QCoreApplication::applicationFilePath();
-        static QFile file(QStringLiteral(JSON_LINES "/") + QFileInfo(program).fileName());
+        const QString test = testing::UnitTest::GetInstance()->current_test_info()->file();
+        static QFile file(QStringLiteral(JSON_LINES "/") + QFileInfo(test).completeBaseName());
         if (!file.isOpen()) {
             ASSERT_TRUE(QDir().mkpath(QStringLiteral(JSON_LINES)));
             ASSERT_TRUE(file.open(QFile::WriteOnly | QFile::Unbuffered));

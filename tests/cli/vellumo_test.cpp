@@ -9,9 +9,6 @@ namespace {
 
 using Vellumo = VellumoRun;
 
-const QString identifier = u"0123456789ABCDEF0123456789ABCDEF"_s;
-const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
-
 } // namespace
 
 TEST_F(Vellumo, SaysHowToUseIt)
@@ -73,10 +70,10 @@ TEST_F(Vellumo, TakesOptionsBeforeTheCommand)
 {
     const QByteArray expected = BytesOf(DataFile(u"projects/SiteVisit.rcp"_s));
     const QString file = InFolder(u"a.rcp"_s);
-    EXPECT_EQ(Run({u"--guid"_s, identifier, u"-o"_s, file, u"script"_s, siteVisit}), 0)
+    EXPECT_EQ(Run({u"--guid"_s, anIdentifier, u"-o"_s, file, u"script"_s, goldenSiteVisit}), 0)
         << Err().toStdString();
     EXPECT_EQ(BytesOf(file), expected);
-    EXPECT_EQ(Run({u"--"_s, u"review"_s, siteVisit}), 2);
+    EXPECT_EQ(Run({u"--"_s, u"review"_s, goldenSiteVisit}), 2);
     EXPECT_TRUE(Err().startsWith(u"vellumo: Which command?\n"_s));
 }
 
@@ -97,37 +94,37 @@ TEST_F(Vellumo, RefusesWrongUseOnStandardError)
 TEST_F(Vellumo, WritesAScriptToStandardOutputOrAFile)
 {
     const QByteArray expected = BytesOf(DataFile(u"projects/SiteVisit.rcp"_s));
-    EXPECT_EQ(Run({u"script"_s, siteVisit, u"--guid"_s, identifier.toLower()}), 0);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit, u"--guid"_s, anIdentifier.toLower()}), 0);
     EXPECT_EQ(QByteArray::fromStdString(out.str()), expected);
 
     const QString file = InFolder(u"a.rcp"_s);
-    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, file, u"--guid"_s, identifier}), 0);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit, u"-o"_s, file, u"--guid"_s, anIdentifier}), 0);
     EXPECT_EQ(Out(), u""_s);
     EXPECT_EQ(BytesOf(file), expected);
 }
 
 TEST_F(Vellumo, MakesANewIdentifierUnlessOneIsGiven)
 {
-    Run({u"script"_s, siteVisit});
+    Run({u"script"_s, goldenSiteVisit});
     const QString first = Out();
-    Run({u"script"_s, siteVisit});
+    Run({u"script"_s, goldenSiteVisit});
     EXPECT_NE(first, Out());
 }
 
 TEST_F(Vellumo, WritesTheSameScriptOfTheSameProjectWhereTheTimeIsGiven)
 {
     qputenv("SOURCE_DATE_EPOCH", "1");
-    EXPECT_EQ(Run({u"script"_s, siteVisit}), 0);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit}), 0);
     const QString first = Out();
-    EXPECT_EQ(Run({u"script"_s, siteVisit}), 0);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit}), 0);
     EXPECT_EQ(Out(), first);
     const QByteArray sum =
-        QCryptographicHash::hash(BytesOf(siteVisit), QCryptographicHash::Sha256).toHex();
+        QCryptographicHash::hash(BytesOf(goldenSiteVisit), QCryptographicHash::Sha256).toHex();
     EXPECT_TRUE(first.contains(QString::fromLatin1(sum.first(32)).toUpper())) << "as create has it";
-    EXPECT_EQ(Run({u"script"_s, siteVisit, u"--guid"_s, identifier}), 0);
-    EXPECT_TRUE(Out().contains(identifier));
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit, u"--guid"_s, anIdentifier}), 0);
+    EXPECT_TRUE(Out().contains(anIdentifier));
     qputenv("SOURCE_DATE_EPOCH", "soon");
-    EXPECT_EQ(Run({u"script"_s, siteVisit}), 2);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit}), 2);
     EXPECT_EQ(Err(), u"vellumo: SOURCE_DATE_EPOCH must be 0 to 2212122495 seconds.\n"_s);
     qunsetenv("SOURCE_DATE_EPOCH");
 }
@@ -142,14 +139,14 @@ TEST_F(Vellumo, SaysWhyAScriptCannotBeWritten)
     EXPECT_EQ(Run({u"script"_s, InFolder(u"none.vmp"_s)}), 3);
     EXPECT_EQ(Err(), InFolder(u"none.vmp"_s) + u": No such file or directory\n"_s);
 
-    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, InFolder(u"none/a.rcp"_s)}), 5);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit, u"-o"_s, InFolder(u"none/a.rcp"_s)}), 5);
     EXPECT_TRUE(Err().startsWith(InFolder(u"none/a.rcp"_s) + u": "_s));
 }
 
 TEST_F(Vellumo, NamesTheLineOfAProjectThatIsDamaged)
 {
     const QString path = InFolder(u"damaged.vmp"_s);
-    WriteBytes(path, BytesOf(siteVisit).replace("<MaxId><![CDATA[11]]></MaxId>\r\n", ""));
+    WriteBytes(path, BytesOf(goldenSiteVisit).replace("<MaxId><![CDATA[11]]></MaxId>\r\n", ""));
     EXPECT_EQ(Run({u"script"_s, path}), 3);
     EXPECT_TRUE(Err().startsWith(path + u':')) << Err().toStdString();
     EXPECT_TRUE(Err().endsWith(u": the element MaxId is missing\n"));
@@ -159,13 +156,13 @@ TEST_F(Vellumo, AStreamThatTakesNothingIsAnError)
 {
     std::istringstream in;
     out.setstate(std::ios::badbit);
-    EXPECT_EQ(RunVellumo({u"script"_s, siteVisit}, {.in = in, .out = out, .err = err}), 5);
+    EXPECT_EQ(RunVellumo({u"script"_s, goldenSiteVisit}, {.in = in, .out = out, .err = err}), 5);
     EXPECT_EQ(Err(), u"vellumo: Standard output cannot be written.\n"_s);
 }
 
 TEST_F(Vellumo, RewritesAProjectInItsPlaceOrElsewhere)
 {
-    const QByteArray today = BytesOf(siteVisit);
+    const QByteArray today = BytesOf(goldenSiteVisit);
     const QByteArray earlier =
         QByteArray(today).replace("Brindlecot Data Collect", "Harlo Data Collect");
     const QString path = InFolder(u"a.vmp"_s), copy = InFolder(u"b.vmp"_s);
@@ -187,7 +184,7 @@ TEST_F(Vellumo, RewritingLeavesAFileThatItCannotReadOrWrite)
     EXPECT_EQ(BytesOf(path), "no project");
 
     const QByteArray foreign =
-        BytesOf(siteVisit).replace("windows-1252", "UTF-8").replace("Inspector", "\xCE\xA9");
+        BytesOf(goldenSiteVisit).replace("windows-1252", "UTF-8").replace("Inspector", "\xCE\xA9");
     ASSERT_TRUE(WriteBytes(path, foreign));
     EXPECT_EQ(Run({u"rewrite"_s, path}), 5);
     EXPECT_TRUE(Err().contains(u"The title of question 1 has the character"));
@@ -197,8 +194,9 @@ TEST_F(Vellumo, RewritingLeavesAFileThatItCannotReadOrWrite)
 TEST_F(Vellumo, RewriteRefusesWhatCouldNotBeReadAgain)
 {
     const QString path = InFolder(u"a.vmp"_s);
-    const QByteArray before = BytesOf(siteVisit).replace("<Title><![CDATA[Inspector]]>",
-                                                         "<Title><![CDATA[a\n]]]]><![CDATA[>b]]>");
+    const QByteArray before =
+        BytesOf(goldenSiteVisit)
+            .replace("<Title><![CDATA[Inspector]]>", "<Title><![CDATA[a\n]]]]><![CDATA[>b]]>");
     ASSERT_TRUE(WriteBytes(path, before));
     const QString reason =
         u"question 1, title: \"a\\x0a]]>b\": \"]]>\" ends a text in a project file, "
@@ -227,12 +225,12 @@ TEST_F(Vellumo, RewriteRefusesWhatCouldNotBeReadAgain)
 
 TEST_F(Vellumo, ReadsAndWritesStandardStreams)
 {
-    const QByteArray project = BytesOf(siteVisit);
+    const QByteArray project = BytesOf(goldenSiteVisit);
     EXPECT_EQ(Run({u"rewrite"_s, u"-"_s}, project), 0);
     EXPECT_EQ(QByteArray::fromStdString(out.str()), project);
-    EXPECT_EQ(Run({u"rewrite"_s, siteVisit, u"-o"_s, u"-"_s}), 0);
+    EXPECT_EQ(Run({u"rewrite"_s, goldenSiteVisit, u"-o"_s, u"-"_s}), 0);
     EXPECT_EQ(QByteArray::fromStdString(out.str()), project);
-    EXPECT_EQ(Run({u"script"_s, u"-"_s, u"--guid"_s, identifier}, project), 0);
+    EXPECT_EQ(Run({u"script"_s, u"-"_s, u"--guid"_s, anIdentifier}, project), 0);
     EXPECT_EQ(QByteArray::fromStdString(out.str()), BytesOf(DataFile(u"projects/SiteVisit.rcp"_s)));
 
     EXPECT_EQ(Run({u"script"_s, u"-"_s}, "no project"), 3);
@@ -244,7 +242,7 @@ TEST_F(Vellumo, ReadsAndWritesStandardStreams)
 TEST_F(Vellumo, TellsProgramsInJson)
 {
     const QString file = InFolder(u"a.rcp"_s);
-    EXPECT_EQ(Run({u"script"_s, siteVisit, u"-o"_s, file, u"--json"_s}), 0);
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit, u"-o"_s, file, u"--json"_s}), 0);
     ASSERT_EQ(Objects().size(), 1);
     EXPECT_EQ(Objects()[0][u"kind"_s], u"result"_s);
     EXPECT_EQ(Objects()[0][u"code"_s], u"script"_s);
@@ -253,7 +251,7 @@ TEST_F(Vellumo, TellsProgramsInJson)
     EXPECT_EQ(Run({u"--json"_s}), 2) << "the same status as without";
     ASSERT_EQ(Objects().size(), 1);
     EXPECT_EQ(Objects()[0][u"code"_s], u"wrong-use"_s);
-    EXPECT_EQ(Run({u"script"_s, siteVisit, u"--json"_s}), 2)
+    EXPECT_EQ(Run({u"script"_s, goldenSiteVisit, u"--json"_s}), 2)
         << "a script and an object would get mixed";
     EXPECT_EQ(Run({u"script"_s, InFolder(u"none.vmp"_s), u"-o"_s, file, u"--json"_s}), 3);
     EXPECT_EQ(Objects()[0][u"code"_s], u"unreadable"_s);

@@ -5,8 +5,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString siteVisit = DataFile(u"projects/SiteVisit.vmp"_s);
-
 /// A database of SiteVisit.vmp to be damaged.
 class VerifyCommand : public VellumoRun
 {
@@ -14,7 +12,7 @@ protected:
     VerifyCommand()
     {
         qputenv("PATH", PROGRAMS);
-        EXPECT_EQ(Run({u"create"_s, siteVisit, u"-o"_s, m_folder.path()}), 0)
+        EXPECT_EQ(Run({u"create"_s, goldenSiteVisit, u"-o"_s, m_folder.path()}), 0)
             << Err().toStdString();
         database = InFolder(u"SiteVisit.prc"_s);
         bytes = BytesOf(database);
@@ -23,7 +21,7 @@ protected:
     int Verify(const QByteArray &damaged)
     {
         WriteBytes(database, damaged);
-        return Run({u"verify"_s, database, siteVisit});
+        return Run({u"verify"_s, database, goldenSiteVisit});
     }
 
     QString database;
@@ -35,15 +33,15 @@ protected:
 TEST_F(VerifyCommand, SaysNothingOfADatabaseThatIsRight)
 {
     EXPECT_EQ(Run({u"verify"_s, database}), 0);
-    EXPECT_EQ(Run({u"verify"_s, database, siteVisit}), 0);
+    EXPECT_EQ(Run({u"verify"_s, database, goldenSiteVisit}), 0);
     EXPECT_EQ(Out() + Err(), u""_s);
-    EXPECT_EQ(Run({u"verify"_s, u"-"_s, siteVisit}, bytes), 0);
-    EXPECT_EQ(Run({u"verify"_s, database, u"-"_s}, BytesOf(siteVisit)), 0);
+    EXPECT_EQ(Run({u"verify"_s, u"-"_s, goldenSiteVisit}, bytes), 0);
+    EXPECT_EQ(Run({u"verify"_s, database, u"-"_s}, BytesOf(goldenSiteVisit)), 0);
 }
 
 TEST_F(VerifyCommand, FindsADatabaseOfAnotherProject)
 {
-    EXPECT_EQ(Run({u"verify"_s, database, DataFile(u"projects/Nestbox.vmp"_s)}), 1);
+    EXPECT_EQ(Run({u"verify"_s, database, goldenNestbox}), 1);
     EXPECT_TRUE(Out().contains(u"SiteVisit")) << Out().toStdString();
     EXPECT_EQ(Err(), u""_s);
 }
@@ -67,8 +65,8 @@ TEST_F(VerifyCommand, FindsWhatIsWrongWithoutAProject)
 
 TEST_F(VerifyCommand, RefusesWhatIsNoDatabase)
 {
-    EXPECT_EQ(Run({u"verify"_s, siteVisit}), 3);
-    EXPECT_TRUE(Err().startsWith(siteVisit + u": "_s));
+    EXPECT_EQ(Run({u"verify"_s, goldenSiteVisit}), 3);
+    EXPECT_TRUE(Err().startsWith(goldenSiteVisit + u": "_s));
     EXPECT_EQ(Run({u"verify"_s, database, database}), 3) << "and what is no project";
     EXPECT_EQ(Run({u"verify"_s, database, InFolder(u"none.vmp"_s)}), 3);
 }
@@ -76,7 +74,7 @@ TEST_F(VerifyCommand, RefusesWhatIsNoDatabase)
 TEST_F(VerifyCommand, TellsProgramsInJson)
 {
     WriteBytes(database, QByteArray(bytes).replace("Inspector", "Inspectar"));
-    EXPECT_EQ(Run({u"verify"_s, u"--json"_s, database, siteVisit}), 1);
+    EXPECT_EQ(Run({u"verify"_s, u"--json"_s, database, goldenSiteVisit}), 1);
     ASSERT_EQ(Objects().size(), 2);
     EXPECT_EQ(Objects()[0][u"kind"_s], u"finding"_s);
     EXPECT_EQ(Objects()[0][u"question"_s], 1);

@@ -9,7 +9,7 @@ using namespace vellumo;
 
 namespace {
 
-QStringList Numbered(int count)
+QStringList NumberedItems(int count)
 {
     QStringList items;
     for (int i = 0; i < count; ++i)
@@ -45,8 +45,8 @@ TEST(PastedItems, EndWhereTheHostStopsAdding)
                 {"the dialog", propertyItemList, u"Checkboxes"_s, 255}};
     for (const auto &row : rows) {
         ItemList items;
-        const QString refused = PasteItems(items, row.host, row.type, Numbered(row.fit + 12));
-        EXPECT_EQ(items.Items(), Numbered(row.fit)) << row.what;
+        const QString refused = PasteItems(items, row.host, row.type, NumberedItems(row.fit + 12));
+        EXPECT_EQ(items.Items(), NumberedItems(row.fit)) << row.what;
         EXPECT_EQ(refused.count(u'\n'), 11) << row.what;
         EXPECT_TRUE(refused.endsWith(u"\nand 2 more."_s)) << row.what;
     }

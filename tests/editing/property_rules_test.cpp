@@ -16,13 +16,13 @@ const QString lineBreak = u"Carriage returns are not allowed in a question.\n"_s
 const QString longQuestion = u"Please keep the question length to 255 characters or less.\n"_s;
 const QString noColumn = u"Please enter a column name.\n"_s;
 const QString longColumn = u"Please keep the column name length to 255 characters or less.\n"_s;
-const QString quotes = u"Double quotes are not allowed in Title and Column Name."_s;
+const QString propertyQuotes = u"Double quotes are not allowed in Title and Column Name."_s;
 const QString taken = u"The column name already exists. Please enter a different name.\n"_s;
 const QString noItem = u"Please enter at least one item."_s;
 const QString manyItems = u"Please keep the list to 255 items or less."_s;
 const QString manyBoxes = u"Please keep the Check Box to 32 items or less."_s;
 
-QStringList Numbered(int count)
+QStringList Digits(int count)
 {
     QStringList items;
     for (int i = 0; i < count; ++i)
@@ -96,14 +96,14 @@ TEST(PropertyRules, ObjectOnBothSidesOfEachTextLimit)
         {"no column name", u"T"_s, u"Q"_s, u""_s, noColumn},
         {"column name of 255", u"T"_s, u"Q"_s, QString(255, u'c'), u""_s},
         {"column name of 256", u"T"_s, u"Q"_s, QString(256, u'c'), longColumn},
-        {"quote in the title", u"\""_s, u"Q"_s, u"C"_s, quotes},
-        {"quote in the column name", u"T"_s, u"Q"_s, u"\""_s, quotes},
-        {"quotes in both", u"\""_s, u"Q"_s, u"\""_s, quotes},
+        {"quote in the title", u"\""_s, u"Q"_s, u"C"_s, propertyQuotes},
+        {"quote in the column name", u"T"_s, u"Q"_s, u"\""_s, propertyQuotes},
+        {"quotes in both", u"\""_s, u"Q"_s, u"\""_s, propertyQuotes},
         {"title and question", QString(21, u't'), u""_s, u"C"_s, longTitle + noQuestion},
         {"long question with a break", u"T"_s, QString(256, u'\n'), u"C"_s,
          lineBreak + longQuestion},
         {"all of the column name", QString(21, u'"'), u"Q"_s, QString(256, u'"'),
-         longTitle + longColumn + quotes},
+         longTitle + longColumn + propertyQuotes},
         {"blanks are a column name", u"T"_s, u"Q"_s, u" "_s, u""_s},
     };
     for (const auto &row : rows) {
@@ -156,7 +156,7 @@ TEST(PropertyRules, ObjectToTooFewAndTooManyItems)
         SCOPED_TRACE(row.type.toStdString() + ' ' + std::to_string(row.items));
         EXPECT_EQ(ObjectionsAfter([&row](Question &edited) {
                       edited.type = row.type;
-                      edited.items = Numbered(row.items);
+                      edited.items = Digits(row.items);
                   }),
                   row.objections);
     }
@@ -168,13 +168,13 @@ TEST(PropertyRules, RunMessagesTogetherThatEndNoLine)
                   edited.columnName = u"a\"b"_s;
                   edited.items.clear();
               }),
-              quotes + noItem);
+              propertyQuotes + noItem);
     EXPECT_EQ(ObjectionsAfter([](Question &edited) {
                   edited.title = u"\""_s;
                   edited.columnName = u"Age"_s;
-                  edited.items = Numbered(256);
+                  edited.items = Digits(256);
               }),
-              quotes + taken + manyItems);
+              propertyQuotes + taken + manyItems);
 }
 
 TEST(PropertyRules, ReplaceContentButNeitherPlaceNorIdentity)

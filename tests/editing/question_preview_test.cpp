@@ -10,7 +10,7 @@ using namespace vellumo;
 
 namespace {
 
-clsDataSource SourceWith(const QuestionRow &question)
+clsDataSource SourceOf(const QuestionRow &question)
 {
     clsDataSource source;
     source.GetDataMember();
@@ -30,7 +30,7 @@ TEST(QuestionPreview, IsNothingWithoutACurrentQuestion)
 
 TEST(QuestionPreview, TellsTheNumberOfTheQuestionAndOfAll)
 {
-    clsDataSource source = SourceWith({.Order = 1, .Type = u"Text"_s});
+    clsDataSource source = SourceOf({.Order = 1, .Type = u"Text"_s});
     source.Questions().Append({.Order = 2, .Type = u"Text"_s});
     EXPECT_EQ(PreviewOf(source)->position, u"2 of 2"_s);
 }
@@ -38,13 +38,13 @@ TEST(QuestionPreview, TellsTheNumberOfTheQuestionAndOfAll)
 TEST(QuestionPreview, KnowsEachType)
 {
     for (const QuestionType &type : questionTypes)
-        EXPECT_EQ(PreviewOf(SourceWith({.Type = type.name}))->type, type.id);
+        EXPECT_EQ(PreviewOf(SourceOf({.Type = type.name}))->type, type.id);
 }
 
 TEST(QuestionPreview, LeavesAQuestionOfAnotherTypeBlank)
 {
     const auto preview = PreviewOf(
-        SourceWith({.Order = 1, .Title = u"Bird"_s, .Question = u"Which?"_s, .Type = u"text"_s}));
+        SourceOf({.Order = 1, .Title = u"Bird"_s, .Question = u"Which?"_s, .Type = u"text"_s}));
     EXPECT_FALSE(preview->type);
     EXPECT_EQ(preview->position, u"1 of 1"_s);
     EXPECT_EQ(preview->title, QString());
@@ -56,15 +56,14 @@ TEST(QuestionPreview, CutsAQuestionOfMoreThan23CharactersAt20)
 {
     const QString whole = u"Which bird do you see??"_s;
     ASSERT_EQ(whole.size(), 23);
-    EXPECT_EQ(PreviewOf(SourceWith({.Question = whole, .Type = u"Text"_s}))->question, whole);
-    EXPECT_EQ(PreviewOf(SourceWith({.Question = whole + u'?', .Type = u"Text"_s}))->question,
+    EXPECT_EQ(PreviewOf(SourceOf({.Question = whole, .Type = u"Text"_s}))->question, whole);
+    EXPECT_EQ(PreviewOf(SourceOf({.Question = whole + u'?', .Type = u"Text"_s}))->question,
               u"Which bird do you se..."_s);
 }
 
 TEST(QuestionPreview, ShowsTheTitleAsItStands)
 {
-    EXPECT_EQ(PreviewOf(SourceWith({.Title = u" a <b> "_s, .Type = u"Text"_s}))->title,
-              u" a <b> "_s);
+    EXPECT_EQ(PreviewOf(SourceOf({.Title = u" a <b> "_s, .Type = u"Text"_s}))->title, u" a <b> "_s);
 }
 
 TEST(QuestionPreview, ShowsTheFirstSixItemsOfCheckboxes)
@@ -75,7 +74,7 @@ TEST(QuestionPreview, ShowsTheFirstSixItemsOfCheckboxes)
     } rows[] = {{0, 0, false}, {6, 6, false}, {7, 6, true}, {9, 6, true}};
     for (const auto &row : rows) {
         SCOPED_TRACE(row.items);
-        clsDataSource source = SourceWith({.Type = u"Checkboxes"_s, .Id = 4});
+        clsDataSource source = SourceOf({.Type = u"Checkboxes"_s, .Id = 4});
         source.Items().Append({.Id = 5, .Item = u"of another"_s});
         for (int n = 1; n <= row.items; ++n)
             source.Items().Append({.Id = 4, .Item = QString::number(n)});
@@ -90,7 +89,7 @@ TEST(QuestionPreview, ShowsTheFirstSixItemsOfCheckboxes)
 TEST(QuestionPreview, ShowsNoItemsOfAnyOtherType)
 {
     for (const QuestionType &type : questionTypes) {
-        clsDataSource source = SourceWith({.Type = type.name, .Id = 4});
+        clsDataSource source = SourceOf({.Type = type.name, .Id = 4});
         source.Items().Append({.Id = 4, .Item = u"one"_s});
         EXPECT_EQ(PreviewOf(source)->items.has_value(), type.id == TypeId::Checkboxes);
     }

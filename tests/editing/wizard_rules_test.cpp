@@ -15,16 +15,16 @@ const QString text = u"Text"_s;
 const QString pulldown = u"Pulldown List"_s;
 const QString checkboxes = u"Checkboxes"_s;
 
-const QString quotes = u"Double quotes are not allowed."_s;
-const QString longTitle = u"Please keep the title length to 20 characters or less."_s;
-const QString noColumn = u"Please enter a column name."_s;
-const QString longColumn = u"Please keep the column name length to 255 characters or less."_s;
+const QString wizardQuotes = u"Double quotes are not allowed."_s;
+const QString wizardLongTitle = u"Please keep the title length to 20 characters or less."_s;
+const QString wizardNoColumn = u"Please enter a column name."_s;
+const QString wizardLongColumn = u"Please keep the column name length to 255 characters or less."_s;
 const QString columnExists = u"The column name already exists. Please enter a different name."_s;
 const QString lineBreaks = u"Carriage returns are not allowed in a question."_s;
-const QString longQuestion = u"Please keep the question length to 255 characters or less."_s;
+const QString wizardLongQuestion = u"Please keep the question length to 255 characters or less."_s;
 const QString noItems = u"Please enter at least one item"_s;
-const QString manyItems = u"Please keep the list to 255 items or less."_s;
-const QString manyBoxes = u"Please keep the Check Box to 32 items or less."_s;
+const QString wizardManyItems = u"Please keep the list to 255 items or less."_s;
+const QString wizardManyBoxes = u"Please keep the Check Box to 32 items or less."_s;
 
 QString Letters(qsizetype count)
 {
@@ -84,10 +84,10 @@ TEST(WizardRules, NextChecksTheTitleAsItStands)
     } rows[] = {
         {"none is allowed", u""_s, u""_s},
         {"20 are inclusive", Letters(20), u""_s},
-        {"one over", Letters(21), longTitle},
-        {"blanks count", u" "_s + Letters(20), longTitle},
-        {"a double quote", u"a\"b"_s, quotes},
-        {"length is checked first", u"\""_s + Letters(20), longTitle},
+        {"one over", Letters(21), wizardLongTitle},
+        {"blanks count", u" "_s + Letters(20), wizardLongTitle},
+        {"a double quote", u"a\"b"_s, wizardQuotes},
+        {"length is checked first", u"\""_s + Letters(20), wizardLongTitle},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
@@ -106,20 +106,20 @@ TEST(WizardRules, NextChecksTheTrimmedColumnName)
         {"free", u"Weight"_s, u""_s, u"Weight"_s},
         {"blanks go, also where it passes", u"  Weight "_s, u""_s, u"Weight"_s},
         {"a tab is no blank", u"\tWeight"_s, u""_s, u"\tWeight"_s},
-        {"none", u""_s, noColumn, u""_s},
-        {"blanks alone", u"   "_s, noColumn, u""_s},
+        {"none", u""_s, wizardNoColumn, u""_s},
+        {"blanks alone", u"   "_s, wizardNoColumn, u""_s},
         {"255 are inclusive", Letters(255), u""_s, Letters(255)},
         {"255 and blanks", u" "_s + Letters(255) + u" "_s, u""_s, Letters(255)},
-        {"one over", Letters(256), longColumn, Letters(256)},
-        {"a double quote", u"a\"b"_s, quotes, u"a\"b"_s},
-        {"length is checked before quotes", u"\""_s + Letters(255), longColumn,
+        {"one over", Letters(256), wizardLongColumn, Letters(256)},
+        {"a double quote", u"a\"b"_s, wizardQuotes, u"a\"b"_s},
+        {"length is checked before quotes", u"\""_s + Letters(255), wizardLongColumn,
          u"\""_s + Letters(255)},
         {"taken", u"Age"_s, columnExists, u"Age"_s},
         {"taken once trimmed", u" Age "_s, columnExists, u"Age"_s},
         {"another case is free", u"AGE"_s, u""_s, u"AGE"_s},
         {"taken by the last", u"Size"_s, columnExists, u"Size"_s},
-        {"length is checked before others'", Letters(300), longColumn, Letters(300)},
-        {"quotes are checked before others'", u"q\""_s, quotes, u"q\""_s},
+        {"length is checked before others'", Letters(300), wizardLongColumn, Letters(300)},
+        {"quotes are checked before others'", u"q\""_s, wizardQuotes, u"q\""_s},
     };
     clsDataSource source = SourceWith({u"Age"_s, u"q\""_s, Letters(300), u"Size"_s});
     source.MoveFirst();
@@ -149,7 +149,7 @@ TEST(WizardRules, NextAndFinishMissAQuestionInDifferentWords)
         {"blanks alone", u"  "_s, ofNext, ofFinish, u""_s},
         {"255 are inclusive", Letters(255), u""_s, u""_s, Letters(255)},
         {"255 and blanks", u" "_s + Letters(255), u""_s, u""_s, Letters(255)},
-        {"one over", Letters(256), longQuestion, longQuestion, Letters(256)},
+        {"one over", Letters(256), wizardLongQuestion, wizardLongQuestion, Letters(256)},
         {"a line feed", u"a\nb"_s, lineBreaks, lineBreaks, u"a\nb"_s},
         {"a carriage return", u"a\rb"_s, lineBreaks, lineBreaks, u"a\rb"_s},
         {"a line feed is no blank", u" \n "_s, lineBreaks, lineBreaks, u"\n"_s},
@@ -179,12 +179,12 @@ TEST(WizardRules, FinishCountsTheItems)
         {"an empty list", pulldown, 0, noItems},
         {"a list of one", pulldown, 1, u""_s},
         {"a list of 255", pulldown, 255, u""_s},
-        {"a list of 256", pulldown, 256, manyItems},
+        {"a list of 256", pulldown, 256, wizardManyItems},
         {"no boxes", checkboxes, 0, noItems},
         {"32 boxes", checkboxes, 32, u""_s},
-        {"33 boxes", checkboxes, 33, manyBoxes},
+        {"33 boxes", checkboxes, 33, wizardManyBoxes},
         {"a list may be longer than boxes", pulldown, 33, u""_s},
-        {"boxes are told as boxes", checkboxes, 256, manyBoxes},
+        {"boxes are told as boxes", checkboxes, 256, wizardManyBoxes},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);

@@ -9,7 +9,7 @@ using namespace vellumo;
 
 namespace {
 
-QStringList Letters(const QString &word)
+QStringList LettersOf(const QString &word)
 {
     QStringList letters;
     for (const QChar letter : word)
@@ -21,7 +21,7 @@ QStringList Letters(const QString &word)
 QString MovedLetters(const QString &before, const QString &after)
 {
     RowMatching matching(before.size(), after.size());
-    matching.Pair(Letters(before), Letters(after));
+    matching.Pair(LettersOf(before), LettersOf(after));
     const QList<bool> moved = matching.Moved();
     QString letters;
     for (qsizetype i = 0; i < after.size(); ++i)
@@ -35,7 +35,7 @@ QString MovedLetters(const QString &before, const QString &after)
 TEST(RowMatching, PairsTheFirstWithTheFirst)
 {
     RowMatching matching(4, 4);
-    matching.Pair(Letters(u"abac"_s), Letters(u"aaad"_s));
+    matching.Pair(LettersOf(u"abac"_s), LettersOf(u"aaad"_s));
     EXPECT_EQ(matching.Before(0), 0);
     EXPECT_EQ(matching.Before(1), 2);
     EXPECT_EQ(matching.Before(2), RowMatching::none);
@@ -58,7 +58,7 @@ TEST(RowMatching, LeavesPairsOfAnEarlierKeyAlone)
 TEST(RowMatching, PairsNothingThatIsNotAccepted)
 {
     RowMatching matching(2, 2);
-    matching.Pair(Letters(u"ab"_s), Letters(u"ab"_s),
+    matching.Pair(LettersOf(u"ab"_s), LettersOf(u"ab"_s),
                   [](qsizetype before, qsizetype) { return before == 1; });
     EXPECT_EQ(matching.Before(0), RowMatching::none);
     EXPECT_TRUE(matching.IsGone(0));

@@ -12,7 +12,7 @@ namespace {
 
 const QByteArray mark = "\xEF\xBB\xBF";
 
-SheetImport Imported(const QByteArray &bytes)
+SheetImport ImportedSheet(const QByteArray &bytes)
 {
     const Result<Sheet> sheet = ReadSheet(bytes);
     EXPECT_TRUE(sheet) << sheet.error().text.toStdString();
@@ -48,7 +48,7 @@ TEST(Sheet, HasRowsOfTheFormAndARowForEachQuestion)
                                           "1,Title 1,Question 1,Pulldown List,q1,\"1 a\n1 b\"\r\n"
                                           "2,Title 2,Question 2,Pulldown List,q2,\"2 a\n2 b\"\r\n"
                                           "9,,How old?,Numeric,Age,\r\n");
-    const SheetImport import = Imported(WriteSheet(Small()));
+    const SheetImport import = ImportedSheet(WriteSheet(Small()));
     EXPECT_EQ(import.refusals, QList<Refusal>());
     EXPECT_EQ(import.added, 3);
     EXPECT_EQ(*WriteProject(import.project), *WriteProject(Small()));
@@ -64,7 +64,7 @@ TEST(Sheet, TellsOfOrdersAndItemsThatAreNotThoseOfTheRows)
     const QByteArray bytes = WriteSheet(project);
     EXPECT_TRUE(bytes.contains("Item order,\"2\n1\n50:lost\"\r\n")) << bytes.toStdString();
     EXPECT_TRUE(bytes.contains("Id,Order,Title,Question,Type,Column Name,Items\r\n1,-7,Title 1"));
-    EXPECT_EQ(*WriteProject(Imported(bytes).project), *WriteProject(project));
+    EXPECT_EQ(*WriteProject(ImportedSheet(bytes).project), *WriteProject(project));
 }
 
 TEST(Sheet, BringsItemsBackThatQuestionsShare)
@@ -74,7 +74,7 @@ TEST(Sheet, BringsItemsBackThatQuestionsShare)
     project.source.Questions().Current().Id = 2;
     project.source.Questions().MoveLast();
     project.source.Questions().Current().Id = 2;
-    const SheetImport import = Imported(WriteSheet(project));
+    const SheetImport import = ImportedSheet(WriteSheet(project));
     EXPECT_EQ(import.refusals, QList<Refusal>());
     EXPECT_EQ(*WriteProject(import.project), *WriteProject(project));
 }
@@ -86,7 +86,7 @@ TEST(Sheet, OfAnyExampleGivesTheSameFile)
             SCOPED_TRACE(name.toStdString());
             const Result<Project> project = ReadProject(BytesOf(folder + u'/' + name));
             ASSERT_TRUE(project);
-            const SheetImport import = Imported(WriteSheet(*project));
+            const SheetImport import = ImportedSheet(WriteSheet(*project));
             if (!import.refusals.isEmpty()) {
                 EXPECT_TRUE(name.startsWith("edge-"_L1)) << import.refusals[0].reason.toStdString();
                 continue;
@@ -97,10 +97,11 @@ TEST(Sheet, OfAnyExampleGivesTheSameFile)
 
 TEST(Sheet, OfAPersonNeedsOnlyColumns)
 {
-    const SheetImport import = Imported("items;QUESTION; Column Name ;type\r\n"
-                                        ";How many?;Count;numeric\r\n"
-                                        "\"Oak\r\n Ash \r\n\";  Which?  ; Kind ;PULLDOWN LIST\r\n"
-                                        ";;;\r\n");
+    const SheetImport import =
+        ImportedSheet("items;QUESTION; Column Name ;type\r\n"
+                      ";How many?;Count;numeric\r\n"
+                      "\"Oak\r\n Ash \r\n\";  Which?  ; Kind ;PULLDOWN LIST\r\n"
+                      ";;;\r\n");
     EXPECT_EQ(import.refusals, QList<Refusal>());
     EXPECT_EQ(import.added, 2);
     Project expected;
@@ -114,7 +115,7 @@ TEST(Sheet, OfAPersonNeedsOnlyColumns)
 TEST(Sheet, HasItemsThatOnlyLookEmpty)
 {
     const SheetImport import =
-        Imported("Question,Type,Column Name,Items\na,Checkboxes,b,\xC2\xA0\n");
+        ImportedSheet("Question,Type,Column Name,Items\na,Checkboxes,b,\xC2\xA0\n");
     EXPECT_EQ(import.refusals, QList<Refusal>());
     EXPECT_EQ(ItemsOf(import.project.source, 1), QStringList{u"\u00a0"_s});
 }
@@ -127,7 +128,7 @@ TEST(Sheet, IsReadWhateverSeparatesItsCells)
     semicolons.replace(',', ';').replace("Two; ", "Two, ");
     tabs.replace(',', '\t').replace("Two\t ", "Two, ");
     for (const QByteArray &bytes : {semicolons, tabs})
-        EXPECT_EQ(*WriteProject(Imported(bytes).project), *WriteProject(Small()));
+        EXPECT_EQ(*WriteProject(ImportedSheet(bytes).project), *WriteProject(Small()));
 }
 
 TEST(Sheet, GivesRowsWithoutIdsFreshOnes)
@@ -139,16 +140,16 @@ TEST(Sheet, GivesRowsWithoutIdsFreshOnes)
             all += row.Id;
         return all += import.project.source.MaxId();
     };
-    EXPECT_EQ(ids(Imported(heading + ",a,Text,a\n7,b,Text,b\n,c,Text,c\n")),
+    EXPECT_EQ(ids(ImportedSheet(heading + ",a,Text,a\n7,b,Text,b\n,c,Text,c\n")),
               (QList<int>{8, 7, 9, 10}));
-    EXPECT_EQ(ids(Imported("Next Id,2\n" + heading + ",a,Text,a\n2,b,Text,b\n,c,Text,c\n")),
+    EXPECT_EQ(ids(ImportedSheet("Next Id,2\n" + heading + ",a,Text,a\n2,b,Text,b\n,c,Text,c\n")),
               (QList<int>{3, 2, 4, 5}));
-    EXPECT_EQ(ids(Imported("Next Id,2\nItem order,2:x\n" + heading + ",a,Text,a\n")),
+    EXPECT_EQ(ids(ImportedSheet("Next Id,2\nItem order,2:x\n" + heading + ",a,Text,a\n")),
               (QList<int>{3, 4}));
-    const SheetImport full = Imported(heading + "2147483647,a,Text,a\n,b,Text,b\n");
+    const SheetImport full = ImportedSheet(heading + "2147483647,a,Text,a\n,b,Text,b\n");
     EXPECT_EQ(ids(full), (QList<int>{2147483647, 2147483647}));
     EXPECT_EQ(full.refusals, (QList<Refusal>{{3, u"Id"_s, u"There is no Id left."_s, 2}}));
-    EXPECT_EQ(ids(Imported(heading + "-5,a,Text,a\n")), (QList<int>{-5, 1}));
+    EXPECT_EQ(ids(ImportedSheet(heading + "-5,a,Text,a\n")), (QList<int>{-5, 1}));
 }
 
 TEST(Sheet, IsAppendedUnderFreshIdsAndFreeNames)

@@ -16,20 +16,20 @@ using namespace vellumo;
 
 namespace {
 
-constexpr int operations = 10000;
-
 const QString tooMany = u"Please keep the list to 255 items or less."_s;
 const QString tooManyBoxes = u"Please keep the Check Box to 32 items or less."_s;
 
-class Walk
+class ItemListWalk
 {
 public:
     /// One operation, on both.
     void Step()
     {
-        constexpr std::array all = {&Walk::Add,  &Walk::Add,      &Walk::AddNames, &Walk::Remove,
-                                    &Walk::Move, &Walk::Move,     &Walk::Sort,     &Walk::Load,
-                                    &Walk::Add,  &Walk::JudgeItem};
+        constexpr std::array all = {&ItemListWalk::Add,      &ItemListWalk::Add,
+                                    &ItemListWalk::AddNames, &ItemListWalk::Remove,
+                                    &ItemListWalk::Move,     &ItemListWalk::Move,
+                                    &ItemListWalk::Sort,     &ItemListWalk::Load,
+                                    &ItemListWalk::Add,      &ItemListWalk::JudgeItem};
         (this->*m_random.OneOf(all))();
         JudgeRoom();
         m_most = std::max(m_most, m_model.size());
@@ -174,7 +174,7 @@ private:
 
 TEST(ItemListWalk, AgreesWithAVector)
 {
-    Walk walk;
+    ItemListWalk walk;
     for (int i = 0; i < operations; ++i) {
         walk.Step();
         ASSERT_FALSE(testing::Test::HasFailure()) << "operation " << i;

@@ -10,11 +10,7 @@
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
-namespace {
-
-constexpr int operations = 10000;
-
-} // namespace
+namespace {} // namespace
 
 TEST(PropertyDialog, AgreesWithTheRulesStatedAgain)
 {

@@ -18,8 +18,6 @@ using namespace vellumo;
 
 namespace {
 
-constexpr int operations = 10000;
-
 /// What the list should be: a place is that in the vector.
 struct Model {
     struct Entry {
@@ -74,21 +72,25 @@ QStringList LinesOf(const clsDataSource &source)
     return lines;
 }
 
-class Walk
+class QuestionListWalk
 {
 public:
-    Walk() { m_source.GetDataMember(); }
+    QuestionListWalk() { m_source.GetDataMember(); }
 
     /// One operation, on both; the two must then agree.
     void Step()
     {
-        using Operation = void (Walk::*)();
-        constexpr std::array all = {&Walk::Add,  &Walk::Add,       &Walk::Select, &Walk::Up,
-                                    &Walk::Down, &Walk::Duplicate, &Walk::Edit,   &Walk::Remove};
-        const Operation operation = m_model.entries.empty() ? &Walk::Add : m_random.OneOf(all);
+        using Operation = void (QuestionListWalk::*)();
+        constexpr std::array all = {&QuestionListWalk::Add,    &QuestionListWalk::Add,
+                                    &QuestionListWalk::Select, &QuestionListWalk::Up,
+                                    &QuestionListWalk::Down,   &QuestionListWalk::Duplicate,
+                                    &QuestionListWalk::Edit,   &QuestionListWalk::Remove};
+        const Operation operation =
+            m_model.entries.empty() ? &QuestionListWalk::Add : m_random.OneOf(all);
         // A longer list now and then, up to the last that has room.
-        const bool grows = operation != &Walk::Remove || m_random.OnceIn(m_shrinking ? 1 : 4);
-        (this->*(grows ? operation : &Walk::Up))();
+        const bool grows =
+            operation != &QuestionListWalk::Remove || m_random.OnceIn(m_shrinking ? 1 : 4);
+        (this->*(grows ? operation : &QuestionListWalk::Up))();
         if (m_model.entries.size() == 128)
             m_shrinking = true;
         if (m_model.entries.size() < 5)
@@ -210,7 +212,7 @@ private:
 
 TEST(QuestionListWalk, AgreesWithAVector)
 {
-    Walk walk;
+    QuestionListWalk walk;
     for (int i = 0; i < operations; ++i) {
         walk.Step();
         ASSERT_FALSE(testing::Test::HasFailure()) << "operation " << i;

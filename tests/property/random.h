@@ -9,6 +9,9 @@
 
 namespace vellumo {
 
+/// How many operations a random walk takes.
+inline constexpr int operations = 10000;
+
 /// Random choices from a seed that is printed, so that a failure can be had again: VELLUMO_SEED has
 /// it then. Otherwise each run has a seed of its own.
 class Random

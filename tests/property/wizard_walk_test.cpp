@@ -15,12 +15,10 @@ using namespace vellumo;
 
 namespace {
 
-constexpr int operations = 10000;
-
-class Walk
+class WizardWalk
 {
 public:
-    Walk() { m_source.GetDataMember(); }
+    WizardWalk() { m_source.GetDataMember(); }
 
     void Step()
     {
@@ -120,7 +118,7 @@ private:
 
 TEST(WizardWalk, AgreesWithTheRulesStatedAgain)
 {
-    Walk walk;
+    WizardWalk walk;
     for (int i = 0; i < operations; ++i) {
         walk.Step();
         ASSERT_FALSE(testing::Test::HasFailure()) << "operation " << i;

@@ -24,7 +24,7 @@ Form ReadOk(const QByteArray &resource)
 }
 
 /// The error, or "read".
-QString RefusalOf(const QByteArray &resource)
+QString FormRefusal(const QByteArray &resource)
 {
     const Result<Form> form = ReadForm(resource);
     return form ? u"read"_s : form.error().text;
@@ -52,9 +52,9 @@ TEST(FormReader, DecodesEveryGoldenFormToItsLastByte)
             if (resource.type != "tFRM")
                 continue;
             SCOPED_TRACE((name + u' ' + Describe(resource.Key())).toStdString());
-            EXPECT_EQ(RefusalOf(resource.data), u"read"_s);
-            EXPECT_NE(RefusalOf(resource.data + '\0'), u"read"_s);
-            EXPECT_NE(RefusalOf(resource.data.chopped(1)), u"read"_s);
+            EXPECT_EQ(FormRefusal(resource.data), u"read"_s);
+            EXPECT_NE(FormRefusal(resource.data + '\0'), u"read"_s);
+            EXPECT_NE(FormRefusal(resource.data.chopped(1)), u"read"_s);
             EXPECT_EQ(ReadOk(resource.data).number, resource.number);
             ++forms;
         }
@@ -166,7 +166,7 @@ TEST(FormReader, RefusesWhatDoesNotAddUp)
     ASSERT_EQ(ReadOk(checkboxes).objects[2].kind, ObjectKind::Table);
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        EXPECT_EQ(RefusalOf(row.form), row.reason);
+        EXPECT_EQ(FormRefusal(row.form), row.reason);
     }
 }
 
@@ -175,6 +175,6 @@ TEST(FormReader, RefusesEveryTruncation)
     for (const QString &name : {u"pulldown"_s, u"checkboxes"_s}) {
         const QByteArray form = FormBytes(name);
         for (qsizetype size = 0; size < form.size(); ++size)
-            ASSERT_NE(RefusalOf(form.first(size)), u"read"_s) << size;
+            ASSERT_NE(FormRefusal(form.first(size)), u"read"_s) << size;
     }
 }

@@ -14,7 +14,7 @@ constexpr qsizetype entrySize = 10;
 constexpr qsizetype entryOffset = 6;
 
 /// The error, or "read".
-QString RefusalOf(const QByteArray &bytes)
+QString DatabaseRefusal(const QByteArray &bytes)
 {
     const Result<PalmDatabase> database = ReadDatabase(bytes);
     return database ? u"read"_s : database.error().text;
@@ -105,9 +105,10 @@ TEST(PalmDatabase, RefusesWhatTheLayoutDoesNotAllow)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
-        EXPECT_EQ(RefusalOf(row.bytes), u"This is no sound Palm database: %1."_s.arg(row.reason));
+        EXPECT_EQ(DatabaseRefusal(row.bytes),
+                  u"This is no sound Palm database: %1."_s.arg(row.reason));
     }
-    EXPECT_EQ(RefusalOf(text + QByteArray(65531, '\0')), u"read"_s) << "the largest resource";
+    EXPECT_EQ(DatabaseRefusal(text + QByteArray(65531, '\0')), u"read"_s) << "the largest resource";
 }
 
 TEST(PalmDatabase, ReadsWhatAHandheldCounts)
@@ -134,7 +135,7 @@ TEST(PalmDatabase, PutsResourcesInTheirOrder)
     EXPECT_EQ(database.disorder, u"'tSTL' 1004 stands after 'tver' 1"_s);
 
     resources.prepend(resources.last());
-    EXPECT_EQ(RefusalOf(WithResources(text, resources)),
+    EXPECT_EQ(DatabaseRefusal(WithResources(text, resources)),
               u"This is no sound Palm database: resource 'desc' 1003 is there twice."_s);
 }
 
@@ -142,7 +143,7 @@ TEST(PalmDatabase, ReadsOneWithoutResources)
 {
     const QByteArray empty = Golden(u"text"_s).first(76) + QByteArray(4, '\0');
     EXPECT_TRUE(Read(empty).resources.isEmpty());
-    EXPECT_EQ(RefusalOf(empty + '\0'),
+    EXPECT_EQ(DatabaseRefusal(empty + '\0'),
               u"This is no sound Palm database: it should end at byte 80, but has 81 bytes."_s);
 }
 
@@ -150,5 +151,5 @@ TEST(PalmDatabase, RefusesEveryTruncationBeforeTheLastResource)
 {
     const QByteArray text = Golden(u"text"_s);
     for (qsizetype size = 0; size < text.size() - 4; ++size)
-        ASSERT_NE(RefusalOf(text.first(size)), u"read"_s) << size;
+        ASSERT_NE(DatabaseRefusal(text.first(size)), u"read"_s) << size;
 }

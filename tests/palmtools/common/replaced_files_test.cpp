@@ -12,8 +12,6 @@
 namespace palmtools {
 namespace {
 
-constexpr uid_t ordinary = 65534, other = 65533; // the first is who AsOrdinaryUser is
-
 struct stat StatusOf(const char *path)
 {
     struct stat status = {};
@@ -76,11 +74,11 @@ TEST_F(ReplacedFiles, StayTheirOwnersAndTheirGroups)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root can give files away";
-    ASSERT_EQ(chown("a.ro", other, other), 0);
+    ASSERT_EQ(chown("a.ro", otherUser, otherUser), 0);
     ASSERT_EQ(chmod("a.ro", 0640), 0);
     EXPECT_FALSE(ReplaceFile("a.ro", "after"));
-    EXPECT_EQ(StatusOf("a.ro").st_uid, other);
-    EXPECT_EQ(StatusOf("a.ro").st_gid, other);
+    EXPECT_EQ(StatusOf("a.ro").st_uid, otherUser);
+    EXPECT_EQ(StatusOf("a.ro").st_gid, otherUser);
     EXPECT_EQ(RightsOf("a.ro"), 0640u);
 }
 
@@ -88,15 +86,15 @@ TEST_F(ReplacedFiles, GiveAnotherGroupNoRights)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root can give files away";
-    ASSERT_EQ(chown("a.ro", ordinary, other), 0);
+    ASSERT_EQ(chown("a.ro", ordinaryUser, otherUser), 0);
     ASSERT_EQ(chmod("a.ro", 0664), 0);
     {
         const AsOrdinaryUser user;
         EXPECT_FALSE(ReplaceFile("a.ro", "after"));
     }
     EXPECT_EQ(ContentOf("a.ro"), "after");
-    EXPECT_EQ(StatusOf("a.ro").st_uid, ordinary);
-    EXPECT_NE(StatusOf("a.ro").st_gid, other);
+    EXPECT_EQ(StatusOf("a.ro").st_uid, ordinaryUser);
+    EXPECT_NE(StatusOf("a.ro").st_gid, otherUser);
     EXPECT_EQ(RightsOf("a.ro"), 0604u);
 }
 

@@ -24,7 +24,7 @@ struct OwnerRow {
     bool isFollowed;
 };
 
-constexpr uid_t root = 0, ordinary = 65534, other = 65533; // the second is who AsOrdinaryUser is
+constexpr uid_t root = 0;
 
 void LayLink(const OwnerRow &row)
 {
@@ -43,14 +43,14 @@ TEST(Target, OfRootIsNotWhereOthersCouldHaveLaidALink)
     if (geteuid() != root)
         GTEST_SKIP() << "only root can give files away";
     const OwnerRow rows[] = {
-        {"one's own", root, other, 01777, true},
-        {"the owner's of a folder for all", other, other, 01777, false},
-        {"somebody's, as in a folder for all", other, root, 01777, false},
-        {"somebody's, where the folder does not protect names", other, root, 0777, false},
-        {"somebody's, where a group may write", other, ordinary, 0775, false},
-        {"somebody's, where another owner alone writes", other, ordinary, 0755, false},
-        {"the owner's, where only that one writes", other, other, 0755, false},
-        {"somebody's, where only root writes", other, root, 0755, true},
+        {"one's own", root, otherUser, 01777, true},
+        {"the owner's of a folder for all", otherUser, otherUser, 01777, false},
+        {"somebody's, as in a folder for all", otherUser, root, 01777, false},
+        {"somebody's, where the folder does not protect names", otherUser, root, 0777, false},
+        {"somebody's, where a group may write", otherUser, ordinaryUser, 0775, false},
+        {"somebody's, where another owner alone writes", otherUser, ordinaryUser, 0755, false},
+        {"the owner's, where only that one writes", otherUser, otherUser, 0755, false},
+        {"somebody's, where only root writes", otherUser, root, 0755, true},
     };
     for (const OwnerRow &row : rows) {
         SCOPED_TRACE(row.what);
@@ -67,15 +67,15 @@ TEST(Target, OfAnOrdinaryUserIsNotWhereOthersCouldHaveLaidALink)
     if (geteuid() != root)
         GTEST_SKIP() << "only root can give files away";
     const OwnerRow rows[] = {
-        {"one's own", ordinary, other, 01777, true},
-        {"root's", root, other, 01777, true},
-        {"root's, where another owner alone writes", root, other, 0755, true},
-        {"somebody's, as in a folder for all", other, root, 01777, false},
-        {"somebody's, in one's own folder for all", other, ordinary, 0777, false},
-        {"somebody's, where a group may write", other, ordinary, 0775, false},
-        {"the owner's, where only that one writes", other, other, 0755, false},
-        {"somebody's, where only root writes", other, root, 0755, true},
-        {"somebody's, where only the user writes", other, ordinary, 0755, true},
+        {"one's own", ordinaryUser, otherUser, 01777, true},
+        {"root's", root, otherUser, 01777, true},
+        {"root's, where another owner alone writes", root, otherUser, 0755, true},
+        {"somebody's, as in a folder for all", otherUser, root, 01777, false},
+        {"somebody's, in one's own folder for all", otherUser, ordinaryUser, 0777, false},
+        {"somebody's, where a group may write", otherUser, ordinaryUser, 0775, false},
+        {"the owner's, where only that one writes", otherUser, otherUser, 0755, false},
+        {"somebody's, where only root writes", otherUser, root, 0755, true},
+        {"somebody's, where only the user writes", otherUser, ordinaryUser, 0755, true},
     };
     for (const OwnerRow &row : rows) {
         SCOPED_TRACE(row.what);

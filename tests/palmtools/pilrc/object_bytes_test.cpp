@@ -1,5 +1,6 @@
 #include "palmtools/pilrc/object_bytes.h"
 
+#include "palmtools/pilrc/encoded.h"
 #include "palmtools/support.h"
 
 #include <gtest/gtest.h>
@@ -8,15 +9,6 @@ namespace palmtools {
 namespace {
 
 using Kind = ObjectKind;
-
-constexpr Rectangle place = {1, 2, 0x103, -4};
-
-std::string EncodedAs(const FormObject &object)
-{
-    Bytes bytes;
-    AppendObject(bytes, object);
-    return bytes;
-}
 
 const struct {
     const char *what;

@@ -1,5 +1,6 @@
 #include "palmtools/pilrc/object_flags.h"
 
+#include "palmtools/pilrc/encoded.h"
 #include "palmtools/pilrc/object_bytes.h"
 #include "palmtools/support.h"
 
@@ -9,15 +10,6 @@ namespace palmtools {
 namespace {
 
 using Kind = ObjectKind;
-
-constexpr Rectangle place = {1, 2, 0x103, -4};
-
-std::string EncodedAs(const FormObject &object)
-{
-    Bytes bytes;
-    AppendObject(bytes, object);
-    return bytes;
-}
 
 TEST(ObjectFlags, OfFields)
 {

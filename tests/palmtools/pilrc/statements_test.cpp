@@ -6,16 +6,16 @@
 namespace palmtools {
 namespace {
 
-struct Row {
+struct StatementRow {
     const char *what;
     std::string script, type;
     int number;
     std::string bytes;
 };
 
-void ExpectResources(const std::vector<Row> &rows)
+void ExpectResources(const std::vector<StatementRow> &rows)
 {
-    for (const Row &row : rows) {
+    for (const StatementRow &row : rows) {
         SCOPED_TRACE(row.what);
         EXPECT_EQ(DiagnosticsOf(row.script), "");
         const Compilation compilation = CompileScript(row.script);

@@ -28,14 +28,14 @@ std::string WordsOf(std::string_view script)
     }
 }
 
-struct Row {
+struct WordRow {
     const char *what;
     std::string script, words;
 };
 
-void ExpectWords(const std::vector<Row> &rows)
+void ExpectWords(const std::vector<WordRow> &rows)
 {
-    for (const Row &row : rows) {
+    for (const WordRow &row : rows) {
         SCOPED_TRACE(row.what);
         EXPECT_EQ(WordsOf(row.script), row.words);
     }

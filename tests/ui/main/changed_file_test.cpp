@@ -7,8 +7,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
-
 /// A project that is open and changed here.
 class ChangedFile : public testing::Test
 {

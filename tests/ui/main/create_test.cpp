@@ -9,8 +9,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
-
 void ReviewAndCreate(const Designer &designer)
 {
     designer.ClickTab(4);

@@ -13,10 +13,10 @@ using namespace vellumo;
 namespace {
 
 /// The designer on step 2, with its first question clicked.
-class Questions : public Designer
+class OpenedQuestions : public Designer
 {
 public:
-    explicit Questions(const QList<QuestionRow> &rows) : Designer(ProjectFile(m_files, rows))
+    explicit OpenedQuestions(const QList<QuestionRow> &rows) : Designer(ProjectFile(m_files, rows))
     {
         ClickTab(2);
         ClickRow(0);
@@ -46,8 +46,8 @@ private:
 
 TEST(DeliveryNotice, IsEmptyWhereAllIsWell)
 {
-    const Questions questions({{1, u"Age"_s, u"How old?"_s, u"Numeric"_s, u"AGE"_s, 1},
-                               {2, u"T\"wo"_s, u"Why?"_s, u"Text"_s, u"WHY"_s, 2}});
+    const OpenedQuestions questions({{1, u"Age"_s, u"How old?"_s, u"Numeric"_s, u"AGE"_s, 1},
+                                     {2, u"T\"wo"_s, u"Why?"_s, u"Text"_s, u"WHY"_s, 2}});
     EXPECT_EQ(questions.Notice().text(), QString());
     EXPECT_EQ(questions.Notice().toolTip(), QString());
     EXPECT_EQ(questions.Notice().accessibleDescription(), QString());
@@ -55,7 +55,8 @@ TEST(DeliveryNotice, IsEmptyWhereAllIsWell)
 
 TEST(DeliveryNotice, TellsTheFirstInWordsTheNumberOfOthersAndAllBesides)
 {
-    const Questions questions({{1, u"<b>\"A\""_s, u"How old?"_s, u"Numeric"_s, u"C\\x"_s, 1}});
+    const OpenedQuestions questions(
+        {{1, u"<b>\"A\""_s, u"How old?"_s, u"Numeric"_s, u"C\\x"_s, 1}});
     const QString quote = u"Title: the script does not escape a double quote here, "
                           "so it will not arrive as typed"_s;
     const QString backslash = u"Column name: a backslash starts an escape in the script, "
@@ -67,7 +68,7 @@ TEST(DeliveryNotice, TellsTheFirstInWordsTheNumberOfOthersAndAllBesides)
 
 TEST(DeliveryNotice, TellsWhatDoesNotFit)
 {
-    const Questions questions({{1, u"Age"_s, QString(40, u'W'), u"Notes"_s, u"AGE"_s, 1}});
+    const OpenedQuestions questions({{1, u"Age"_s, QString(40, u'W'), u"Notes"_s, u"AGE"_s, 1}});
     EXPECT_TRUE(questions.Notice().text().contains(u"pixels too wide"_s))
         << questions.Notice().text().toStdString();
     EXPECT_TRUE(questions.Notice().text().startsWith(u"Question text: "_s));
@@ -94,8 +95,8 @@ TEST(DeliveryNotice, TellsWhichItemItIs)
 
 TEST(DeliveryNotice, FollowsThePreview)
 {
-    Questions questions({{1, u"A\"ge"_s, u"How old?"_s, u"Numeric"_s, u"AGE"_s, 1},
-                         {2, u"Two"_s, u"Why?"_s, u"Text"_s, u"WHY"_s, 2}});
+    OpenedQuestions questions({{1, u"A\"ge"_s, u"How old?"_s, u"Numeric"_s, u"AGE"_s, 1},
+                               {2, u"Two"_s, u"Why?"_s, u"Text"_s, u"WHY"_s, 2}});
     EXPECT_TRUE(questions.Notice().text().startsWith(u"Title: "_s));
     questions.ClickRow(1);
     EXPECT_EQ(questions.Notice().text(), QString());
@@ -108,7 +109,7 @@ TEST(DeliveryNotice, FollowsThePreview)
 
 TEST(Preview, GrowsWithTheWindowAndKeepsTheProportionsOfTheScreen)
 {
-    Questions questions({{1, u"Age"_s, u"How old?"_s, u"Checkboxes"_s, u"AGE"_s, 1}});
+    OpenedQuestions questions({{1, u"Age"_s, u"How old?"_s, u"Checkboxes"_s, u"AGE"_s, 1}});
     const auto *screen = questions.Find<QWidget>("picPalm");
     EXPECT_EQ(screen->size(), QSize(160, 160));
     questions.window.resize(1340, 1000);

@@ -26,8 +26,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
-
 bool TakesInput(const QWidget *widget)
 {
     if (qobject_cast<const QScrollBar *>(widget) || widget->objectName().startsWith("qt_"_L1))

@@ -52,7 +52,7 @@ void ExpectIconsSeen(const QWidget &window)
 }
 
 /// A control that gets the focus is painted in another way, and some of that stands out.
-void ExpectFocusSeen(const QWidget &window)
+void ExpectFocusLegible(const QWidget &window)
 {
     for (const char *name : {"txtAppDesc", "lstError", "txtWiz3_1", "txtQuestion", "txtPage"}) {
         auto *widget = window.findChild<QWidget *>(QLatin1StringView(name));
@@ -74,7 +74,7 @@ void ExpectStandsOut(const QPalette &palette)
     ShowEveryWindow([](const QWidget &window) {
         ExpectLinksLegible(window);
         ExpectIconsSeen(window);
-        ExpectFocusSeen(window);
+        ExpectFocusLegible(window);
     });
     QApplication::setPalette(before);
 }

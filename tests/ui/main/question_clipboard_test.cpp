@@ -16,7 +16,7 @@ QClipboard &Clipboard()
     return *QGuiApplication::clipboard();
 }
 
-void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::ControlModifier)
+void PressShortcut(Qt::Key key, Qt::KeyboardModifiers held = Qt::ControlModifier)
 {
     QTest::keyClick(QApplication::focusWidget(), key, held);
 }
@@ -25,12 +25,12 @@ TEST(QuestionClipboard, GoesToAnotherDesignerWithoutALoss)
 {
     {
         const Questions from(3, 1, u"Checkboxes"_s, 2);
-        Press(Qt::Key_C);
+        PressShortcut(Qt::Key_C);
         EXPECT_FALSE(from.ProjectChanged());
     }
     const Questions to(1);
     const PromptScript prompts;
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_TRUE(prompts.boxes().empty());
     EXPECT_EQ(to.ColumnNames(), (QStringList{u"q1"_s, u"q2"_s}));
     const QuestionRow &pasted = to.project().source.Questions().Rows().back();
@@ -44,13 +44,13 @@ TEST(QuestionClipboard, GoesToAnotherDesignerWithoutALoss)
 TEST(QuestionClipboard, GivesTheCopyAFreeName)
 {
     const Questions designer(2);
-    Press(Qt::Key_C);
-    Press(Qt::Key_V);
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_C);
+    PressShortcut(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_EQ(designer.ColumnNames(), (QStringList{u"q1"_s, u"q2"_s, u"q1(1)"_s, u"q1(2)"_s}));
-    Press(Qt::Key_Z);
+    PressShortcut(Qt::Key_Z);
     EXPECT_EQ(designer.ColumnNames(), (QStringList{u"q1"_s, u"q2"_s, u"q1(1)"_s}));
-    Press(Qt::Key_Z);
+    PressShortcut(Qt::Key_Z);
     EXPECT_EQ(designer.ColumnNames(), (QStringList{u"q1"_s, u"q2"_s}));
     EXPECT_FALSE(designer.ProjectChanged());
 }
@@ -59,7 +59,7 @@ TEST(QuestionClipboard, ShowsThePastedRowWhole)
 {
     const Questions designer(40);
     Clipboard().setText(u"A\tWhat Ω?\tText\tc"_s); // of which is warned below the preview
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_EQ(designer.Row(), 40);
     const QTableView &grid = *designer.Grid();
     const auto place = [&grid] { return grid.visualRect(grid.currentIndex().siblingAtColumn(0)); };
@@ -70,7 +70,7 @@ TEST(QuestionClipboard, ShowsThePastedRowWhole)
 TEST(QuestionClipboard, GoesOutAsATable)
 {
     const Questions designer(2, 1, u"Pulldown List"_s, 2);
-    Press(Qt::Key_C);
+    PressShortcut(Qt::Key_C);
     EXPECT_EQ(Clipboard().text(), u"Title\tQuestion\tType\tColumn Name\tItems\n"
                                   "Title 2\tQuestion 2\tPulldown List\tq2\t2.1|2.2\n"_s);
     EXPECT_TRUE(Clipboard().mimeData()->hasFormat(questionsMimeType));
@@ -82,13 +82,13 @@ TEST(QuestionClipboard, TakesATableAsOneStep)
     Clipboard().setText(u"Type\tQuestion\tItems\tColumn Name\r\n"
                         "Text\tWho?\t\twho\r\n"
                         "pulldown list\t\"Which\"\"?\"\tone|two\twhich\r\n"_s);
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_EQ(designer.ColumnNames(), (QStringList{u"q1"_s, u"who"_s, u"which"_s}));
     EXPECT_EQ(designer.project().source.ItemsOf(3), (QStringList{u"one"_s, u"two"_s}));
     EXPECT_EQ(designer.Row(), 2);
-    Press(Qt::Key_Z);
+    PressShortcut(Qt::Key_Z);
     EXPECT_EQ(designer.ColumnNames(), QStringList{u"q1"_s});
-    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    PressShortcut(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(designer.ColumnNames().size(), 3);
 }
 
@@ -100,7 +100,7 @@ TEST(QuestionClipboard, TellsInOneBoxWhatIsRefused)
         table += u"T\t\tText\tc\n"_s;
     Clipboard().setText(table);
     const PromptScript prompts({u"OK"_s});
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     ASSERT_EQ(prompts.boxes().size(), 1u);
     const SeenBox &box = prompts.boxes()[0];
     EXPECT_EQ(box.icon, QMessageBox::Warning);
@@ -115,7 +115,7 @@ TEST(QuestionClipboard, AddsNothingWhereNotAllFit)
     const Questions designer(127);
     Clipboard().setText(u"\tWho?\tText\twho\n\tWhat?\tText\twhat\n"_s);
     const PromptScript prompts({u"OK"_s});
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_EQ(prompts.texts(), QStringList{u"There is 1 place left for questions, and the "
                                            "clipboard has more. Nothing was added."_s});
     EXPECT_EQ(designer.project().source.QuestionCount(), 127);
@@ -131,15 +131,15 @@ TEST(QuestionClipboard, TakesForeignBytesForWhatTheyAre)
     data->setData(questionsMimeType, R"({"version":2,"questions":[{"title":"from later"}]})");
     data->setText(u"\tWho?\tText\twho\n"_s);
     Clipboard().setMimeData(data);
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_EQ(designer.ColumnNames(), (QStringList{u"q1"_s, u"who"_s})) << "there is a table, too";
 
     for (const QString &text : {u""_s, u" \n\t\n"_s}) {
         Clipboard().setText(text);
-        Press(Qt::Key_V);
+        PressShortcut(Qt::Key_V);
     }
     Clipboard().setMimeData(new QMimeData);
-    Press(Qt::Key_V);
+    PressShortcut(Qt::Key_V);
     EXPECT_EQ(designer.ColumnNames().size(), 2);
     EXPECT_TRUE(prompts.boxes().empty());
 }

@@ -7,8 +7,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
-
 QStringList Errors(const Designer &designer)
 {
     QStringList texts;

@@ -13,8 +13,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
-
 TEST(StepFlow, StartsOnStepOneWithNothingDone)
 {
     const Designer designer;

@@ -13,8 +13,6 @@ using namespace vellumo;
 
 namespace {
 
-const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
-
 /// The designer with the sample, which takes steps back.
 class Undoing : public Designer
 {

@@ -9,7 +9,6 @@ namespace {
 
 using PropertyFormItems = PropertyFormTest;
 
-const QString pulldown = u"Pulldown List"_s;
 const QString deleteAll = u"Are you sure you want to delete all the items?"_s;
 
 QStringList Numbered(int count)

@@ -14,8 +14,6 @@ namespace {
 
 using PropertyForm = PropertyFormTest;
 
-const QString pulldown = u"Pulldown List"_s;
-
 TEST_F(PropertyForm, ShowsTheCurrentQuestion)
 {
     Open();

@@ -17,6 +17,8 @@
 
 namespace vellumo {
 
+inline const QString pulldown = QStringLiteral("Pulldown List");
+
 /// A project whose second question is open in the form: Kind, a pulldown list of a, b and c.
 class PropertyFormTest : public testing::Test
 {

@@ -18,6 +18,8 @@
 
 namespace vellumo {
 
+inline const QString sample = DataFile(QStringLiteral("projects/SiteVisit.vmp"));
+
 /// The designer's window on screen, in folders of its own, and the hands of a user. Controls are
 /// found by objectName.
 class Designer

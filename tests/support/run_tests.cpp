@@ -1,0 +1,51 @@
+#include "support/run_tests.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <span>
+#include <string>
+
+namespace {
+
+/** The names of the tests in NAME_test.cpp, a colon after each. */
+std::string TestsOf(const std::string &name)
+{
+    std::string names;
+    const testing::UnitTest &tests = *testing::UnitTest::GetInstance();
+    for (int i = 0; i < tests.total_test_suite_count(); ++i) {
+        const testing::TestSuite &suite = *tests.GetTestSuite(i);
+        for (int j = 0; j < suite.total_test_count(); ++j) {
+            const testing::TestInfo &test = *suite.GetTestInfo(j);
+            if (std::filesystem::path(test.file()).filename() == name + "_test.cpp")
+                names += std::string(suite.name()) + '.' + test.name() + ':';
+        }
+    }
+    return names;
+}
+
+} // namespace
+
+int RunTests(int argc, char *argv[])
+{
+    testing::InitGoogleTest(&argc, argv);
+    std::string &filter = testing::GTEST_FLAG(filter);
+    const std::size_t leftOut = std::min(filter.find('-'), filter.size());
+    const std::string wanted = filter.substr(0, leftOut);
+    if (argc == 1 || (!wanted.empty() && wanted != "*"))
+        return RUN_ALL_TESTS();
+
+    std::string names;
+    for (const std::string name : std::span(argv + 1, argv + argc)) {
+        const std::string tests = TestsOf(name);
+        if (tests.empty()) {
+            std::cerr << "There are no tests in " << name << "_test.cpp.\n";
+            return 1;
+        }
+        names += tests;
+    }
+    filter = names + filter.substr(leftOut);
+    return RUN_ALL_TESTS();
+}
