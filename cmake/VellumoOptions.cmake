@@ -9,7 +9,10 @@ if(MSVC)
     target_compile_options(vellumo_options INTERFACE /W4 /utf-8 /permissive-)
 else()
     target_compile_options(vellumo_options INTERFACE
-        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+        -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor)
+    if(NOT CMAKE_UNITY_BUILD) # where a file's local names would shadow what another file has
+        target_compile_options(vellumo_options INTERFACE -Wshadow)
+    endif()
 endif()
 
 if(VELLUMO_WARNINGS_ARE_ERRORS)
