@@ -5,8 +5,6 @@
 #include <QLockFile>
 #include <QTemporaryDir>
 
-#include <filesystem>
-
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/file.h>
@@ -74,8 +72,8 @@ std::shared_ptr<FolderLock> Lock(const QString &path)
 
 #endif
 
-OwnedFolder::OwnedFolder(QString path, std::shared_ptr<FolderLock> lock)
-    : m_path(std::move(path)), m_lock(std::move(lock))
+OwnedFolder::OwnedFolder(const QString &path, std::shared_ptr<FolderLock> lock)
+    : m_path(QFile(path).filesystemFileName()), m_lock(std::move(lock))
 {}
 
 Result<OwnedFolder> OwnedFolder::Make(const QString &parent, const QString &prefix)
@@ -109,14 +107,18 @@ std::vector<OwnedFolder> OwnedFolder::TakeOver(const QString &parent, const QStr
     return left;
 }
 
+QString OwnedFolder::path() const
+{
+    return QFile(m_path).fileName();
+}
+
 bool OwnedFolder::Remove()
 {
     std::error_code code;
-    const std::filesystem::path path = QFile(m_path).filesystemFileName();
-    std::filesystem::remove_all(path, code);
+    std::filesystem::remove_all(m_path, code);
     m_lock.reset(); // where the lock is a file, it goes only now
-    std::filesystem::remove_all(path, code);
-    return !std::filesystem::exists(path, code);
+    std::filesystem::remove_all(m_path, code);
+    return !std::filesystem::exists(m_path, code);
 }
 
 } // namespace vellumo

@@ -2,6 +2,7 @@
 
 #include "platform/result.h"
 
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -22,15 +23,16 @@ public:
     static std::vector<OwnedFolder> TakeOver(const QString &parent, const QString &prefix);
 
     /// Without a separator at its end.
-    const QString &path() const { return m_path; }
+    QString path() const;
 
     /// Removes it with everything in it; whether it is gone.
     bool Remove();
 
 private:
-    OwnedFolder(QString path, std::shared_ptr<FolderLock> lock);
+    OwnedFolder(const QString &path, std::shared_ptr<FolderLock> lock);
 
-    QString m_path;
+    std::filesystem::path
+        m_path; ///< as the system has it: what removes it is not to fail for a name
     std::shared_ptr<FolderLock> m_lock; ///< shared only with copies of this
 };
 

@@ -18,7 +18,7 @@ public:
     /// An error where it could not be made.
     const Outcome &state() const { return m_state; }
     /// Without a separator at its end.
-    const QString &path() const { return m_folder->path(); }
+    QString path() const { return m_folder->path(); }
 
     /// Removes the user's folders whose programs are gone.
     static void RemoveLeft();

@@ -147,8 +147,10 @@ void FlowLayout::Place(const Line &line, const QRect &area, int top) const
     for (const auto &[item, wanted] : line.items) {
         int width = wanted;
         if (Expands(*item)) {
-            width += rest / expanding;
-            rest -= rest / expanding--;
+            Q_ASSERT(expanding > 0);
+            const int share = rest / expanding--;
+            width += share;
+            rest -= share;
         }
         const bool isSpacer = item->spacerItem();
         if (before && !isSpacer && !const_cast<QLayoutItem *>(before)->spacerItem())
