@@ -10,9 +10,11 @@ if(MSVC)
 else()
     target_compile_options(vellumo_options INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor)
-    if(NOT CMAKE_UNITY_BUILD) # where a file's local names would shadow what another file has
-        target_compile_options(vellumo_options INTERFACE -Wshadow)
-    endif()
+    # Where files are compiled together, one's local names shadow what another has, and to GCC a source
+    # is a header, whose types should not build on what is in an unnamed namespace.
+    set(together $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+    target_compile_options(vellumo_options INTERFACE
+        $<$<NOT:${together}>:-Wshadow> $<$<AND:${together},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
 endif()
 
 if(VELLUMO_WARNINGS_ARE_ERRORS)
