@@ -120,7 +120,7 @@ constexpr OptionRow rows[] = {
 };
 
 /// As the help has it, such as "-o, --output NAME".
-QString Synopsis(const OptionRow &row)
+QString WithValue(const OptionRow &row)
 {
     QString typed = "--"_L1 + row.name;
     if (!row.letter.isEmpty())
@@ -151,7 +151,7 @@ QString OptionsHelp(Options options)
     QString help;
     for (const OptionRow &row : rows)
         if (options.testFlag(row.option))
-            AppendHelp(help, Synopsis(row), row.help);
+            AppendHelp(help, WithValue(row), row.help);
     AppendHelp(help, u"--"_s, u"what follows are names, whatever they begin with"_s);
     AppendHelp(help, u"-"_s, u"in place of a file: standard input or output"_s);
     return help;

@@ -31,8 +31,7 @@ public:
 private:
     OwnedFolder(const QString &path, std::shared_ptr<FolderLock> lock);
 
-    std::filesystem::path
-        m_path; ///< as the system has it: what removes it is not to fail for a name
+    std::filesystem::path m_path;       // as the system has it, so that no name can fail a removal
     std::shared_ptr<FolderLock> m_lock; ///< shared only with copies of this
 };
 

@@ -1,5 +1,6 @@
 #include "screens/control_drawing.h"
 
+#include "handheld/font_widths.h"
 #include "readback/form_flags.h"
 #include "screens/object_place.h"
 #include "screens/svg_shapes.h"
@@ -10,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace vellumo {
 namespace {
-
-constexpr quint32 symbolFont = 3;
 
 /// The place of a frame, which surrounds that of its control.
 QRect AroundPlace(const FormObject &control)

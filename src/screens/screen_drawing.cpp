@@ -1,5 +1,6 @@
 #include "screens/screen_drawing.h"
 
+#include "handheld/font_widths.h"
 #include "handheld/screen_geometry.h"
 #include "screens/collisions.h"
 #include "screens/form_parts.h"
@@ -55,7 +56,6 @@ QString Words(const FormObject &object)
 {
     if (!IsShown(object) || object.kind == ObjectKind::PopupList)
         return {};
-    constexpr quint32 symbolFont = 3;
     if (object.text.isEmpty() || object.font == symbolFont)
         return Describe(object);
     return u"%1 \"%2\""_s.arg(Describe(object), ShownText(object.text));

@@ -1,5 +1,6 @@
 #include "screens/svg_shapes.h"
 
+#include "handheld/font_widths.h"
 #include "screens/screen_text.h"
 
 using namespace Qt::StringLiterals;
@@ -71,7 +72,7 @@ void DrawLine(QXmlStreamWriter &svg, const TextLine &line, QLatin1StringView loo
     if (line.place.width() <= 0)
         return;
     svg.writeStartElement("text"_L1);
-    const QLatin1StringView weight = line.font == 1 ? "bold"_L1 : "plain"_L1;
+    const QLatin1StringView weight = line.font == boldFont ? "bold"_L1 : "plain"_L1;
     svg.writeAttribute("class"_L1, look.isEmpty() ? QString(weight) : weight + u' ' + look);
     WriteNumber(svg, "x"_L1, line.place.x());
     WriteNumber(svg, "y"_L1, line.place.y() + baseline);
