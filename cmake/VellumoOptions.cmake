@@ -14,7 +14,9 @@ else()
     # is a header, whose types should not build on what is in an unnamed namespace.
     set(together $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
     target_compile_options(vellumo_options INTERFACE
-        $<$<NOT:${together}>:-Wshadow> $<$<AND:${together},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
+        $<$<NOT:${together}>:-Wshadow>
+        $<$<CXX_COMPILER_ID:GNU>:-Wunused-const-variable=1> # other than those of headers
+        $<$<AND:${together},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
 endif()
 
 if(VELLUMO_WARNINGS_ARE_ERRORS)
