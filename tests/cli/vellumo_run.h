@@ -58,8 +58,11 @@ private:
     void KeepLines() const
     {
         const QString test = testing::UnitTest::GetInstance()->current_test_info()->file();
-        static QFile file(QStringLiteral(JSON_LINES "/") + QFileInfo(test).completeBaseName());
-        if (!file.isOpen()) {
+        static QFile file;
+        const QString name = QStringLiteral(JSON_LINES "/") + QFileInfo(test).completeBaseName();
+        if (file.fileName() != name) {
+            file.close();
+            file.setFileName(name);
             ASSERT_TRUE(QDir().mkpath(QStringLiteral(JSON_LINES)));
             ASSERT_TRUE(file.open(QFile::WriteOnly | QFile::Unbuffered));
         }
