@@ -67,8 +67,8 @@ TEST_F(CreateCommand, ANameOfDotsCannotLeadElsewhere)
 TEST_F(CreateCommand, OneProjectDoesNotTakeThePlaceOfAnother)
 {
     const QString namesake = ProjectNamed(u"Nestbox"_s, InFolder(u"namesake.vmp"_s));
-    EXPECT_EQ(Create({nestbox, namesake}), 5);
+    EXPECT_EQ(Create({fittingNestbox, namesake}), 5);
     EXPECT_EQ(Out(), InFolder(u"out/Nestbox.prc\n"_s));
-    EXPECT_EQ(Err(),
-              namesake + u": its database would take the place of that of "_s + nestbox + u'\n');
+    EXPECT_EQ(Err(), namesake + u": its database would take the place of that of "_s +
+                         fittingNestbox + u'\n');
 }

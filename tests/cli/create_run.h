@@ -66,7 +66,7 @@ protected:
     QStringList m_tools; ///< the words that name them; none = they are not used
 };
 
-inline const QString nestbox = DataFile(QStringLiteral("misfits/Nestbox-that-fits.vmp"));
+inline const QString fittingNestbox = DataFile(QStringLiteral("misfits/Nestbox-that-fits.vmp"));
 
 inline QByteArray InCodePage(const QString &text)
 {
@@ -75,10 +75,10 @@ inline QByteArray InCodePage(const QString &text)
     return bytes;
 }
 
-/// Writes the nestbox project under another name to the path, and gives that.
+/// Writes the fittingNestbox project under another name to the path, and gives that.
 inline QString ProjectNamed(const QString &name, const QString &path)
 {
-    WriteBytes(path, BytesOf(nestbox).replace("[Nestbox]", '[' + InCodePage(name) + ']'));
+    WriteBytes(path, BytesOf(fittingNestbox).replace("[Nestbox]", '[' + InCodePage(name) + ']'));
     return path;
 }
 

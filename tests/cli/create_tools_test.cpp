@@ -8,11 +8,11 @@ TEST_F(CreateCommand, AnEarlierDatabaseStaysUntilTheNewOneIsComplete)
     const QString target = InFolder(u"out/Nestbox.prc"_s);
     ASSERT_TRUE(WriteBytes(target, "earlier"));
     UseTools("complain broken fail 1", "complain broken fail 1");
-    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_EQ(Create({fittingNestbox}), 4);
     EXPECT_EQ(BytesOf(target), "earlier");
 
     m_tools.clear();
-    EXPECT_EQ(Create({nestbox}), 0);
+    EXPECT_EQ(Create({fittingNestbox}), 0);
     EXPECT_TRUE(BytesOf(target).startsWith("Nestbox\0"));
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
 }
@@ -20,7 +20,7 @@ TEST_F(CreateCommand, AnEarlierDatabaseStaysUntilTheNewOneIsComplete)
 TEST_F(CreateCommand, NeedsNoTools)
 {
     qputenv("PATH", "");
-    EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
+    EXPECT_EQ(Create({fittingNestbox}), 0) << Err().toStdString();
     EXPECT_EQ(Made(), QStringList{u"Nestbox.prc"_s});
 }
 
@@ -48,8 +48,8 @@ TEST_F(CreateCommand, MakesTheSameBytesWithAndWithoutTools)
 TEST_F(CreateCommand, ReportsAToolInItsOwnWords)
 {
     UseTools("complain 'no such font' fail 1", "print x");
-    EXPECT_EQ(Create({nestbox}), 4);
-    EXPECT_TRUE(Err().startsWith(nestbox + u": failed (exit status 1): pilrc -ro -I "_s))
+    EXPECT_EQ(Create({fittingNestbox}), 4);
+    EXPECT_TRUE(Err().startsWith(fittingNestbox + u": failed (exit status 1): pilrc -ro -I "_s))
         << Err().toStdString();
     EXPECT_TRUE(Err().endsWith(u"\nno such font\n"));
     EXPECT_EQ(Out(), u""_s);
@@ -59,20 +59,20 @@ TEST_F(CreateCommand, ReportsAToolInItsOwnWords)
 TEST_F(CreateCommand, ReportsAToolThatSaysNothing)
 {
     UseTools("crash", "print fine");
-    EXPECT_EQ(Create({nestbox}), 4);
-    EXPECT_TRUE(Err().startsWith(nestbox + u": failed (crashed): pilrc -ro -I "_s));
+    EXPECT_EQ(Create({fittingNestbox}), 4);
+    EXPECT_TRUE(Err().startsWith(fittingNestbox + u": failed (crashed): pilrc -ro -I "_s));
     EXPECT_EQ(Err().count(u'\n'), 1);
 
     UseTools("print 'words on the other stream' fail 1", "print fine");
-    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_EQ(Create({fittingNestbox}), 4);
     EXPECT_TRUE(Err().endsWith(u"\nwords on the other stream\n"));
 }
 
 TEST_F(CreateCommand, ReportsAToolThatIsMissing)
 {
     m_tools = QStringList{u"--pilrc"_s, InFolder(u"tools/pilrc"_s)};
-    EXPECT_EQ(Create({nestbox}), 4);
-    EXPECT_TRUE(Err().startsWith(nestbox + u": cannot start pilrc -ro -I "_s));
+    EXPECT_EQ(Create({fittingNestbox}), 4);
+    EXPECT_TRUE(Err().startsWith(fittingNestbox + u": cannot start pilrc -ro -I "_s));
     EXPECT_TRUE(Err().contains(u"No such file or directory"));
 }
 
@@ -82,7 +82,7 @@ TEST_F(CreateCommand, FindsAToolAlongThePath)
     qputenv("PATH", QFile::encodeName(InFolder(u"tools"_s)));
     for (const QString &option : {u"--pilrc"_s, u"--build-prc"_s}) {
         m_tools = QStringList{option, u"pilrc"_s};
-        EXPECT_EQ(Create({nestbox}), 4);
+        EXPECT_EQ(Create({fittingNestbox}), 4);
         EXPECT_TRUE(Err().endsWith(u"\nthe one of the path\n")) << Err().toStdString();
     }
 }
@@ -90,11 +90,11 @@ TEST_F(CreateCommand, FindsAToolAlongThePath)
 TEST_F(CreateCommand, NamesTheProgramThatItLookedFor)
 {
     m_tools = QStringList{u"--pilrc"_s, u"no-such-tool"_s};
-    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_EQ(Create({fittingNestbox}), 4);
     EXPECT_TRUE(Err().endsWith(u": no-such-tool, along PATH: No such file or directory\n"))
         << Err().toStdString();
     m_tools = QStringList{u"--pilrc"_s, InFolder(u"none/pilrc"_s)};
-    EXPECT_EQ(Create({nestbox}), 4);
+    EXPECT_EQ(Create({fittingNestbox}), 4);
     EXPECT_TRUE(
         Err().endsWith(u": %1: No such file or directory\n"_s.arg(InFolder(u"none/pilrc"_s))))
         << Err().toStdString();
@@ -103,16 +103,16 @@ TEST_F(CreateCommand, NamesTheProgramThatItLookedFor)
 TEST_F(CreateCommand, ReportsToolsThatLeaveNoDatabase)
 {
     UseTools("print fine", "print fine");
-    EXPECT_EQ(Create({nestbox}), 4);
-    EXPECT_EQ(Err(), nestbox + u": the tools left no database\n"_s);
+    EXPECT_EQ(Create({fittingNestbox}), 4);
+    EXPECT_EQ(Err(), fittingNestbox + u": the tools left no database\n"_s);
     EXPECT_EQ(Made(), QStringList());
 }
 
 TEST_F(CreateCommand, EndsAToolThatHangs)
 {
     UseTools("hang", "print fine");
-    EXPECT_EQ(Create({nestbox, u"--timeout"_s, u"1"_s}), 4);
-    EXPECT_TRUE(Err().startsWith(nestbox + u": did not end within 1 s: pilrc "_s))
+    EXPECT_EQ(Create({fittingNestbox, u"--timeout"_s, u"1"_s}), 4);
+    EXPECT_TRUE(Err().startsWith(fittingNestbox + u": did not end within 1 s: pilrc "_s))
         << Err().toStdString();
     EXPECT_EQ(LeftBehind(), QStringList());
 }

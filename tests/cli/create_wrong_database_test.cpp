@@ -10,7 +10,7 @@ struct WrongDatabase {
     QByteArray database;
 };
 
-/// Databases that are not the nestbox's, of which this is the right one.
+/// Databases that are not the fittingNestbox's, of which this is the right one.
 std::vector<WrongDatabase> WrongDatabases(const QByteArray &right)
 {
     const auto changed = [&right](qsizetype at, char to) {
@@ -24,7 +24,7 @@ std::vector<WrongDatabase> WrongDatabases(const QByteArray &right)
         {"its last byte missing", right.chopped(1)},
         {"a byte too many", right + '\0'},
         {"another project's", BytesOf(DataFile(u"palm/text.prc"_s))},
-        {"no database at all", BytesOf(nestbox)},
+        {"no database at all", BytesOf(fittingNestbox)},
         {"another name", changed(0, 'X')},
         {"not hidden", changed(32, '\0')},
         {"another type", changed(60, 'K')},
@@ -44,18 +44,18 @@ std::vector<WrongDatabase> WrongDatabases(const QByteArray &right)
 
 TEST_F(CreateCommand, TakesNoDatabaseThatIsNotTheProjects)
 {
-    ASSERT_EQ(Create({nestbox}), 0);
+    ASSERT_EQ(Create({fittingNestbox}), 0);
     const QString target = InFolder(u"out/Nestbox.prc"_s);
     const QByteArray right = BytesOf(target);
     for (const WrongDatabase &row : WrongDatabases(right)) {
         SCOPED_TRACE(row.what);
         ASSERT_NE(row.database, right) << "damaged in name only";
         UseBuilderThatLeaves(row.database);
-        EXPECT_EQ(Create({nestbox}), 4);
+        EXPECT_EQ(Create({fittingNestbox}), 4);
         EXPECT_EQ(Out(), u""_s);
-        EXPECT_TRUE(Err().startsWith(nestbox + u": "_s)) << Err().toStdString();
+        EXPECT_TRUE(Err().startsWith(fittingNestbox + u": "_s)) << Err().toStdString();
         EXPECT_EQ(BytesOf(target), right) << "the earlier one stays";
     }
     UseBuilderThatLeaves(right);
-    EXPECT_EQ(Create({nestbox}), 0) << Err().toStdString();
+    EXPECT_EQ(Create({fittingNestbox}), 0) << Err().toStdString();
 }

@@ -22,7 +22,7 @@ const QString noItem = u"Please enter at least one item."_s;
 const QString manyItems = u"Please keep the list to 255 items or less."_s;
 const QString manyBoxes = u"Please keep the Check Box to 32 items or less."_s;
 
-QStringList Digits(int count)
+QStringList NumbersBelow(int count)
 {
     QStringList items;
     for (int i = 0; i < count; ++i)
@@ -156,7 +156,7 @@ TEST(PropertyRules, ObjectToTooFewAndTooManyItems)
         SCOPED_TRACE(row.type.toStdString() + ' ' + std::to_string(row.items));
         EXPECT_EQ(ObjectionsAfter([&row](Question &edited) {
                       edited.type = row.type;
-                      edited.items = Digits(row.items);
+                      edited.items = NumbersBelow(row.items);
                   }),
                   row.objections);
     }
@@ -172,7 +172,7 @@ TEST(PropertyRules, RunMessagesTogetherThatEndNoLine)
     EXPECT_EQ(ObjectionsAfter([](Question &edited) {
                   edited.title = u"\""_s;
                   edited.columnName = u"Age"_s;
-                  edited.items = Digits(256);
+                  edited.items = NumbersBelow(256);
               }),
               propertyQuotes + taken + manyItems);
 }

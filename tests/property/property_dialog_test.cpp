@@ -10,8 +10,6 @@
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
-namespace {} // namespace
-
 TEST(PropertyDialog, AgreesWithTheRulesStatedAgain)
 {
     Random random;

@@ -9,7 +9,7 @@
 
 namespace vellumo {
 
-/// How many operations a random walk takes.
+/// How many operations at random a test tries.
 inline constexpr int operations = 10000;
 
 /// Random choices from a seed that is printed, so that a failure can be had again: VELLUMO_SEED has

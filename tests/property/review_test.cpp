@@ -15,7 +15,7 @@ using namespace vellumo;
 
 namespace {
 
-constexpr int reviews = 4000;
+constexpr int reviewRounds = 4000;
 
 /// What a text must match, over all of its lines, and what is said where it does not; the first
 /// that does not match counts.
@@ -114,7 +114,7 @@ TEST(Review, SaysWhatTheRulesDemand)
 {
     Random random;
     int passed = 0;
-    for (int round = 0; round < reviews; ++round) {
+    for (int round = 0; round < reviewRounds; ++round) {
         SCOPED_TRACE(round);
         Project project = RandomReviewed(random);
         const QStringList expected = ExpectedEntries(project);
@@ -137,5 +137,5 @@ TEST(Review, SaysWhatTheRulesDemand)
         ASSERT_EQ(left, trimmed);
         passed += result.Passed() ? 1 : 0;
     }
-    EXPECT_GT(passed, reviews / 100) << "too few sound ones to mean anything";
+    EXPECT_GT(passed, reviewRounds / 100) << "too few sound ones to mean anything";
 }

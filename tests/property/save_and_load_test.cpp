@@ -13,7 +13,7 @@ using namespace vellumo;
 
 namespace {
 
-constexpr int savings = 500;
+constexpr int saveRounds = 500;
 
 /// What a file keeps of a value: not the blanks at its ends, and of a line end that it is one.
 QString Kept(const QString &text)
@@ -52,7 +52,7 @@ bool CanBeWritten(const QString &text)
 TEST(SaveAndLoad, GivesTheSameProject)
 {
     Random random;
-    for (int round = 0; round < savings; ++round) {
+    for (int round = 0; round < saveRounds; ++round) {
         SCOPED_TRACE(round);
         const Project project = RandomProject(random, Letters::Awkward);
         if (LinesOf(project).join(u'\n').contains("]]>"_L1))
@@ -69,7 +69,7 @@ TEST(SaveAndLoad, RefusesJustWhatNoFileCanHold)
 {
     Random random;
     int refused = 0;
-    for (int round = 0; round < savings; ++round) {
+    for (int round = 0; round < saveRounds; ++round) {
         SCOPED_TRACE(round);
         Project project = RandomProject(random, Letters::Plain);
         const bool spoils = random.OnceIn(2);
@@ -82,13 +82,13 @@ TEST(SaveAndLoad, RefusesJustWhatNoFileCanHold)
         refused += written ? 0 : 1;
     }
     EXPECT_GT(refused, 0);
-    EXPECT_LT(refused, savings);
+    EXPECT_LT(refused, saveRounds);
 }
 
 TEST(RescueCopy, HoldsEverything)
 {
     Random random;
-    for (int round = 0; round < savings; ++round) {
+    for (int round = 0; round < saveRounds; ++round) {
         SCOPED_TRACE(round);
         const Snapshot snapshot = {.project = RandomProject(random, Letters::Anything),
                                    .path = RandomText(random, 40, Letters::Anything),

@@ -18,7 +18,7 @@ using namespace vellumo;
 
 namespace {
 
-constexpr int sheets = 500;
+constexpr int sheetRounds = 500;
 
 /// What a project is after it was saved and opened; nothing where that cannot be.
 std::optional<Project> Opened(const Project &project)
@@ -103,7 +103,7 @@ TEST(Sheet, OfAProjectThatKeepsTheRulesGivesTheSameFile)
 {
     Random random;
     int withItemOrder = 0;
-    for (int round = 0; round < sheets; ++round) {
+    for (int round = 0; round < sheetRounds; ++round) {
         SCOPED_TRACE(round);
         const std::optional<Project> project = Opened(OddProject(random));
         if (!project) // "]]>"
@@ -117,14 +117,14 @@ TEST(Sheet, OfAProjectThatKeepsTheRulesGivesTheSameFile)
         withItemOrder += WriteSheet(*project).contains("\nItem order,") ? 1 : 0;
     }
     EXPECT_GT(withItemOrder, 0);
-    EXPECT_LT(withItemOrder, sheets);
+    EXPECT_LT(withItemOrder, sheetRounds);
 }
 
 TEST(Sheet, OfASoundProjectGivesTheSameFile)
 {
     Random random;
     int refused = 0;
-    for (int round = 0; round < sheets / 5; ++round) {
+    for (int round = 0; round < sheetRounds / 5; ++round) {
         SCOPED_TRACE(round);
         const std::optional<Project> project = Opened(RandomSoundProject(random));
         ASSERT_TRUE(project);
@@ -138,13 +138,13 @@ TEST(Sheet, OfASoundProjectGivesTheSameFile)
             ASSERT_EQ(*WriteProject(import.project), *WriteProject(*project));
         }
     }
-    EXPECT_LT(refused, sheets / 5);
+    EXPECT_LT(refused, sheetRounds / 5);
 }
 
 TEST(Sheet, OfAnyProjectGivesTheSameFileOrRefusals)
 {
     Random random;
-    for (int round = 0; round < sheets; ++round) {
+    for (int round = 0; round < sheetRounds; ++round) {
         SCOPED_TRACE(round);
         const std::optional<Project> project = Opened(RandomProject(random, Letters::Awkward));
         if (!project)

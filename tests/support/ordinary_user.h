@@ -4,7 +4,7 @@
 #include <unistd.h>
 
 /// Users without a name: who AsOrdinaryUser is, and somebody else.
-constexpr uid_t ordinaryUser = 65534, otherUser = 65533;
+inline constexpr uid_t ordinaryUser = 65534, otherUser = 65533;
 
 /// While it lives, root's rights are laid down, so that a folder without write permission is one;
 /// tests are often run by root in containers.

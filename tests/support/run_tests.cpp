@@ -10,7 +10,7 @@
 
 namespace {
 
-/** The names of the tests in NAME_test.cpp, a colon after each. */
+/// The names of the tests in NAME_test.cpp, a colon after each.
 std::string TestsOf(const std::string &name)
 {
     std::string names;
@@ -26,6 +26,12 @@ std::string TestsOf(const std::string &name)
     return names;
 }
 
+int Missed(const std::string &what)
+{
+    std::cerr << "There is no test of " << what << ".\n";
+    return 1;
+}
+
 } // namespace
 
 int RunTests(int argc, char *argv[])
@@ -33,19 +39,18 @@ int RunTests(int argc, char *argv[])
     testing::InitGoogleTest(&argc, argv);
     std::string &filter = testing::GTEST_FLAG(filter);
     const std::size_t leftOut = std::min(filter.find('-'), filter.size());
-    const std::string wanted = filter.substr(0, leftOut);
-    if (argc == 1 || (!wanted.empty() && wanted != "*"))
+    const std::string named = filter.substr(0, leftOut);
+    if (filter.empty() || (!named.empty() && named != "*"))
         return RUN_ALL_TESTS();
 
     std::string names;
     for (const std::string name : std::span(argv + 1, argv + argc)) {
         const std::string tests = TestsOf(name);
-        if (tests.empty()) {
-            std::cerr << "There are no tests in " << name << "_test.cpp.\n";
-            return 1;
-        }
+        if (tests.empty())
+            return Missed(name + "_test.cpp");
         names += tests;
     }
-    filter = names + filter.substr(leftOut);
+    if (!names.empty())
+        filter = names + filter.substr(leftOut);
     return RUN_ALL_TESTS();
 }

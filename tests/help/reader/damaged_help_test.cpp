@@ -13,13 +13,13 @@ using namespace vellumo;
 
 namespace {
 
-constexpr HelpTopic oneTopic[] = {{1, QLatin1StringView("page1.html")},
-                                  {2, QLatin1StringView("page2.html")}};
+constexpr HelpTopic largeTopics[] = {{1, QLatin1StringView("page1.html")},
+                                     {2, QLatin1StringView("page2.html")}};
 
 /// A help file with so many pages that its directory has an index.
 QByteArray LargeHelp()
 {
-    HelpSource source{u"Large"_s, u"page0.html"_s, u"toc.hhc"_s, oneTopic, {}};
+    HelpSource source{u"Large"_s, u"page0.html"_s, u"toc.hhc"_s, largeTopics, {}};
     source.files[u"toc.hhc"_s] = R"(<UL><OBJECT type="text/sitemap">)"
                                  R"(<param name="Name" value="A"></OBJECT></UL>)";
     for (int i = 0; i < 300; ++i)

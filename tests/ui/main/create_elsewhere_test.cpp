@@ -45,7 +45,7 @@ protected:
 
 TEST_F(AnInstalledDesigner, WritesTheScriptIntoTheUsersDataFolder)
 {
-    const auto project = LoadProject(DataFile(u"projects/SiteVisit.vmp"_s));
+    const auto project = LoadProject(sample);
     ASSERT_TRUE(project);
     const PromptScript prompts({u"OK"_s});
     {

@@ -24,7 +24,7 @@ bool Drop(QWidget *target, const QList<QUrl> &urls)
     return drop.isAccepted();
 }
 
-const QList<QUrl> project = {QUrl::fromLocalFile(siteVisit)};
+const QList<QUrl> project = {QUrl::fromLocalFile(sample)};
 
 TEST(DroppedProject, IsOpenedWhereverItFalls)
 {
@@ -34,7 +34,7 @@ TEST(DroppedProject, IsOpenedWhereverItFalls)
         auto *target =
             *place ? designer.Find<QWidget>(place) : const_cast<appInfoForm *>(&designer.window);
         EXPECT_TRUE(Drop(target, project)) << place;
-        EXPECT_EQ(designer.window.document().path(), siteVisit) << place;
+        EXPECT_EQ(designer.window.document().path(), sample) << place;
         EXPECT_EQ(designer.project().FormName, u"SiteVisit"_s) << place;
         EXPECT_TRUE(prompts.boxes().empty());
     }
@@ -48,7 +48,7 @@ TEST(DroppedProject, AsksFirstAboutUnsavedWork)
         const PromptScript prompts({answer});
         EXPECT_TRUE(Drop(designer.Find<QWidget>("central"), project));
         EXPECT_EQ(prompts.texts(), QStringList{saveQuestion});
-        EXPECT_EQ(designer.window.document().path(), answer == u"No"_s ? siteVisit : QString());
+        EXPECT_EQ(designer.window.document().path(), answer == u"No"_s ? sample : QString());
     }
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 TEST(Exit, ClosesAtOnceWithoutChanges)
 {
-    const Designer designer(siteVisit);
+    const Designer designer(sample);
     const PromptScript prompts;
     designer.Choose("mnuFileExit");
     EXPECT_FALSE(designer.window.isVisible());

@@ -12,8 +12,6 @@ inline const QString saveQuestion =
 inline const QString saveAs = QStringLiteral("Save File As ");
 inline const QString openFile = QStringLiteral("Open File ");
 
-inline const QString siteVisit = DataFile(QStringLiteral("projects/SiteVisit.vmp"));
-
 /// The form has the name "Survey" then.
 inline void MakeChanged(const Designer &designer)
 {

@@ -138,7 +138,7 @@ TEST(FormTexts, CountAsChangedWhateverChangesThem)
 
 TEST(FormTexts, DoNotCountAsChangedByALookAtThem)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     const PromptScript prompts({u"OK"_s});
     for (const int step : {2, 3, 4, 1})
         designer.ClickTab(step);

@@ -17,7 +17,7 @@ bool IsInView(const QWidget &widget)
 
 TEST(LowWindow, LeadsFromStepToStep)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     designer.window.resize(300, 170);
     for (const char *next : {"cmd1_Next", "cmd2_Next", "cmd3_Next"}) {
         SettleWindows();
@@ -32,7 +32,7 @@ TEST(LowWindow, LeadsFromStepToStep)
 
 TEST(LowWindow, ShowsItsButtonsAtEverySize)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     for (const int width : {200, 290, 420, 640})
         for (int height = 140; height < 460; height += 40) {
             designer.window.resize(width, height);

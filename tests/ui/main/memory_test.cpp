@@ -36,7 +36,7 @@ constexpr qint64 nothing = often - 1;
 
 TEST(Memory, IsNotTakenByRefreshesOfThePreview)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     auto &document = const_cast<ProjectDocument &>(designer.window.document());
     designer.ClickTab(2);
     auto *grid = designer.Find<QTableView>("DataGrid1");
@@ -49,7 +49,7 @@ TEST(Memory, IsNotTakenByRefreshesOfThePreview)
 
 TEST(Memory, IsNotTakenByChoicesOfAType)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     auto &document = const_cast<ProjectDocument &>(designer.window.document());
     document.source().SetPosition(2);
     propertyForm properties(document, nullptr);

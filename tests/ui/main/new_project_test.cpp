@@ -7,7 +7,7 @@ namespace {
 
 TEST(New, AsksNothingWithoutChanges)
 {
-    const Designer designer(siteVisit);
+    const Designer designer(sample);
     const PromptScript prompts;
     designer.ClickTab(3);
     designer.Choose("mnuFileNew");

@@ -8,12 +8,12 @@ namespace {
 TEST(Open, ReadsTheChosenProjectAndReviewsItInSilence)
 {
     const Designer designer;
-    const PromptScript prompts({siteVisit});
+    const PromptScript prompts({sample});
     designer.ClickTab(3);
     designer.Click("cmdToolbar_2");
     EXPECT_EQ(prompts.fileDialogs(), QStringList{openFile});
     EXPECT_TRUE(prompts.boxes().empty());
-    EXPECT_EQ(designer.window.document().path(), siteVisit);
+    EXPECT_EQ(designer.window.document().path(), sample);
     EXPECT_EQ(designer.project().source.QuestionCount(), 10);
     EXPECT_EQ(designer.Text("txtAppName"), designer.project().FormName);
     EXPECT_EQ(designer.Step(), 1);
@@ -23,11 +23,11 @@ TEST(Open, ReadsTheChosenProjectAndReviewsItInSilence)
 
 TEST(Open, LeavesTheProjectAloneWhenTheDialogIsCancelled)
 {
-    const Designer designer(siteVisit);
+    const Designer designer(sample);
     const PromptScript prompts({u""_s});
     designer.Choose("mnuFileOpen");
     EXPECT_EQ(prompts.fileDialogs(), QStringList{openFile});
-    EXPECT_EQ(designer.window.document().path(), siteVisit);
+    EXPECT_EQ(designer.window.document().path(), sample);
     EXPECT_EQ(designer.project().source.QuestionCount(), 10);
 }
 
@@ -35,11 +35,11 @@ TEST(Open, GoesOnAfterASaveThatDidNotHappen)
 {
     const Designer designer;
     MakeChanged(designer);
-    const PromptScript prompts({u"Yes"_s, u""_s, siteVisit});
+    const PromptScript prompts({u"Yes"_s, u""_s, sample});
     designer.Choose("mnuFileOpen");
     EXPECT_EQ(prompts.texts(), QStringList{saveQuestion});
     EXPECT_EQ(prompts.fileDialogs(), (QStringList{saveAs, openFile}));
-    EXPECT_EQ(designer.window.document().path(), siteVisit);
+    EXPECT_EQ(designer.window.document().path(), sample);
 }
 
 TEST(Open, StopsAtCancelAlone)
@@ -65,7 +65,7 @@ TEST(Open, TellsTheHintWhereTheFileIsMissing)
 
 TEST(Open, RefusesAFileThatIsNoProject)
 {
-    const Designer designer(siteVisit);
+    const Designer designer(sample);
     QTemporaryDir folder;
     const QString path = folder.filePath(u"no.vmp"_s);
     ASSERT_TRUE(WriteBytes(path, "no project"));

@@ -15,7 +15,7 @@ namespace {
 /// A form of 25 questions: those of an inspection, all ten types, over and over.
 Project Form()
 {
-    const Result<Project> loaded = LoadProject(DataFile(u"projects/SiteVisit.vmp"_s));
+    const Result<Project> loaded = LoadProject(sample);
     EXPECT_TRUE(loaded);
     Project form = *loaded;
     form.source = {};

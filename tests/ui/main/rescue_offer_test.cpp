@@ -41,7 +41,7 @@ TEST_F(LeftWork, IsOpenedAndCountsAsChanged)
 {
     const QString path = m_folder.filePath(u"a <b> survey.vmp"_s);
     Leave(u"]]>\u4E2D"_s, path, 33);
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s), State(), 1h);
+    Designer designer(sample, State(), 1h);
     {
         const PromptScript prompts({u"Yes"_s});
         designer.window.OfferRescue();
@@ -101,7 +101,6 @@ TEST_F(LeftWork, IsLockedByTheDesignerThatOpenedIt)
 
 TEST_F(LeftWork, ThatIsNotWantedIsRemoved)
 {
-    const QString sample = DataFile(u"projects/SiteVisit.vmp"_s);
     Leave(u"Survey"_s, u"/home/a/survey.vmp"_s, 0);
     Designer designer(sample, State(), 1h);
     const PromptScript prompts({u"No"_s});
@@ -201,7 +200,7 @@ TEST_F(LeftWork, ThatCouldNotBeSavedBeforeAnotherWasOpenedIsOfferedLater)
     {
         Designer designer({}, State(), 1h);
         designer.Type("txtAppName", u"Survey"_s);
-        const PromptScript prompts({u"Yes"_s, u""_s, DataFile(u"projects/SiteVisit.vmp"_s)});
+        const PromptScript prompts({u"Yes"_s, u""_s, sample});
         designer.Choose("mnuFileOpen");
         EXPECT_EQ(prompts.boxes().size(), 1u);
         EXPECT_EQ(prompts.fileDialogs().size(), 2);

@@ -10,7 +10,7 @@ TEST(Save, SaysWhyItCouldNotBeDoneAndLeavesTheOldFileWhole)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(u"a.vmp"_s);
-    ASSERT_TRUE(QFile::copy(siteVisit, path));
+    ASSERT_TRUE(QFile::copy(sample, path));
     const QByteArray before = BytesOf(path);
     const Designer designer(path);
     designer.Find<QLineEdit>("txtAppVersion")->setText(u"\u0416"_s);
@@ -31,7 +31,7 @@ TEST(Save, SaysWhyAFolderCannotBeWritten)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(u"a.vmp"_s);
-    ASSERT_TRUE(QFile::copy(siteVisit, path));
+    ASSERT_TRUE(QFile::copy(sample, path));
     const QByteArray before = BytesOf(path);
     const Designer designer(path);
     designer.Type("txtAppVersion", u"7"_s);
@@ -56,7 +56,7 @@ TEST(Save, TellsWhichTextMakesTheFileUnreadable)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(u"a.vmp"_s);
-    ASSERT_TRUE(QFile::copy(siteVisit, path));
+    ASSERT_TRUE(QFile::copy(sample, path));
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     const Designer designer(path);
     designer.Find<QLineEdit>("txtAppVersion")->setText(u"1]]>2"_s);

@@ -24,7 +24,7 @@ TEST(Save, WritesAKnownFileWithoutADialog)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(u"a.vmp"_s);
-    ASSERT_TRUE(QFile::copy(siteVisit, path));
+    ASSERT_TRUE(QFile::copy(sample, path));
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     const Designer designer(path);
     designer.Type("txtAppVersion", u"7"_s);
@@ -39,7 +39,7 @@ TEST(SaveAs, StartsWithTheFolderAndTheNameOfTheProject)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(u"a.vmp"_s);
-    ASSERT_TRUE(QFile::copy(siteVisit, path));
+    ASSERT_TRUE(QFile::copy(sample, path));
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
     const Designer designer(path);
     const PromptScript prompts({u"b"_s});

@@ -70,7 +70,7 @@ TEST(Screens, ArriveAtStepsWithTheFocusInView)
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft})
         for (const int points : {9, 13, 18, 24}) {
             const Desktop desktop(points, direction);
-            Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+            Designer designer(sample);
             SettleWindows();
             for (int visit = 1; visit <= 8; ++visit) {
                 SCOPED_TRACE(std::to_string(points) + " points, direction " +
@@ -88,7 +88,7 @@ TEST(Screens, ShowWhatAStepHasToShow)
 {
     for (const int points : {9, 18}) {
         const Desktop desktop(points, Qt::LeftToRight);
-        Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+        Designer designer(sample);
         for (int index = 0; index < 4; ++index) {
             designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(index);
             SettleWindows();

@@ -20,7 +20,7 @@ TEST(Screens, HoldTheWizardWhole)
     const Desktop desktop(9, Qt::LeftToRight);
     if (QGuiApplication::primaryScreen()->size().height() < 600)
         GTEST_SKIP() << "it has to scroll";
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     for (const QuestionType &type : questionTypes) {
         SCOPED_TRACE(type.name.latin1());
         frmWizard wizard(const_cast<ProjectDocument &>(designer.window.document()), nullptr);
@@ -41,7 +41,7 @@ TEST(Screens, HoldTheWizardWhole)
 /// On a screen of any size, step 2 has the window that it is in.
 TEST(Screens, FillStepTwo)
 {
-    Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+    Designer designer(sample);
     const QSize size = designer.window.size();
     designer.Find<QTabWidget>("SSTab1")->setCurrentIndex(1);
     SettleWindows();
@@ -108,7 +108,7 @@ TEST(Screens, HoldTheMenus)
     for (const int points : {8, 9, 13, 18, 24, 36}) {
         SCOPED_TRACE(std::to_string(points) + " points");
         const Desktop desktop(points, Qt::LeftToRight);
-        const Designer designer(DataFile(u"projects/SiteVisit.vmp"_s));
+        const Designer designer(sample);
         for (const char *name : {"mnuFile", "mnuHelp"}) {
             auto *menu = designer.Find<QMenu>(name);
             if (menu->sizeHint().width() < QGuiApplication::primaryScreen()->size().width())

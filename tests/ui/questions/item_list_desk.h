@@ -3,6 +3,7 @@
 #include "ui/questions/item_list_editor.h"
 
 #include "support/print.h"
+#include "ui/questions/item_prompts.h"
 #include "ui/support/prompt_script.h"
 
 #include <QListView>
@@ -110,7 +111,5 @@ inline QStringList Texts(const PromptScript &prompts)
 }
 
 inline const QString tooManyItems = QStringLiteral("Please keep the list to 255 items or less.");
-inline const QString anItem = QStringLiteral("Please add an item to the List.");
-inline const QString theItem = QStringLiteral("Please add the item to the List.");
 
 } // namespace vellumo

@@ -1,3 +1,4 @@
+#include "ui/questions/item_prompts.h"
 #include "ui/questions/wizard_desk.h"
 
 #include <QSignalSpy>
@@ -6,8 +7,6 @@ using namespace Qt::StringLiterals;
 using namespace vellumo;
 
 namespace {
-
-const QString anItem = u"Please add an item to the List."_s;
 
 TEST(WizardFinish, WritesTheQuestionAndAsksForAnother)
 {

@@ -1,11 +1,10 @@
+#include "ui/questions/item_prompts.h"
 #include "ui/questions/wizard_desk.h"
 
 using namespace Qt::StringLiterals;
 using namespace vellumo;
 
 namespace {
-
-const QString itemPrompt = u"Please add an item to the List."_s;
 
 /// Whatever has the focus takes the key.
 void Type(const WizardDesk &desk, Qt::Key key, Qt::KeyboardModifiers held = {})
@@ -52,7 +51,7 @@ TEST(WizardFinish, IsReachedByKeysAlone)
     Type(desk, Qt::Key_F, Qt::AltModifier);
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return !desk.IsOpen(); }));
-    EXPECT_EQ(prompts.questions(), QStringList(2, itemPrompt));
+    EXPECT_EQ(prompts.questions(), QStringList(2, anItem));
     EXPECT_EQ(prompts.texts(), QStringList{another});
     ASSERT_EQ(desk.document.source().QuestionCount(), 1);
     const QuestionRow &row = desk.document.source().Questions().Current();

@@ -5,7 +5,7 @@ using namespace vellumo;
 
 namespace {
 
-const QString titleQuotes = u"Double quotes are not allowed."_s;
+const QString noQuotes = u"Double quotes are not allowed."_s;
 
 void Paste(QWidget *box, const QString &text)
 {
@@ -34,7 +34,7 @@ TEST(WizardRefusals, OfATitle)
     } rows[] = {
         {"20 pass", QString(20, u'a'), u""_s},
         {"21 fail", QString(21, u'a'), u"Please keep the title length to 20 characters or less."_s},
-        {"a quote that was pasted", u"a\""_s, titleQuotes},
+        {"a quote that was pasted", u"a\""_s, noQuotes},
         {"none passes", u""_s, u""_s},
     };
     for (const auto &row : rows) {
@@ -67,7 +67,7 @@ TEST(WizardRefusals, OfAColumnName)
         {"more than an edit line takes by default", QString(40000, u'a'), tooLong,
          QString(40000, u'a')},
         {"blanks alone", u"  "_s, u"Please enter a column name."_s, u""_s},
-        {"a quote that was pasted", u" a\" "_s, titleQuotes, u"a\""_s},
+        {"a quote that was pasted", u" a\" "_s, noQuotes, u"a\""_s},
         {"taken", u" Age "_s, exists, u"Age"_s},
         {"another case", u" AGE "_s, u""_s, u"AGE"_s},
     };
@@ -182,14 +182,14 @@ TEST(WizardRefusals, OfKeys)
         QTest::keyClicks(desk.Title(), u"a\"b"_s);
         QTest::keyClicks(desk.Title()->lineEdit(), u"\"c"_s);
         EXPECT_EQ(desk.Title()->currentText(), u"abc"_s);
-        EXPECT_EQ(Exclamations(prompts), (QStringList{titleQuotes, titleQuotes}));
+        EXPECT_EQ(Exclamations(prompts), (QStringList{noQuotes, noQuotes}));
     }
     desk.Press(next);
     {
         const PromptScript prompts({u"OK"_s});
         QTest::keyClicks(desk.Column(), u"a\"b"_s);
         EXPECT_EQ(desk.Column()->text(), u"ab"_s);
-        EXPECT_EQ(Exclamations(prompts), QStringList{titleQuotes});
+        EXPECT_EQ(Exclamations(prompts), QStringList{noQuotes});
     }
     desk.Press(next);
     const PromptScript prompts({u"OK"_s, u"OK"_s, u"OK"_s});
