@@ -10,7 +10,7 @@ namespace vellumo {
 namespace {
 
 /// The step of the designer that has the text, 0 = none has.
-int StepOf(const Refusal &refusal)
+int StepOfRefusal(const Refusal &refusal)
 {
     if (refusal.question > 0)
         return StepOf(TextPlace{{}, refusal.question});
@@ -25,7 +25,7 @@ Notice NoticeOf(const Refusal &refusal, RowsAre rowsAre, bool isLeftOut)
     Notice notice = {.kind = isLeftOut ? "warning"_L1 : "finding"_L1,
                      .code = "refused"_L1,
                      .text = refusal.reason,
-                     .step = StepOf(refusal),
+                     .step = StepOfRefusal(refusal),
                      .question = refusal.question,
                      .field = refusal.column,
                      .advice = isLeftOut};

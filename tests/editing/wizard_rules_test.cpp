@@ -36,7 +36,7 @@ QStringList Items(qsizetype count)
     return QStringList(count, u"Item"_s);
 }
 
-clsDataSource SourceWith(const QStringList &columnNames)
+clsDataSource SourceOfColumns(const QStringList &columnNames)
 {
     clsDataSource source;
     source.GetDataMember();
@@ -69,7 +69,7 @@ TEST(WizardRules, EnableTheButtonsOfAStep)
 
 TEST(WizardRules, NextWantsAType)
 {
-    const clsDataSource source = SourceWith({});
+    const clsDataSource source = SourceOfColumns({});
     Question none;
     EXPECT_EQ(ObjectionToNext(1, none, source), u"Please select an item."_s);
     Question some{.type = text};
@@ -92,7 +92,7 @@ TEST(WizardRules, NextChecksTheTitleAsItStands)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
         Question entered{.title = row.title};
-        EXPECT_EQ(ObjectionToNext(2, entered, SourceWith({})), row.objection);
+        EXPECT_EQ(ObjectionToNext(2, entered, SourceOfColumns({})), row.objection);
         EXPECT_EQ(entered.title, row.title);
     }
 }
@@ -121,7 +121,7 @@ TEST(WizardRules, NextChecksTheTrimmedColumnName)
         {"length is checked before others'", Letters(300), wizardLongColumn, Letters(300)},
         {"quotes are checked before others'", u"q\""_s, wizardQuotes, u"q\""_s},
     };
-    clsDataSource source = SourceWith({u"Age"_s, u"q\""_s, Letters(300), u"Size"_s});
+    clsDataSource source = SourceOfColumns({u"Age"_s, u"q\""_s, Letters(300), u"Size"_s});
     source.MoveFirst();
     const auto position = source.GetPosition();
     for (const auto &row : rows) {
@@ -132,7 +132,7 @@ TEST(WizardRules, NextChecksTheTrimmedColumnName)
         EXPECT_EQ(source.GetPosition(), position);
     }
     Question first{.columnName = u"Age"_s};
-    EXPECT_EQ(ObjectionToNext(3, first, SourceWith({})), QString()) << "no question yet";
+    EXPECT_EQ(ObjectionToNext(3, first, SourceOfColumns({})), QString()) << "no question yet";
 }
 
 TEST(WizardRules, NextAndFinishMissAQuestionInDifferentWords)
@@ -160,7 +160,7 @@ TEST(WizardRules, NextAndFinishMissAQuestionInDifferentWords)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.what);
         Question leaving{.question = row.question};
-        EXPECT_EQ(ObjectionToNext(4, leaving, SourceWith({})), row.next);
+        EXPECT_EQ(ObjectionToNext(4, leaving, SourceOfColumns({})), row.next);
         EXPECT_EQ(leaving.question, row.stored);
         Question finishing{.question = row.question};
         EXPECT_EQ(ObjectionToFinish(4, finishing), row.finish);
@@ -195,14 +195,15 @@ TEST(WizardRules, FinishCountsTheItems)
 
 TEST(WizardRules, ProposeAColumnNameByTheCount)
 {
-    EXPECT_EQ(ProposedColumnName(SourceWith({})), u"Question_1"_s);
-    EXPECT_EQ(ProposedColumnName(SourceWith({u"a"_s, u"Question_4"_s, u"c"_s})), u"Question_4"_s)
+    EXPECT_EQ(ProposedColumnName(SourceOfColumns({})), u"Question_1"_s);
+    EXPECT_EQ(ProposedColumnName(SourceOfColumns({u"a"_s, u"Question_4"_s, u"c"_s})),
+              u"Question_4"_s)
         << "whether it is taken or not";
 }
 
 TEST(WizardRules, AppendAQuestionAfterTheOthers)
 {
-    clsDataSource source = SourceWith({u"first"_s});
+    clsDataSource source = SourceOfColumns({u"first"_s});
     source.SetMaxId(41);
 
     AppendQuestion(source, {.title = u" Bird "_s,
@@ -228,7 +229,7 @@ TEST(WizardRules, AppendAQuestionAfterTheOthers)
 
 TEST(WizardRules, AppendLosesNoItemsWhereTheNextIdIsInUse)
 {
-    clsDataSource source = SourceWith({u"first"_s});
+    clsDataSource source = SourceOfColumns({u"first"_s});
     source.SetMaxId(5); // as a file may have it
     source.AppendItems(5, {u"kept"_s});
     AppendQuestion(source, {.type = checkboxes, .columnName = u"bird"_s, .items = {u"Wren"_s}});
@@ -239,7 +240,7 @@ TEST(WizardRules, AppendItemsOnlyWhereATypeHasThem)
 {
     for (const auto &[id, type, kind, data, items] : questionTypes) {
         SCOPED_TRACE(type.data());
-        clsDataSource source = SourceWith({});
+        clsDataSource source = SourceOfColumns({});
         AppendQuestion(source, {.type = type, .items = Items(3)});
         EXPECT_EQ(source.Items().Count(), type == pulldown || type == checkboxes ? 3 : 0);
     }

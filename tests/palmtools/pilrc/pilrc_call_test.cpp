@@ -12,7 +12,7 @@
 namespace palmtools {
 namespace {
 
-using ArgumentReader = std::vector<std::string>;
+using Words = std::vector<std::string>;
 
 TEST(PilrcCall, ReadsOptions)
 {
@@ -20,7 +20,7 @@ TEST(PilrcCall, ReadsOptions)
     ASSERT_TRUE(call);
     EXPECT_TRUE(call->quiet);
     EXPECT_EQ(call->style, MessageStyle::microsoft);
-    EXPECT_EQ(call->folders, (ArgumentReader{"-v", "b/"}));
+    EXPECT_EQ(call->folders, (Words{"-v", "b/"}));
     EXPECT_EQ(call->script, "a.rcp");
     EXPECT_EQ(call->output, "a.ro");
 
@@ -36,7 +36,7 @@ TEST(PilrcCall, IsRefused)
     const std::string missing = "option '-ro' is missing; resources are written to one file only";
     const struct {
         const char *what;
-        ArgumentReader arguments;
+        Words arguments;
         std::string text;
     } rows[] = {
         {"many small files", {"a.rcp"}, missing},
