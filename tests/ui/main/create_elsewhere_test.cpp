@@ -5,6 +5,7 @@
 #include "support/files.h"
 #include "support/ordinary_user.h"
 #include "support/print.h"
+#include "ui/support/designer.h"
 #include "ui/support/prompt_script.h"
 
 #include <gtest/gtest.h>
