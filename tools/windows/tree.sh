@@ -38,7 +38,7 @@ try_archive() {
         "$windows/pictures" >&2
 }
 
-# The same bytes for the same programs: in order, with the time of the commit.
+# The same bytes for the same programs: in order, with one time.
 make_archive() {
     local version folder
     version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
@@ -50,6 +50,6 @@ make_archive() {
     cp "$tree"/bin/{vellumo-designer,vellumo,pilrc,build-prc}.exe "$tree/bin/Vellumo_Help.chm" LICENSE \
         "$folder"
     cp -r examples "$folder"
-    find "$folder" -exec touch -h -d "@$(git log -1 --format=%ct)" {} +
+    find "$folder" -exec touch -h -d "@$packed" {} +
     (cd "$windows" && find "$archive_name" | LC_ALL=C sort | TZ=UTC zip -q -X -@ "$archive")
 }
