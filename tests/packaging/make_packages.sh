@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# make_packages.sh CPACK BUILD FOLDER: what cpack makes of the build folder, as if at one moment, for
-# somebody who shares nothing by default.
+# make_packages.sh CPACK BUILD FOLDER [UMASK]: what cpack makes of the build folder, as if at one moment,
+# for somebody who shares nothing unless UMASK is named.
 set -euo pipefail
 
 for needed in dpkg-deb dpkg-shlibdeps file; do
     command -v "$needed" >/dev/null || { printf 'skipped: no %s\n' "$needed"; exit 77; }
 done
-umask 077
+umask "${4:-077}"
 rm -rf "$3"
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
