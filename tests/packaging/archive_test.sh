@@ -49,14 +49,25 @@ await 20 'no main window' is_main
 keys ctrl+q
 await 10 'the designer does not end' counted 0
 
-# A newer version takes its place; settings are the user's own.
+# A newer version takes its place; settings are the user's own, and so is what they changed, twice over.
+example="$HOME/.local/share/doc/vellumo-designer/examples/SiteVisit.vmp"
+printf '<!-- mine -->\n' >>"$example"
+printf 'Comment[de]=mine\n' >>"$entry"
+sha256sum "$example" "$entry" >"$work/changed"
 settings="$HOME/.local/lib/vellumo-designer/settings.ini"
 printf '<Vmdesigner><ShowOpenForm>0</ShowOpenForm></Vmdesigner>' >"$settings"
 tar -xzf "$archive" -C "$work/un packed" --strip-components=1
-run "$work/un packed/install"
+for _ in twice over; do
+    run "$work/un packed/install"
+    grep -qF "it is yours: $example" "$work/told" || fail 'nothing was said of what was changed'
+    sha256sum --check --quiet "$work/changed" || fail 'what was changed was lost'
+done
 [ -s "$settings" ] || fail 'the settings were lost'
 run "$HOME/.local/lib/vellumo-designer/uninstall"
 grep -qF "$settings" "$work/told" || fail 'nothing was said of the settings'
+grep -qF "changed it: $example" "$work/told" || fail 'nothing was said of what stays'
+sha256sum --check --quiet "$work/changed" || fail 'what was changed was removed'
+rm -r "$HOME/.local/share/doc" "$entry"
 [ "$(listed | diff "$work/before" - | sed -n 's/^> //p')" = "./.local/lib
 ./.local/lib/vellumo-designer
 ./.local/lib/vellumo-designer/settings.ini" ] || fail 'more than the settings was left'
@@ -65,6 +76,38 @@ rm "$settings"
 run "$work/un packed/uninstall"
 listed | diff "$work/before" - | grep -vx '> ./.local/lib' | grep '^[<>]' && fail 'something was left'
 rm -rf "$HOME/.local/lib"
+
+# What somebody else has under one of our names stays theirs, also what a link leads to.
+mkdir -p "$HOME/.local/share/man/man1" "$HOME/.local/share/bash-completion/completions"
+printf 'theirs\n' | tee "$HOME/.local/share/man/man1/pilrc.1" >"$HOME/dotfile"
+ln -s "$HOME/dotfile" "$HOME/.local/share/bash-completion/completions/vellumo"
+listed >"$work/theirs"
+run "$work/un packed/install"
+grep -qF 'it is yours' "$work/told" || fail 'nothing was said of what is theirs'
+run "$work/un packed/uninstall"
+[ "$(cat "$HOME/.local/share/man/man1/pilrc.1" "$HOME/dotfile")" = $'theirs\ntheirs' ] || fail 'theirs was changed'
+listed | diff "$work/theirs" - || fail 'something was left or taken beside what is theirs'
+rm -r "$HOME/.local/share/man" "$HOME/.local/share/bash-completion" "$HOME/dotfile"
+
+# The folder of the programs can be removed by hand, and all installed again.
+run "$work/un packed/install"
+printf '<!-- mine -->\n' >>"$example"
+printf 'older\n' >"$HOME/.local/share/man/man1/vellumo.1"
+rm -r "$HOME/.local/lib"
+run "$work/un packed/install"
+grep -q mine "$example" || fail 'what was changed was lost with the list'
+[ "$(wc -l <"$HOME/.local/share/man/man1/vellumo.1")" -gt 1 ] || fail 'an older page stayed'
+run "$work/un packed/uninstall"
+rm "$example"
+find "$HOME/.local" -mindepth 2 -type d -empty -delete # whose they were is forgotten
+listed | diff "$work/before" - || fail 'something was left of what no list had'
+
+# PATH may name the folder by another way.
+ln -s .local "$HOME/mine too"
+PATH="$HOME/mine too/bin:$PATH" run "$work/un packed/install"
+! grep -q PATH "$work/told" || fail 'a folder of PATH was not known'
+run "$work/un packed/uninstall"
+rm "$HOME/mine too"
 
 # Elsewhere.
 export XDG_DATA_HOME="$HOME/my data"
@@ -104,7 +147,7 @@ grep -qF 'a library is missing' "$work/told" || fail 'nothing was said of what i
 listed | diff "$work/before" - || fail 'something was installed'
 
 # Its help is its own.
-[ "$("$work/un packed/install" --help | wc -l)" -le 6 ] || fail 'the help of install'
+[ "$("$work/un packed/install" --help | wc -l)" -le 7 ] || fail 'the help of install'
 
 # Never over another program of that name.
 mkdir -p "$HOME/my programs/bin"
