@@ -20,6 +20,27 @@ protected:
         return InFolder(name);
     }
 
+    /// The path of a form with pulldown lists that have these Ids, and items of list 1.
+    QString Form(const QString &name, const QString &version, const QList<int> &lists,
+                 const QStringList &items)
+    {
+        QString text = u"<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n<root>\n"
+                       "<Company>Brindlecot Data Collect</Company>\n<FormName>Form</FormName>\n"
+                       "<FormVersion>%1</FormVersion>\n<Description/>\n<FormPath/>\n"
+                       "<MaxId>3</MaxId>\n<rcMain>"_s.arg(version);
+        for (int i = 0; i < lists.size(); ++i)
+            text += u"<record><Order>%1</Order><Type>Pulldown List</Type><Title>T%2</Title>"
+                    "<ColumnName>C%2</ColumnName><Question>Q%2</Question><Id>%2</Id></record>"_s
+                        .arg(i + 1)
+                        .arg(lists[i]);
+        text += "</rcMain>\n<rcChilds>"_L1;
+        for (const QString &item : items)
+            text += u"<record><Id>1</Id><Item>%1</Item></record>"_s.arg(item);
+        text += "</rcChilds>\n<TitleList/>\n</root>\n"_L1;
+        EXPECT_TRUE(WriteBytes(InFolder(name), text.toLatin1()));
+        return InFolder(name);
+    }
+
     /// The words with which git calls an external diff.
     static QStringList ForGit(const QString &path, const QString &before, const QString &after)
     {
@@ -73,6 +94,39 @@ TEST_F(DiffCommand, TellsProgramsInJson)
     EXPECT_EQ(Run({u"diff"_s, u"--json"_s, siteVisit, siteVisit}), 0);
     ASSERT_EQ(Objects().size(), 1);
     EXPECT_EQ(Objects()[0][u"code"_s], u"equal"_s);
+}
+
+TEST_F(DiffCommand, HasACodeForEachKindOfDifference)
+{
+    const QString before = Form(u"before.vmp"_s, u"1.0"_s, {1, 2}, {u"a"_s, u"b"_s});
+    const struct {
+        QString version;
+        QList<int> lists;
+        QStringList items;
+        QString told; ///< code, field, column name, question, places of the item
+    } rows[] = {
+        {u"1.1"_s, {1, 2}, {u"a"_s, u"b"_s}, u"form-changed form version  0 0 0"_s},
+        {u"1.0"_s, {1}, {u"a"_s, u"b"_s}, u"question-removed  C2 2 0 0"_s},
+        {u"1.0"_s, {1, 2, 3}, {u"a"_s, u"b"_s}, u"question-added  C3 3 0 0"_s},
+        {u"1.0"_s, {2, 1}, {u"a"_s, u"b"_s}, u"question-moved  C2 1 0 0"_s},
+        {u"1.0"_s, {1, 2}, {u"a"_s}, u"item-removed item C1 1 2 0"_s},
+        {u"1.0"_s, {1, 2}, {u"a"_s, u"b"_s, u"c"_s}, u"item-added item C1 1 0 3"_s},
+        {u"1.0"_s, {1, 2}, {u"b"_s, u"a"_s}, u"item-moved item C1 1 2 1"_s},
+    };
+    for (const auto &row : rows) {
+        const QString after = Form(u"after.vmp"_s, row.version, row.lists, row.items);
+        EXPECT_EQ(Run({u"diff"_s, u"--json"_s, before, after}), 1);
+        ASSERT_EQ(Objects().size(), 2) << out.str();
+        const QJsonObject finding = Objects()[0];
+        EXPECT_EQ(u"%1 %2 %3 %4 %5 %6"_s
+                      .arg(finding[u"code"_s].toString(), finding[u"field"_s].toString(),
+                           finding[u"columnName"_s].toString())
+                      .arg(finding[u"question"_s].toInt())
+                      .arg(finding[u"itemBefore"_s].toInt())
+                      .arg(finding[u"itemAfter"_s].toInt()),
+                  row.told)
+            << out.str();
+    }
 }
 
 TEST_F(DiffCommand, TakesTheNullDeviceForAProjectWithNothingInIt)
