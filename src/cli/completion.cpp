@@ -77,6 +77,9 @@ _vellumo()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local command='' words='' word
+    # bash takes what stands behind an equals sign for a word of its own, and so the sign.
+    [ "$current" != = ] || current=
+    [ "$previous" != = ] || previous=${COMP_WORDS[COMP_CWORD - 2]}
     COMPREPLY=()
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         case $word in
@@ -126,13 +129,32 @@ QString ZshValue(const Command &command, const OptionRow &row)
     return u":%1:%2"_s.arg(QString(row.valueName).toLower(), values);
 }
 
+/// What a line of _arguments takes for an option; a value may stand behind an equals sign, too.
+QString ZshOption(const Command &command, const OptionRow &row)
+{
+    QString lines;
+    for (const QString &word : Words(row)) {
+        const bool takesSign = !row.valueName.isEmpty() && word.startsWith("--"_L1);
+        lines += u" \\\n                '%1%2[%3]%4'"_s.arg(
+            word, takesSign ? u"="_s : QString(), ZshText(Brief(row.help)), ZshValue(command, row));
+    }
+    return lines;
+}
+
 QString ZshOptions(const Command &command)
 {
     QString options;
     for (const OptionRow &row : OptionsOf(command))
-        for (const QString &word : Words(row))
-            options += u" \\\n                '%1[%2]%3'"_s.arg(word, ZshText(Brief(row.help)),
-                                                                ZshValue(command, row));
+        options += ZshOption(command, row);
+    return options;
+}
+
+/// Of all commands, since options may stand before the command.
+QString ZshOptions()
+{
+    QString options;
+    for (const OptionRow &row : OptionRows())
+        options += ZshOption({}, row);
     return options;
 }
 
@@ -178,11 +200,13 @@ QByteArray ZshCompletion()
                    "    local -a commands\n    commands=(\n"_s;
     for (const Command &command : Commands())
         text += u"        '%1:%2'\n"_s.arg(command.name, ZshText(Brief(command.help)));
-    text += u"        'help:Tells of a command'\n    )\n"
-            "    _arguments -C '--help[tells all commands]' '--version[tells the version]' \\\n"
-            "        '1:command:->command' '*::name:->names'\n"
-            "    case $state in\n    command) _describe command commands ;;\n    names)\n"
-            "        case $words[1] in\n        help) _describe command commands ;;\n"_s;
+    text +=
+        u"        'help:Tells of a command'\n    )\n"
+        "    _arguments -C -A '-*' '--help[tells all commands]' '--version[tells the version]'"_s +
+        ZshOptions() +
+        u" \\\n        '1:command:->command' '*::name:->names'\n"
+        "    case $state in\n    command) _describe command commands ;;\n    names)\n"
+        "        case $words[1] in\n        help) _describe command commands ;;\n"_s;
     for (const Command &command : Commands())
         text += u"        %1)\n            _arguments%2 \\\n                '*:name:_files'\n"
                 "            ;;\n"_s.arg(command.name, ZshOptions(command));

@@ -33,6 +33,8 @@ after review --gu | grep -q guid && fail 'bash completes an option that review d
 [ "$(after create on)" = 'one form.vmp' ] || fail 'bash does not complete a name with a blank'
 [ "$(after create --output on)" = 'one form.vmp' ] || fail 'bash does not complete the name after --output'
 [ "$(after new --from S)" = $'ShelfAudit\nSiteVisit' ] || fail 'bash does not complete the name of an example'
+[ "$(after new --from = S)" = $'ShelfAudit\nSiteVisit' ] || fail 'bash does not complete --from=S'
+[ "$(after --json re | head -n 1)" = review ] || fail 'bash does not complete a command behind an option'
 [ "$(after items --from on)" = 'one form.vmp' ] || fail 'bash does not complete the name of a file of items'
 
 # ask_zsh TYPED COMPLETED: what zsh shows on a terminal of its own after TYPED and Tab, once it has
@@ -59,10 +61,18 @@ for shell in zsh fish; do
             fail 'fish does not complete --str'
         fish -c "source $manual/vellumo.fish; complete -C 'vellumo new --from W'" | cut -f 1 | grep -qx WaterPoint ||
             fail 'fish does not complete the name of an example'
+        fish -c "source $manual/vellumo.fish; complete -C 'vellumo --json re'" | cut -f 1 | grep -qx review ||
+            fail 'fish does not complete a command behind an option'
     else
         [[ $(ask_zsh 'vellumo cr' create) == *create* ]] || fail 'zsh does not complete cr'
         [[ $(ask_zsh 'vellumo review --str' --strict) == *--strict* ]] || fail 'zsh does not complete --str'
         [[ $(ask_zsh 'vellumo new --from W' WaterPoint) == *WaterPoint* ]] ||
             fail 'zsh does not complete the name of an example'
+        [[ $(ask_zsh 'vellumo --json -q revi' review) == *review* ]] ||
+            fail 'zsh does not complete a command behind options'
+        [[ $(ask_zsh 'vellumo --json review --str' --strict) == *--strict* ]] ||
+            fail 'zsh does not complete --str behind another option'
+        [[ $(ask_zsh 'vellumo create --output=on' 'one\ form') == *'one\ form'* ]] ||
+            fail 'zsh does not complete the name of a file behind --output='
     fi
 done
