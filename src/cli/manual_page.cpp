@@ -57,7 +57,8 @@ vellumo \- turn projects of Vellumo Designer into Palm databases, without a wind
 .SH DESCRIPTION
 A project (\fI.vmp\fR) is a form for data collection on Palm OS handhelds; its database (\fI.prc\fR) is
 what the handheld's viewer shows. This command does what the designer does with them, and more. A
-name of \fB\-\fR is standard input or output.
+name of \fB\-\fR is standard input or output; what follows \fB\-\-\fR is a name, whatever it begins with.
+\fB\-h\fR is short for \fB\-\-help\fR.
 .SH COMMANDS
 )"_L1;
 
@@ -76,6 +77,8 @@ where one of these two is looked for when the other is named
 .BR pilrc (1),
 .BR build\-prc (1),
 .BR vmp (5)
+.PP
+The documents that are named here are installed in \fIshare/doc/vellumo\-designer\fR.
 )"_L1;
 
 } // namespace
@@ -90,7 +93,8 @@ QByteArray ManualPage()
     page += ".SH OPTIONS\n"_L1;
     for (const OptionRow &row : OptionRows())
         page += OfOption(row);
-    page += ".SH EXIT STATUS\n"_L1 + Roff(ExitStatuses()) + after;
+    const QString statuses = ExitStatuses().section(u": "_s, 1); // without its own heading
+    page += ".SH EXIT STATUS\n"_L1 + Roff(statuses) + after;
     return page.toUtf8();
 }
 
