@@ -12,8 +12,9 @@ if(CPACK_GENERATOR STREQUAL "DEB")
     # Debian has the licence in a file of its own form, and knows changes and pages compressed.
     set(share ${root}${CPACK_PACKAGING_INSTALL_PREFIX}/share)
     set(documents ${share}/doc/${CPACK_PACKAGE_NAME})
-    put(${documents} ${CPACK_VELLUMO_PACKAGING}/debian/copyright
-        ${CPACK_VELLUMO_PACKAGING}/debian/changelog)
+    put(${documents} ${CPACK_VELLUMO_PACKAGING}/debian/changelog)
+    configure_file(${CPACK_VELLUMO_PACKAGING}/debian/copyright.in ${documents}/copyright @ONLY
+        FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
     file(REMOVE ${documents}/LICENSE)
     file(MAKE_DIRECTORY ${share}/zsh/vendor-completions) # site-functions is for the machine's owner
     file(RENAME ${share}/zsh/site-functions/_vellumo ${share}/zsh/vendor-completions/_vellumo)
