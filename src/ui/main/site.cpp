@@ -4,10 +4,7 @@ namespace vellumo {
 
 QString SiteAddress()
 {
-    QString address = QStringLiteral(VELLUMO_SITE);
-    while (address.endsWith(u'/'))
-        address.chop(1);
-    return address;
+    return QStringLiteral(VELLUMO_SITE);
 }
 
 } // namespace vellumo

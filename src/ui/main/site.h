@@ -4,7 +4,7 @@
 
 namespace vellumo {
 
-/// The maker's web site, as the build was told by VELLUMO_SITE; without a slash at its end.
+/// The maker's web site, as the build was told by VELLUMO_SITE, and without a slash at its end.
 QString SiteAddress();
 
 } // namespace vellumo
