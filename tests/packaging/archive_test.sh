@@ -63,10 +63,19 @@ for _ in twice over; do
     sha256sum --check --quiet "$work/changed" || fail 'what was changed was lost'
 done
 [ -s "$settings" ] || fail 'the settings were lost'
+sed -i 's/^Exec=/Exec=env MINE=1 /' "$entry"
+sha256sum "$example" "$entry" >"$work/changed"
 run "$HOME/.local/lib/vellumo-designer/uninstall"
 grep -qF "$settings" "$work/told" || fail 'nothing was said of the settings'
 grep -qF "changed it: $example" "$work/told" || fail 'nothing was said of what stays'
-sha256sum --check --quiet "$work/changed" || fail 'what was changed was removed'
+for _ in once more; do
+    sha256sum --check --quiet "$work/changed" || fail 'what was changed was removed'
+    run "$work/un packed/install"
+    grep -qF "it is yours: $entry" "$work/told" || fail 'nothing was said of what stayed'
+    sha256sum --check --quiet "$work/changed" || fail 'what was changed was lost by a new installation'
+    run "$HOME/.local/lib/vellumo-designer/uninstall"
+done
+sha256sum --check --quiet "$work/changed" || fail 'what was changed was removed after all'
 rm -r "$HOME/.local/share/doc" "$entry"
 [ "$(listed | diff "$work/before" - | sed -n 's/^> //p')" = "./.local/lib
 ./.local/lib/vellumo-designer
@@ -92,15 +101,37 @@ rm -r "$HOME/.local/share/man" "$HOME/.local/share/bash-completion" "$HOME/dotfi
 # The folder of the programs can be removed by hand, and all installed again.
 run "$work/un packed/install"
 printf '<!-- mine -->\n' >>"$example"
-printf 'older\n' >"$HOME/.local/share/man/man1/vellumo.1"
 rm -r "$HOME/.local/lib"
 run "$work/un packed/install"
-grep -q mine "$example" || fail 'what was changed was lost with the list'
-[ "$(wc -l <"$HOME/.local/share/man/man1/vellumo.1")" -gt 1 ] || fail 'an older page stayed'
+grep -qF "it is yours: $example" "$work/told" || fail 'nothing was said of what no list has'
 run "$work/un packed/uninstall"
+grep -q mine "$example" || fail 'what was changed was lost with the list'
 rm "$example"
 find "$HOME/.local" -mindepth 2 -type d -empty -delete # whose they were is forgotten
 listed | diff "$work/before" - || fail 'something was left of what no list had'
+
+# A newer version that cannot be written leaves one that works; it can be tried again, and what only an
+# older one had is gone.
+run "$work/un packed/install"
+printf '<!-- mine -->\n' >>"$example"
+cp -a "$work/un packed" "$work/newer"
+mkdir "$work/newer/share/zzz"
+printf 'new\n' | tee "$work/newer/share/zzz/page" >"$HOME/.local/share/zzz" # where a folder has to be
+rm "$work/newer/share/doc/vellumo-designer/SECURITY.md" "$work/newer/share/doc/vellumo-designer/examples/SiteVisit.vmp"
+! "$work/newer/install" >"$work/told" 2>&1 || fail 'a success that was none'
+grep -qF 'broken off' "$work/told" || fail 'nothing was said of what was broken off'
+"$HOME/.local/bin/vellumo" --version >/dev/null || fail 'the older version was taken away'
+rm "$HOME/.local/share/zzz"
+run "$work/newer/install"
+grep -qF "changed it: $example" "$work/told" || fail 'nothing was said of what the newer version has not'
+[ ! -e "$HOME/.local/share/doc/vellumo-designer/SECURITY.md" ] || fail 'what the newer version has not stayed'
+[ -s "$HOME/.local/share/zzz/page" ] || fail 'what the older version had not is missing'
+ln -sf /bin/true "$HOME/.local/bin/vellumo"
+run "$work/newer/uninstall"
+[ "$(readlink "$HOME/.local/bin/vellumo")" = /bin/true ] || fail 'a link of their own was removed'
+rm -r "$HOME/.local/bin/vellumo" "$HOME/.local/share/doc"
+rm -r "$work/newer"
+listed | diff "$work/before" - || fail 'something was left of two versions'
 
 # PATH may name the folder by another way.
 ln -s .local "$HOME/mine too"
