@@ -19,7 +19,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_SOURCE_DIR}/packaging/debian/postrm)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-# Of the component that all rules are of, so that its list is not the one of `cmake --install`, which may
-# be another user's.
+# All rules of installation belong to this component. Named, it has a list of its own: that of
+# `cmake --install`, which may be root's, stays as it is.
 set(CPACK_INSTALL_CMAKE_PROJECTS ${CMAKE_BINARY_DIR} ${PROJECT_NAME} Unspecified /)
 include(CPack)

@@ -4,12 +4,13 @@ cmake_minimum_required(VERSION 3.25)
 
 # set_installed_size(FOLDER): in KiB as Debian counts it, each file by itself, all else as one.
 function(set_installed_size folder)
-    file(GLOB_RECURSE entries LIST_DIRECTORIES true ${folder}/usr/*)
-    set(size 1) # usr
+    execute_process(COMMAND find . -mindepth 1 -path ./DEBIAN -prune -o -printf "%y %s;"
+        WORKING_DIRECTORY ${folder} OUTPUT_VARIABLE entries COMMAND_ERROR_IS_FATAL ANY)
+    set(size 0)
     foreach(entry ${entries})
         set(bytes 1)
-        if(NOT IS_DIRECTORY ${entry} AND NOT IS_SYMLINK ${entry})
-            file(SIZE ${entry} bytes)
+        if(entry MATCHES "^f (.*)")
+            set(bytes ${CMAKE_MATCH_1})
         endif()
         math(EXPR size "${size} + (${bytes} + 1023) / 1024")
     endforeach()
