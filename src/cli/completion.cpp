@@ -54,6 +54,15 @@ QStringList WordsWithValues(bool files)
     return words;
 }
 
+/// Of all commands, since options may stand before the command.
+QStringList AllWords()
+{
+    QStringList words;
+    for (const OptionRow &row : OptionRows())
+        words += Words(row);
+    return words;
+}
+
 QString BashChoices(const Command &command)
 {
     QString cases;
@@ -94,7 +103,7 @@ _vellumo()
     *:%4) ;;
     *)
         case $command:$current in
-        :-*) words='--help --version' ;;
+        :-*) words='--help --version %7' ;;
         :* | help:*) words='%5' ;;
 %6        esac
         ;;
@@ -164,10 +173,9 @@ QString FishText(const QString &text)
     return QString(text).replace(u'\\', u"\\\\"_s).replace(u"'"_s, u"\\'"_s);
 }
 
-QString FishOption(const Command &command, const OptionRow &row)
+QString FishOption(const QString &condition, const Command &command, const OptionRow &row)
 {
-    QString line = u"complete -c vellumo -n '__fish_seen_subcommand_from %1' -l %2"_s.arg(
-        command.name, row.name);
+    QString line = u"complete -c vellumo -n '%1' -l %2"_s.arg(condition, row.name);
     if (!row.letter.isEmpty())
         line += " -s "_L1 + row.letter;
     if (const QString choices = Choices(command, row); !choices.isEmpty())
@@ -190,7 +198,7 @@ QByteArray BashCompletion()
     }
     return QString(bash)
         .arg(names.join(" | "_L1), choices, WordsWithValues(false).join(" | *:"_L1),
-             WordsWithValues(true).join(" | *:"_L1), names.join(u' '), cases)
+             WordsWithValues(true).join(" | *:"_L1), names.join(u' '), cases, AllWords().join(u' '))
         .toUtf8();
 }
 
@@ -223,11 +231,13 @@ QByteArray FishCompletion()
         "complete -c vellumo -n __fish_use_subcommand -f -a help -d 'Tells of a command'\n"
         "complete -c vellumo -n '__fish_seen_subcommand_from help' -f -a '%1'\n"_s.arg(
             CommandNames().join(u' '));
+    for (const OptionRow &row : OptionRows())
+        text += FishOption(u"__fish_use_subcommand"_s, {}, row);
     for (const Command &command : Commands()) {
         text += u"complete -c vellumo -n __fish_use_subcommand -f -a %1 -d '%2'\n"_s.arg(
             command.name, FishText(Brief(command.help)));
         for (const OptionRow &row : OptionsOf(command))
-            text += FishOption(command, row);
+            text += FishOption("__fish_seen_subcommand_from "_L1 + command.name, command, row);
     }
     return text.toUtf8();
 }

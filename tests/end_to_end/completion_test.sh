@@ -35,6 +35,7 @@ after review --gu | grep -q guid && fail 'bash completes an option that review d
 [ "$(after new --from S)" = $'ShelfAudit\nSiteVisit' ] || fail 'bash does not complete the name of an example'
 [ "$(after new --from = S)" = $'ShelfAudit\nSiteVisit' ] || fail 'bash does not complete --from=S'
 [ "$(after --json re | head -n 1)" = review ] || fail 'bash does not complete a command behind an option'
+after --js | grep -qx -- --json || fail 'bash does not complete an option before the command'
 [ "$(after items --from on)" = 'one form.vmp' ] || fail 'bash does not complete the name of a file of items'
 
 # ask_zsh TYPED COMPLETED: what zsh shows on a terminal of its own after TYPED and Tab, once it has
@@ -63,6 +64,8 @@ for shell in zsh fish; do
             fail 'fish does not complete the name of an example'
         fish -c "source $manual/vellumo.fish; complete -C 'vellumo --json re'" | cut -f 1 | grep -qx review ||
             fail 'fish does not complete a command behind an option'
+        fish -c "source $manual/vellumo.fish; complete -C 'vellumo --js'" | grep -q -- --json ||
+            fail 'fish does not complete an option before the command'
     else
         [[ $(ask_zsh 'vellumo cr' create) == *create* ]] || fail 'zsh does not complete cr'
         [[ $(ask_zsh 'vellumo review --str' --strict) == *--strict* ]] || fail 'zsh does not complete --str'
