@@ -50,6 +50,14 @@ TEST(ItemOrder, CountsItemsOfAQuestionThatHasNone)
     EXPECT_EQ(ItemOrderOf(source), (QStringList{u"1:a"_s, u"2"_s}));
 }
 
+TEST(ItemOrder, LeavesWhatItDoesNotNameAsItStands)
+{
+    const QList<ItemRow> items = {{1, u"a"_s}, {2, u"b"_s}, {1, u"c"_s}, {2, u"d"_s}};
+    clsDataSource source = SourceOf(items);
+    ASSERT_TRUE(ArrangeItems(source, *ReadItemOrder({u"9:x"_s})));
+    EXPECT_EQ(source.Items().Rows(), (QList<ItemRow>{{9, u"x"_s}} + items));
+}
+
 TEST(ItemOrder, SurvivesEditingOfTheRows)
 {
     clsDataSource source = SourceOf({{1, u"a"_s}, {1, u"new"_s}, {2, u"b"_s}, {2, u"c"_s}});

@@ -165,7 +165,25 @@ TEST(ScreenDrawing, AnOpenedListHasEightRowsAndAnArrowWhereThereAreMore)
     EXPECT_TRUE(DrawnList(FormOf(question, items)).last().startsWith(u"plain 14 116 "));
     const QStringList more = DrawnList(FormOf(question, items + QStringList{u"item 9"_s}));
     EXPECT_EQ(more.filter(u": item"_s).size(), 8);
-    EXPECT_TRUE(more.last().startsWith(u"ink ")) << more.last().toStdString();
+    EXPECT_EQ(more.sliced(more.size() - 6),
+              (QStringList{u"paper 35 108 9 9"_s, u"ink 38 109 3 4"_s, u"ink 36 113 7 1"_s,
+                           u"ink 37 114 5 1"_s, u"ink 38 115 3 1"_s, u"ink 39 116 1 1"_s}))
+        << "in the corner of a list that is 32 wide and ends at 45, 118";
+}
+
+TEST(ScreenDrawing, AScrollBarIsTheSameFromWhateverItCounts)
+{
+    Form form = FormOf({0, u"T"_s, u"?"_s, u"Checkboxes"_s, u"T"_s}, {u"item"_s});
+    const QStringList before = DrawnScreen(form);
+    ASSERT_TRUE(before.contains(scrollBar.last())) << "with its thumb";
+    for (FormObject &object : form.objects) {
+        if (object.kind == ObjectKind::ScrollBar) {
+            object.value += 5;
+            object.minimum += 5;
+            object.maximum += 5;
+        }
+    }
+    EXPECT_EQ(DrawnScreen(form), before);
 }
 
 TEST(ScreenDrawing, ATableShowsSevenRowsAndCutsACaptionThatIsTooWide)
@@ -218,4 +236,10 @@ TEST(ScreenDrawing, IsToldWithTheCaptionsOfItsCheckBoxes)
     EXPECT_FALSE(DescribeForm(FormOf({0, u"T"_s, u"?"_s, u"Pulldown List"_s, u"T"_s}, items))
                      .contains(u"Traffic"))
         << "its opened list has a drawing of its own";
+    for (const ObjectKind lost : {ObjectKind::Table, ObjectKind::List}) {
+        Form form = FormOf({0, u"T"_s, u"?"_s, u"Checkboxes"_s, u"T"_s}, items);
+        ASSERT_TRUE(
+            form.objects.removeIf([&](const FormObject &object) { return object.kind == lost; }));
+        EXPECT_FALSE(DescribeForm(form).contains(u"captions")) << "nothing shows them, or has them";
+    }
 }
