@@ -24,6 +24,9 @@ NAME = re.compile(r'[A-Za-z_][A-Za-z0-9._-]*')
 def rows(sheet):
     headings, *rest = sheet.iter_rows(values_only=True)
     assert list(headings) == HEADINGS[sheet.title], headings
+    wide = sheet.column_dimensions['A']  # and what follows it
+    assert wide.width > 20 and (wide.min, wide.max) == (1, len(headings)), sheet.title
+    assert sheet.freeze_panes == 'A2', sheet.title
     return [dict(zip(headings, row)) for row in rest]
 
 

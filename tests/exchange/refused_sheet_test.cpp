@@ -116,6 +116,10 @@ TEST(RefusedSheet, HasCaptionsAndRowsOfTheFormThatAreNotKnown)
                      u"6 Remembered titles: '\\b' means nothing; write '\\\\' for a backslash."_s,
                      u"7 Item order: 'x' tells of no items."_s}));
     EXPECT_EQ(
+        Refusals(QByteArray(50, 'x') + ",a\n" + heading),
+        QStringList{u"1 %1: No row above the heading has this name."_s.arg(QString(40, u'x'))})
+        << "of a long name, 40 characters are told";
+    EXPECT_EQ(
         Refusals("\nItem order,5:more\n" + heading + "5,,,a,Checkboxes,p,x\n"),
         QStringList{u"2 Item order: The question with the Id 5 has its items in its own row."_s});
 }
