@@ -110,6 +110,31 @@ rm "$example"
 find "$HOME/.local" -mindepth 2 -type d -empty -delete # whose they were is forgotten
 listed | diff "$work/before" - || fail 'something was left of what no list had'
 
+# The same folder by another name is the same; what no sum vouches for is the user's.
+run "$work/un packed/install"
+listed >"$work/installed"
+HOME="$HOME/" run "$work/un packed/install"
+listed | diff "$work/installed" - || fail 'something was lost by another name of the same folder'
+printf '<!-- mine -->\n' >>"$example"
+rm "$HOME/.local/lib/vellumo-designer/installed.sums"
+run "$work/un packed/install"
+grep -q mine "$example" || fail 'what was changed was lost with the sums'
+run "$work/un packed/uninstall"
+rm "$example"
+find "$HOME/.local/share/doc" -type d -empty -delete
+listed | diff "$work/before" - || fail 'something was left under another name'
+
+# Two installations keep out of each other's way.
+run "$work/un packed/install"
+listed >"$work/installed"
+! "$work/un packed/install" "$HOME/other" 2>"$work/told" || fail 'over the menu of another'
+XDG_DATA_HOME="$HOME/other data" run "$work/un packed/install" "$HOME/other"
+rm "$HOME/other/lib/vellumo-designer/installed.txt"
+! "$HOME/other/lib/vellumo-designer/uninstall" 2>"$work/told" || fail 'uninstall took back another installation'
+rm -r "$HOME/other" "$HOME/other data"
+listed | diff "$work/installed" - || fail 'the other installation was touched'
+run "$work/un packed/uninstall"
+
 # A newer version that cannot be written leaves one that works; it can be tried again, and what only an
 # older one had is gone.
 run "$work/un packed/install"
