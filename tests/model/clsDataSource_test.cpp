@@ -142,4 +142,8 @@ TEST(clsDataSource, AQuestionMayKeepItsOwnColumnName)
     source.MoveFirst();
     source.MoveNext();
     EXPECT_FALSE(source.ColumnNameUsedElsewhere(u"name"));
+    for (const int none : {-1, 3}) {
+        source.SetPosition(none);
+        EXPECT_TRUE(source.ColumnNameUsedElsewhere(u"name")) << "of no question in particular";
+    }
 }
