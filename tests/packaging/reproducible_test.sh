@@ -22,7 +22,7 @@ for file in "$package" "$archive"; do
     cmp "$file" "$work/again/${file##*/}"
 done
 # What the order of a disk and the size of its folders would bring.
-names=$(tar -tf "$archive")
+names=$(tar -tf "$archive" | tr / '\1')
 diff <(printf '%s\n' "$names") <(LC_ALL=C sort <<<"$names")
 mkdir "$work/installed" "$work/unpacked"
 dpkg-deb -x "$package" "$work/installed"
